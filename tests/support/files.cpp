@@ -1,0 +1,86 @@
+#include "support/files.h"
+
+#include <stdlib.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <iterator>
+#include <ostream>
+#include <stdexcept>
+#include <system_error>
+
+namespace fs = std::filesystem;
+
+namespace test {
+namespace {
+
+void MakeRemovable(fs::path const& folder) {
+  std::error_code ignored;
+  fs::permissions(folder, fs::perms::owner_all, fs::perm_options::add, ignored);
+  for (auto const& entry : fs::directory_iterator(folder, ignored)) {
+    if (!entry.is_symlink(ignored) && entry.is_directory(ignored)) MakeRemovable(entry.path());
+  }
+}
+
+}  // namespace
+
+TempDir::TempDir() {
+  std::string name = (fs::canonical(fs::temp_directory_path()) / "larkmoor-test-XXXXXX").string();
+  if (mkdtemp(name.data()) == nullptr) {
+    throw std::system_error(errno, std::generic_category(), "mkdtemp " + name);
+  }
+  path_ = name;
+}
+
+TempDir::~TempDir() {
+  MakeRemovable(path_);
+  std::error_code ignored;
+  fs::remove_all(path_, ignored);
+}
+
+void WriteFile(fs::path const& path, std::string const& bytes) {
+  if (path.has_parent_path()) fs::create_directories(path.parent_path());
+  std::ofstream out(path, std::ios::binary | std::ios::trunc);
+  out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  out.close();
+  if (!out) throw std::runtime_error("cannot write " + path.string());
+}
+
+std::string ReadFile(fs::path const& path) {
+  std::ifstream in(path, std::ios::binary);
+  if (!in) throw std::runtime_error("cannot read " + path.string());
+  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+std::ostream& operator<<(std::ostream& out, Node const& node) {
+  return out << node.type << ' ' << std::oct << node.mode << std::dec << " (" << node.content.size()
+             << " bytes) " << node.content.substr(0, 40);
+}
+
+Tree ReadTree(fs::path const& root) {
+  Tree tree;
+  if (!fs::exists(fs::symlink_status(root))) return tree;
+  for (auto const& entry : fs::recursive_directory_iterator(root)) {
+    Node node;
+    fs::file_status const status = entry.symlink_status();
+    node.mode = static_cast<unsigned>(status.permissions());
+    if (fs::is_symlink(status)) {
+      node.type = 'l';
+      node.mode = 0;
+      node.content = fs::read_symlink(entry.path()).string();
+    } else if (fs::is_directory(status)) {
+      node.type = 'd';
+    } else if (fs::is_regular_file(status)) {
+      node.type = 'f';
+      node.content = ReadFile(entry.path());
+    } else {
+      node.type = 'o';
+    }
+    tree[fs::relative(entry.path(), root).string()] = node;
+  }
+  return tree;
+}
+
+bool PermissionsApply() { return geteuid() != 0; }
+
+}  // namespace test
