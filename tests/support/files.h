@@ -31,9 +31,9 @@ std::string ReadFile(std::filesystem::path const& path);
 
 /// What stands at one place of a tree: everything about it that an installation has to keep.
 struct Node {
-  char type = 0;           ///< 'f' file, 'd' folder, 'l' link, 'o' anything else
-  unsigned mode = 0;       ///< permission bits; 0 for a link, whose bits mean nothing
-  std::string content;     ///< a file's bytes, a link's text, empty otherwise
+  char type = 0;        ///< 'f' file, 'd' folder, 'l' link, 'o' anything else
+  unsigned mode = 0;    ///< permission bits; 0 for a link, whose bits mean nothing
+  std::string content;  ///< a file's bytes, a link's text, empty otherwise
   bool operator==(Node const& other) const {
     return type == other.type && mode == other.mode && content == other.content;
   }

@@ -1,0 +1,59 @@
+# What the scripts of this folder share. Sourced, never run; kept to what bash 3.2 understands,
+# since that is the bash a Mac has.
+# shellcheck shell=bash
+set -euo pipefail
+
+PROJECT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
+SELF=$(basename "$0")
+
+say() { printf '== %s\n' "$*"; }
+
+warn() { printf '%s: warning: %s\n' "$SELF" "$*" >&2; }
+
+die() {
+  printf '%s: %s\n' "$SELF" "$*" >&2
+  exit 1
+}
+
+# The comment that heads a script is its help.
+show_help() { awk 'NR > 1 { if (!/^#/) exit; sub(/^# ?/, ""); print }' "$0"; }
+
+have() { command -v "$1" >/dev/null 2>&1; }
+
+on_mac() { [ "$(uname -s)" = Darwin ]; }
+
+# Number of parallel jobs: LARKMOOR_JOBS, else one for each core.
+jobs_wanted() {
+  if [ -n "${LARKMOOR_JOBS:-}" ]; then
+    printf '%s\n' "$LARKMOOR_JOBS"
+  elif have nproc; then
+    nproc
+  else
+    sysctl -n hw.ncpu 2>/dev/null || printf '2\n'
+  fi
+}
+
+# configure_preset PRESET: configures build/PRESET, through ccache where it is installed.
+configure_preset() {
+  if [ -z "${CMAKE_CXX_COMPILER_LAUNCHER:-}" ] && have ccache; then
+    export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+  fi
+  say "Configuring build/$1"
+  (cd "$PROJECT" && cmake --preset "$1" -Wno-dev >"$PROJECT/build/$1.configure.log" 2>&1) || {
+    cat "$PROJECT/build/$1.configure.log" >&2
+    die "CMake can't configure build/$1, see above. If a package is missing, run scripts/setup;" \
+      "if the folder is from another checkout, remove build/$1."
+  }
+}
+
+# build_preset PRESET [TARGET...]: builds the targets, or everything.
+build_preset() {
+  local preset=$1 targets=()
+  shift
+  if [ $# -gt 0 ]; then targets=(--target "$@"); fi
+  mkdir -p "$PROJECT/build"
+  configure_preset "$preset"
+  say "Building build/$preset"
+  cmake --build "$PROJECT/build/$preset" -j "$(jobs_wanted)" ${targets[@]+"${targets[@]}"} ||
+    die "the build of build/$preset failed, see the compiler's message above"
+}
