@@ -1,0 +1,52 @@
+#include "localisation/str-table.h"
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QLatin1String>
+
+namespace StrTable {
+namespace {
+
+constexpr int kRowCount = 524;
+
+constexpr bool EachRowStandsAtItsId() {
+  int next = 0;
+#define ROW(id, key, text) \
+  if (id != next++) return false;
+#include "localisation/str-table-rows.inc"
+#undef ROW
+  return next == kRowCount;
+}
+static_assert(EachRowStandsAtItsId(), "an id is frozen: rows are not moved, inserted or removed");
+
+char const* stab[kRowCount];  // the default English texts, UTF-8
+char const* ktab[kRowCount];  // the keys, ASCII
+
+}  // namespace
+
+void InitStrTable() {
+  // Stores at run time rather than initialised arrays: those would cost the dynamic linker a
+  // relocation for each entry on every start.
+#define ROW(id, key, text) \
+  stab[id] = text;         \
+  ktab[id] = key;
+#include "localisation/str-table-rows.inc"
+#undef ROW
+}
+
+QString LoadStr(int id) {
+  QString text = QCoreApplication::translate("global", stab[id], nullptr, -1);
+  // On the translated text, so that a translator may break a line where English doesn't.
+  text.replace(QLatin1String("\\n"), QLatin1String("\n"));
+  text.replace(QLatin1String("\\t"), QLatin1String("\t"));
+  return text;
+}
+
+int LookupStrID(QString key) {
+  for (int id = 0; id < kRowCount; ++id) {
+    if (qstricmp(key.toLocal8Bit().constData(), ktab[id]) == 0) return id;
+  }
+  return -1;
+}
+
+}  // namespace StrTable
