@@ -1,0 +1,142 @@
+#pragma once
+
+#include <atomic>
+#include <cstdarg>
+#include <cstdint>
+#include <cstdio>
+#include <map>
+#include <mutex>
+
+#include "foundation/ustring.h"
+
+/// Logs one record. `level` is a bare name of Logger::Level; the format is a literal that carries
+/// everything but the time stamp, its line break included, and takes the source line as its first
+/// argument:
+///
+///     LOG_MSG(LEVEL_ERROR, log_component::file_op(), "[ERROR] file-op(%d): open(%s)\n", path);
+///
+/// The macro supplies the line. At most six arguments follow the format.
+#define LOG_MSG(level, component, ...)                                                   \
+  LOG_MSG_PICK_(__VA_ARGS__, LOG_MSG_ARGS_, LOG_MSG_ARGS_, LOG_MSG_ARGS_, LOG_MSG_ARGS_, \
+                LOG_MSG_ARGS_, LOG_MSG_ARGS_, LOG_MSG_BARE_, unused)                     \
+  (level, component, __VA_ARGS__)
+
+// A macro can't be given an empty "..." before C++20, so a format without arguments needs a form
+// of its own. The arguments push the right form's name into place.
+#define LOG_MSG_PICK_(format, a1, a2, a3, a4, a5, a6, form, ...) form
+#define LOG_MSG_BARE_(level, component, format) \
+  Logger::LogMsg(Logger::level, component, format, __LINE__)
+#define LOG_MSG_ARGS_(level, component, format, ...) \
+  Logger::LogMsg(Logger::level, component, format, __LINE__, __VA_ARGS__)
+
+/// The components that records are filtered by, each made once.
+namespace log_component {
+ustring const& launcher();
+ustring const& service();
+ustring const& extractor();
+ustring const& file_op();
+ustring const& default_component();
+}  // namespace log_component
+
+/// The process-wide log. Works from the start of the process: until Initialize has run, records of
+/// LEVEL_ERROR and LEVEL_WARNING go to standard error.
+///
+/// Threads: LogMsg, LogMsg2, LogMSG_c may be called from any thread at any time. Initialize,
+/// Destroy, ReloadLogFile and the functions that make and destroy the lock and the shared data may
+/// run only while no other thread logs. A process that shares the log file with another one loses
+/// no record, but doesn't notice the other's rotation.
+///
+/// No failure of logging is ever reported through the log or to the writer of a record.
+class Logger {
+ public:
+  /// Where records go. A number that has no name opens the log file and then writes to standard
+  /// error, without time stamp.
+  enum Type : int {
+    TYPE_SYSLOG = 1,  ///< syslog, everything with priority LOG_ERR, without time stamp
+    TYPE_STDOUT = 2,
+    TYPE_STDERR = 3,
+    TYPE_FILE = 4,  ///< a file that is rotated by size
+  };
+
+  /// The severities, numbered as syslog does: a lower number is more severe.
+  enum Level : int {
+    LEVEL_ERROR = 3,
+    LEVEL_WARNING = 4,
+    LEVEL_NOTE = 5,
+    LEVEL_INFO = 6,
+    LEVEL_DEBUG = 7,
+  };
+
+  /// Sets up output and thresholds; may be called again. `level_file` names a Config file of
+  /// component=threshold lines, or is empty; when it is missing or malformed the thresholds stay
+  /// as they are. `rotate_count` is the number of generations, the live file included, and counts
+  /// for a log file only.
+  /// Returns 0, or -1 when memory is short or the log file has no name or can't be opened; the
+  /// type is then set already and the stream is still the earlier one. An earlier log file is not
+  /// closed.
+  static int Initialize(Type type, ustring const& log_file, ustring const& level_file,
+                        int rotate_count);
+  /// Ends logging and closes the log file. Records written from now on are dropped.
+  static void Destroy();
+
+  /// Writes one record when the component's threshold is at least `level`; a component without
+  /// threshold has LEVEL_WARNING. The record is flushed before the call returns.
+  static void LogMsg(Level level, ustring const& component, char const* format, ...)
+      __attribute__((format(printf, 3, 4)));
+  /// The same with an open argument list, which is used up.
+  static void LogMsg2(Level level, ustring const& component, char const* format, va_list args)
+      __attribute__((format(printf, 3, 0)));
+
+  /// Closes the log file and opens its path anew. When that fails, the log is silent until the
+  /// next Initialize. Nothing to do when the log is no file.
+  static void ReloadLogFile();
+  /// Shifts the old generations ("PATH_0" is the youngest), makes the live file generation 0 and
+  /// starts a new one. The caller holds the lock. Returns 0, or -1 when the live file couldn't be
+  /// renamed or the new one not be opened: the log is then silent until the next Initialize.
+  static int Rotate();
+
+  static void InitializeLock();
+  static void DestroyLock();
+  static void Lock();
+  static void Unlock();
+  /// There is no lock between processes: these do nothing.
+  static void InitializeFileLock();
+  static void DestroyFileLock();
+  /// The size and the shared rotation counter, uncleared: Initialize gives them their values.
+  static void InitializeSharedData();
+  static void DestroySharedData();
+
+ private:
+  friend struct LoggerProbe;  // lets the tests look at the members below
+
+  static bool HasSharedData();
+  static bool IsStandardType();
+  static bool IsPassing(Level level, ustring const& component);
+  static bool OpenLogFile(ustring const& path);
+  static void FollowRotation();
+  static int WriteRecord(char const* format, va_list args) __attribute__((format(printf, 1, 0)));
+  static void CountWritten(int written);
+
+  // Inline, so that they are constructed before every object of static storage in a file that
+  // includes this header: such an object's constructor may log. What is read ahead of the lock, or
+  // made on demand by whichever thread logs first, is atomic.
+  inline static Type log_type = TYPE_STDOUT;
+  inline static int rotate_cnt = 50;
+  inline static int log_flock = -1;           // reserved for a lock between processes
+  inline static bool log_initialized = true;  // false only after Destroy
+  inline static std::map<ustring, int> log_level;
+  // On purpose not the stream that the type names: an early record belongs on standard error.
+  inline static std::atomic<FILE*> log_fp{stderr};
+  inline static std::atomic<int*> log_size{nullptr};  // bytes written since the file was opened
+  inline static ustring log_path;
+  inline static std::atomic<std::mutex*> log_lock{nullptr};
+  inline static bool inter_process_safe = false;  // reserved
+  // Rotations done, and those that this process has followed. They differ only when the first one
+  // lives in memory that another process writes too, which isn't so here.
+  inline static std::atomic<std::uint64_t*> log_rotated_count_shared{nullptr};
+  inline static std::uint64_t log_rotated_count_private = 0;
+};
+
+/// LogMsg2 for callers that hold neither a ustring nor a Logger::Level.
+void LogMSG_c(int level, char* component, char const* format, va_list args)
+    __attribute__((format(printf, 3, 0)));
