@@ -1,0 +1,36 @@
+#include <linux/magic.h>
+#include <sys/vfs.h>
+
+#include "platform/file-system-name.h"
+
+namespace platform {
+
+namespace {
+
+/// No driver of the kernel speaks AFP, so "afpfs" doesn't occur here.
+char const* NameOfType(unsigned long type) {
+  // The type is signed where it is stored, so that magic numbers of 32 bits may come back negative.
+  switch (type & 0xFFFFFFFFUL) {
+    case NFS_SUPER_MAGIC:
+      return "nfs";
+    case SMB_SUPER_MAGIC:
+    case CIFS_SUPER_MAGIC:
+    case SMB2_SUPER_MAGIC:
+      return "smbfs";
+    case MSDOS_SUPER_MAGIC:
+      return "msdos";
+    default:
+      return "";
+  }
+}
+
+}  // namespace
+
+int FileSystemName(char const* path, std::string& name) {
+  struct statfs info;
+  if (statfs(path, &info) != 0) return -1;
+  name = NameOfType(static_cast<unsigned long>(info.f_type));
+  return 0;
+}
+
+}  // namespace platform
