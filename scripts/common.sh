@@ -57,3 +57,32 @@ build_preset() {
   cmake --build "$PROJECT/build/$preset" -j "$(jobs_wanted)" ${targets[@]+"${targets[@]}"} ||
     die "the build of build/$preset failed, see the compiler's message above"
 }
+
+# version_value INFO KEY: the value of a key in the group "Version", empty without one.
+version_value() {
+  awk -v key="$2" '
+    { sub(/\r$/, "") }
+    /^[ \t]*\[/ { inside = /^[ \t]*\[Version\][ \t]*$/; next }
+    inside && index($0, "=") {
+      name = substr($0, 1, index($0, "=") - 1)
+      value = substr($0, index($0, "=") + 1)
+      gsub(/^[ \t]+|[ \t]+$/, "", name)
+      gsub(/^[ \t"]+|[ \t"]+$/, "", value)
+      if (name == key) found = value
+    }
+    END { print found }' "$1"
+}
+
+# The tar of libarchive: "bsdtar" on Debian, both names on a Mac.
+bsdtar_name() {
+  if have bsdtar; then
+    echo bsdtar
+  elif on_mac; then
+    echo tar
+  else
+    die "bsdtar is missing: install Debian's libarchive-tools, or run scripts/setup test"
+  fi
+}
+
+# A locale in which names can be converted to and from UTF-8.
+utf8_locale() { if on_mac; then echo en_US.UTF-8; else echo C.UTF-8; fi; }

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+
+/// The client's one window: its build number and what it is doing.
+class ClientWindow : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit ClientWindow(QString const& build);
+
+  void SetState(QString const& text);
+
+ private:
+  QLabel* const state_;
+};

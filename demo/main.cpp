@@ -1,0 +1,33 @@
+// A stand-in for the sync client: it shows a window, keeps its pid file and ends on SIGTERM, which
+// is all that the launcher knows of the client.
+#include <QApplication>
+#include <QDir>
+#include <QLockFile>
+
+#include "client-files.h"
+#include "client-window.h"
+#include "termination-signal.h"
+
+int main(int argc, char** argv) {
+  QApplication app(argc, argv);
+  bool const ignore = app.arguments().contains("--ignore-sigterm") || IsToldToIgnoreTermination();
+
+  // A bundle that is opened while its program runs gets no second program.
+  QDir().mkpath(UserRoot() + "/data");
+  QLockFile running(UserRoot() + "/data/ui.lock");
+  running.setStaleLockTime(0);
+  if (!running.tryLock(0)) return 0;
+
+  ClientWindow window(BuildVersion());
+  window.SetState(ignore ? "Up to date (SIGTERM is ignored)" : "Up to date");
+  TerminationSignal termination;
+  if (ignore) {
+    IgnoreTermination();
+  } else {
+    QObject::connect(&termination, &TerminationSignal::Received, &app, &QApplication::quit);
+  }
+
+  PidFile const pid_file;
+  window.show();
+  return QApplication::exec();
+}
