@@ -1,0 +1,283 @@
+#include <gmock/gmock.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QSet>
+#include <QTranslator>
+#include <algorithm>
+#include <iterator>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "libcommon/TovarelLocale.h"
+#include "localisation/str-table.h"
+#include "qm-file.h"
+#include "support/files.h"
+
+int qInitResources_texts();
+int qCleanupResources_texts();
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+namespace {
+
+constexpr int kRowCount = 524;
+constexpr std::size_t kTextCount = 474;
+
+// A language whose translation isn't finished speaks English where it has no text. What must hold
+// of a whole catalogue is tested for these.
+char const* const kCompleteCatalogues[] = {"enu"};
+
+std::vector<std::string> CompleteCatalogues() {
+  return {std::begin(kCompleteCatalogues), std::end(kCompleteCatalogues)};
+}
+
+std::vector<std::string> AllCatalogues() {
+  std::vector<std::string> names;
+  for (QString const& name : TovarelLocale::getSupportedLanguages()) {
+    names.push_back(name.toStdString());
+  }
+  return names;
+}
+
+QString Path(std::string const& name) { return ":/" + QString::fromStdString(name) + ".qm"; }
+
+test::QmFile Read(std::string const& name) {
+  QFile file(Path(name));
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
+  return test::ReadQmFile(file.readAll().toStdString());
+}
+
+std::vector<std::string> Sources(test::QmFile const& file) {
+  std::vector<std::string> sources;
+  for (auto const& message : file.messages) sources.push_back(message.source);
+  return sources;
+}
+
+std::string NameOf(testing::TestParamInfo<std::string> const& parameter) { return parameter.param; }
+
+class WithResource : public testing::Test {
+ protected:
+  WithResource() {
+    qInitResources_texts();
+    StrTable::InitStrTable();
+  }
+
+  // The texts of a row in English and in the language installed.
+  static std::string Text(int id) { return StrTable::LoadStr(id).toStdString(); }
+
+  void Install(std::string const& name) {
+    ASSERT_TRUE(translator_.load(Path(name), QString(), QString(), QString()));
+    ASSERT_FALSE(translator_.isEmpty());
+    QCoreApplication::installTranslator(&translator_);
+  }
+
+  int argc_ = 0;
+  QCoreApplication app_{argc_, nullptr};
+  QTranslator translator_;
+};
+
+class TextsResource : public WithResource {};
+
+TEST_F(TextsResource, HoldsTheTwentyCataloguesUnderItsRootAndNothingElse) {
+  std::vector<std::string> found;
+  for (QString const& entry : QDir(":/").entryList(QDir::AllEntries | QDir::Hidden)) {
+    if (entry != "qt-project.org") found.push_back(entry.toStdString());  // that one is QtCore's
+  }
+  std::vector<std::string> expected;
+  for (std::string const& name : AllCatalogues()) expected.push_back(name + ".qm");
+  EXPECT_THAT(found, testing::UnorderedElementsAreArray(expected));
+}
+
+TEST_F(TextsResource, IsCompiledAtFormatVersionOneUnderItsNames) {
+  std::string const source = test::ReadFile(TEXTS_SOURCE);
+  EXPECT_THAT(source, HasSubstr("int version = 1;"));
+  EXPECT_THAT(source, HasSubstr("qInitResources_texts)()"));
+  EXPECT_THAT(source, HasSubstr("qCleanupResources_texts)()"));
+  EXPECT_THAT(source, HasSubstr("qt_resource_struct[]"));
+  EXPECT_THAT(source, HasSubstr("qt_resource_name[]"));
+  EXPECT_THAT(source, HasSubstr("qt_resource_data[]"));
+}
+
+TEST_F(TextsResource, IsThereBeforeAnyoneAsksAndAfterASecondRegistration) {
+  EXPECT_TRUE(QFile::exists(":/enu.qm"));
+  EXPECT_EQ(qInitResources_texts(), 1);
+  EXPECT_TRUE(QFile::exists(":/enu.qm"));
+}
+
+TEST_F(TextsResource, LeavesTheTableInEnglishWhenItIsGone) {
+  EXPECT_EQ(qCleanupResources_texts(), 1);
+  EXPECT_FALSE(translator_.load(":/enu.qm", QString(), QString(), QString()));
+  EXPECT_TRUE(translator_.isEmpty());
+  EXPECT_EQ(Text(519), "Larkmoor Drive is ready.");
+  qInitResources_texts();
+}
+
+class AnyCatalogue : public WithResource, public testing::WithParamInterface<std::string> {};
+
+TEST_P(AnyCatalogue, OpensAndLoads) {
+  QFile file(Path(GetParam()));
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+  Install(GetParam());
+}
+
+TEST_P(AnyCatalogue, IsTheHashTableAndTheMessagesAndNothingElse) {
+  test::QmFile const file = Read(GetParam());
+  EXPECT_EQ(file.magic, "\x3c\xb8\x64\x18\xca\xef\x9c\x95\xcd\x21\x1c\xbf\x60\xa1\xbd\xdd");
+  ASSERT_EQ(file.sections.size(), 2U);
+  EXPECT_EQ(file.sections[0].tag, 0x42);
+  EXPECT_EQ(file.sections[1].tag, 0x69);
+}
+
+TEST_P(AnyCatalogue, SortsItsHashesAndPointsEachAtItsMessage) {
+  test::QmFile const file = Read(GetParam());
+  ASSERT_EQ(file.hashes.size(), file.messages.size());
+  EXPECT_TRUE(std::is_sorted(file.hashes.begin(), file.hashes.end(), [](auto& a, auto& b) {
+    return std::tie(a.hash, a.offset) < std::tie(b.hash, b.offset);
+  }));
+  for (auto const& message : file.messages) {
+    auto const entry =
+        std::find_if(file.hashes.begin(), file.hashes.end(),
+                     [&](auto const& candidate) { return candidate.offset == message.offset; });
+    ASSERT_NE(entry, file.hashes.end()) << message.source;
+    EXPECT_EQ(entry->hash, test::QmHash(message.source)) << message.source;
+  }
+}
+
+TEST_P(AnyCatalogue, KeepsTheSameRecordsInEveryMessage) {
+  for (auto const& message : Read(GetParam()).messages) {
+    EXPECT_THAT(message.tags, ElementsAre(0x03, 0x08, 0x06, 0x07, 0x01)) << message.source;
+    EXPECT_FALSE(message.translation.empty()) << message.source;
+    EXPECT_EQ(message.comment, "") << message.source;
+    EXPECT_EQ(message.context, "global") << message.source;
+  }
+}
+
+TEST_P(AnyCatalogue, KeepsTheNameOfTheProgram) {
+  Install(GetParam());
+  EXPECT_EQ(Text(438), "Larkmoor Drive");
+}
+
+TEST_P(AnyCatalogue, SpeaksInNoOtherContext) {
+  Install(GetParam());
+  char const* const source = "Larkmoor Drive is ready.";
+  EXPECT_FALSE(translator_.translate("global", source).isEmpty());
+  EXPECT_TRUE(translator_.translate("Global", source).isEmpty());
+  EXPECT_TRUE(translator_.translate("Launcher", source).isEmpty());
+  EXPECT_TRUE(translator_.translate("", source).isEmpty());
+}
+
+TEST_P(AnyCatalogue, SaysTheSameWhereTwoRowsShareAText) {
+  Install(GetParam());
+  EXPECT_EQ(Text(18), Text(521));
+  EXPECT_EQ(Text(233), Text(344));
+}
+
+INSTANTIATE_TEST_SUITE_P(, AnyCatalogue, testing::ValuesIn(AllCatalogues()), NameOf);
+
+class CompleteCatalogue : public WithResource, public testing::WithParamInterface<std::string> {};
+
+TEST_P(CompleteCatalogue, HasOneMessageForEachTextOfTheTable) {
+  QSet<QString> texts;
+  for (int id = 0; id < kRowCount; ++id) texts.insert(StrTable::LoadStr(id));
+  test::QmFile const file = Read(GetParam());
+  EXPECT_EQ(file.sections[0].bytes.size(), 3792U);
+  EXPECT_EQ(file.messages.size(), kTextCount);
+  QSet<QString> sources;
+  for (std::string const& source : Sources(file)) sources.insert(QString::fromStdString(source));
+  EXPECT_EQ(sources, texts);
+}
+
+TEST_P(CompleteCatalogue, OrdersItsTextsLikeTheEnglishOne) {
+  EXPECT_EQ(Sources(Read(GetParam())), Sources(Read("enu")));
+}
+
+TEST_P(CompleteCatalogue, TranslatesEveryRow) {
+  std::vector<std::string> english;
+  for (int id = 0; id < kRowCount; ++id) english.push_back(Text(id));
+  Install(GetParam());
+  for (std::string const& text : english) {
+    EXPECT_FALSE(translator_.translate("global", text.c_str()).isEmpty()) << text;
+    EXPECT_TRUE(translator_.translate("elsewhere", text.c_str()).isEmpty()) << text;
+  }
+}
+
+TEST_P(CompleteCatalogue, HoldsNoEscapeThatLoadStrWouldReplace) {
+  for (auto const& message : Read(GetParam()).messages) {
+    EXPECT_EQ(message.translation.find(u"\\n"), std::u16string::npos) << message.source;
+    EXPECT_EQ(message.translation.find(u"\\t"), std::u16string::npos) << message.source;
+  }
+}
+
+TEST_P(CompleteCatalogue, ReadsLikeItsSourceInAFewTextsOnlyUnlessItIsEnglish) {
+  auto const messages = Read(GetParam()).messages;
+  auto const same = std::count_if(messages.begin(), messages.end(), [](auto const& message) {
+    return QString::fromStdU16String(message.translation) == QString::fromStdString(message.source);
+  });
+  if (GetParam() == "enu") {
+    EXPECT_EQ(static_cast<std::size_t>(same), kTextCount);
+  } else {
+    EXPECT_GE(same, 2);
+    EXPECT_LE(same, 20);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(, CompleteCatalogue, testing::ValuesIn(CompleteCatalogues()), NameOf);
+
+class EnglishCatalogue : public WithResource {};
+
+TEST_F(EnglishCatalogue, ChangesNoText) {
+  std::vector<std::string> english;
+  for (int id = 0; id < kRowCount; ++id) english.push_back(Text(id));
+  Install("enu");
+  for (int id = 0; id < kRowCount; ++id) {
+    EXPECT_EQ(Text(id), english[static_cast<std::size_t>(id)]);
+  }
+}
+
+struct LauncherTexts {
+  char const* catalogue;
+  char const* preparing;  // row 371
+  char const* ready;      // row 519
+};
+
+constexpr LauncherTexts kLauncherTexts[] = {
+    {"enu", "Larkmoor Drive is initializing...", "Larkmoor Drive is ready."},
+    {"cht", "Larkmoor Drive 準備中...", "Larkmoor Drive 準備完成"},
+    {"chs", "Larkmoor Drive 正在初始化...", "Larkmoor Drive 已就绪。"},
+    {"jpn", "Larkmoor Drive は初期化中です。", "Larkmoor Drive は準備完了です。"},
+    {"deu", "Larkmoor Drive wird initialisiert ...", "Larkmoor Drive ist bereit."},
+    {"krn", "Larkmoor Drive 초기화 중...", "Larkmoor Drive 사용 준비가 되었습니다."},
+    {"fra", "Larkmoor Drive est en cours d'initialisation...", "Larkmoor Drive est prêt."},
+    {"ita", "Larkmoor Drive sta inizializzando...", "Larkmoor Drive pronta."},
+    {"esn", "Larkmoor Drive se está inicializando...", "Larkmoor Drive está lista."},
+    {"ptb", "O Larkmoor Drive está sendo inicializado...", "O Larkmoor Drive está pronto."},
+    {"rus", "Larkmoor Drive выполняет инициализацию...", "Larkmoor Drive готов."},
+    {"dan", "Larkmoor Drive initialiserer...", "Larkmoor Drive er klar."},
+    {"nor", "Larkmoor Drive starter opp...", "Larkmoor Drive er klar."},
+    {"sve", "Larkmoor Drive initialiserar...", "Larkmoor Drive är klar."},
+    {"nld", "Larkmoor Drive is bezig met initialisatie...", "Larkmoor Drive is gereed."},
+    {"plk", "Aplikacja Larkmoor Drive jest inicjowana...", "Aplikacja Larkmoor Drive jest gotowa."},
+    {"hun", "A Larkmoor Drive inicializálása folyamatban...", "A Larkmoor Drive készen áll."},
+    {"ptg", "Larkmoor Drive a iniciar...", "Larkmoor Drive pronta."},
+    {"trk", "Larkmoor Drive başlıyor...", "Larkmoor Drive hazır."},
+    {"csy", "Larkmoor Drive se inicializuje...", "Larkmoor Drive je připravena."},
+};
+
+class LauncherCatalogue : public WithResource, public testing::WithParamInterface<LauncherTexts> {};
+
+TEST_P(LauncherCatalogue, SpeaksTheTextsThatTheDialogShows) {
+  Install(GetParam().catalogue);
+  EXPECT_EQ(Text(371), GetParam().preparing);
+  EXPECT_EQ(Text(519), GetParam().ready);
+}
+
+INSTANTIATE_TEST_SUITE_P(, LauncherCatalogue, testing::ValuesIn(kLauncherTexts),
+                         [](testing::TestParamInfo<LauncherTexts> const& parameter) {
+                           return std::string(parameter.param.catalogue);
+                         });
+
+}  // namespace
