@@ -1,0 +1,635 @@
+#include "support/ustring-model.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <sstream>
+#include <stdexcept>
+#include <utility>
+#include <vector>
+
+#include "foundation/ustring.h"
+#include "support/captured-cerr.h"
+#include "support/ustring-probe.h"
+
+namespace test {
+namespace {
+
+constexpr unsigned long kAll = ustring::npos;
+
+using Wide = std::basic_string<unsigned short>;
+
+std::string UpToNul(std::string const& s) { return s.substr(0, s.find('\0')); }
+Wide UpToNul(Wide const& s) { return s.substr(0, s.find(static_cast<unsigned short>(0))); }
+
+// ---- the two encodings, by the book ----
+
+bool IsContinuation(std::string const& s, size_t at) {
+  return at < s.size() && (static_cast<unsigned char>(s[at]) & 0xC0) == 0x80;
+}
+
+/// One character of UTF-8; false when there is none at that place.
+bool Decode(std::string const& s, size_t& at, uint32_t& c) {
+  auto const lead = static_cast<unsigned char>(s[at]);
+  size_t const more = lead < 0x80 ? 0 : lead < 0xC2 ? 9 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
+  if (more == 9 || lead > 0xF4) return false;
+  c = more == 0 ? lead : lead & (0x3FU >> more);
+  for (size_t i = 1; i <= more; ++i) {
+    if (!IsContinuation(s, at + i)) return false;
+    c = c << 6 | (static_cast<unsigned char>(s[at + i]) & 0x3FU);
+  }
+  constexpr uint32_t kLeast[] = {0, 0x80, 0x800, 0x10000};
+  if (c < kLeast[more] || c > 0x10FFFF || (c >= 0xD800 && c < 0xE000)) return false;
+  at += more + 1;
+  return true;
+}
+
+bool ToWide(std::string const& s, Wide& out) {
+  out.clear();
+  for (size_t at = 0; at < s.size();) {
+    uint32_t c = 0;
+    if (!Decode(s, at, c)) return false;
+    if (c >= 0x10000) {
+      out += static_cast<unsigned short>(0xD7C0 + (c >> 10));
+      c = 0xDC00 | (c & 0x3FF);
+    }
+    out += static_cast<unsigned short>(c);
+  }
+  return true;
+}
+
+void Encode(uint32_t c, std::string& out) {
+  int const more = c < 0x80 ? 0 : c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
+  constexpr uint32_t kLead[] = {0, 0xC0, 0xE0, 0xF0};
+  out += static_cast<char>(kLead[more] | c >> (6 * more));
+  for (int i = more - 1; i >= 0; --i) out += static_cast<char>(0x80 | ((c >> (6 * i)) & 0x3F));
+}
+
+bool ToNarrow(Wide const& s, std::string& out) {
+  out.clear();
+  for (size_t at = 0; at < s.size(); ++at) {
+    uint32_t c = s[at];
+    if (c >= 0xDC00 && c < 0xE000) return false;
+    if (c >= 0xD800 && c < 0xDC00) {
+      if (++at == s.size() || s[at] < 0xDC00 || s[at] >= 0xE000) return false;
+      c = 0x10000 + ((c - 0xD800) << 10) + (s[at] - 0xDC00U);
+    }
+    Encode(c, out);
+  }
+  return true;
+}
+
+// ---- the model ----
+
+unsigned long Refit(unsigned long capacity, size_t needed) {
+  return capacity < needed || capacity / 2 > needed ? needed : capacity;
+}
+
+struct Model {
+  std::string text;
+  Wide wide;
+  unsigned long capacity = 4;
+  unsigned long wide_capacity = 4;
+  long warnings = 0;
+
+  Model() = default;
+  explicit Model(std::string const& s) { Append(s); }
+
+  void Clear() {
+    text.clear();
+    wide.clear();
+  }
+  void Append(std::string const& s) {
+    text += UpToNul(s);
+    capacity = Refit(capacity, text.size() + 1);
+    wide.clear();
+  }
+  void Assign(std::string const& s) {
+    Clear();
+    Append(s);
+  }
+  void Truncate(unsigned long n) {
+    if (n >= text.size()) return;
+    text.resize(n);
+    wide.clear();
+  }
+  void FillWide() {
+    Wide converted;
+    bool const valid = ToWide(text, converted);
+    if (!valid) ++warnings;
+    wide = valid ? converted : Wide();
+    wide_capacity = Refit(wide_capacity, wide.size() + 1);
+  }
+  void FillWideIfEmpty() {
+    if (wide.empty()) FillWide();
+  }
+  void FillText() {
+    std::string converted;
+    bool const valid = ToNarrow(wide, converted);
+    if (!valid) ++warnings;
+    capacity = Refit(capacity, valid ? converted.size() + 1 : 1);
+    text = valid ? converted : std::string();
+    if (!valid) wide.clear();
+  }
+  void BeginWideAppend() {
+    if (wide.empty() && !text.empty()) FillWide();
+  }
+  void AppendWide(Wide const& s) {
+    BeginWideAppend();
+    AppendUnits(s);
+  }
+  void AppendUnits(Wide const& s) {
+    wide += UpToNul(s);
+    wide_capacity = Refit(wide_capacity, wide.size() + 1);
+    FillText();
+  }
+  void AssignWide(Wide const& s) {
+    Clear();
+    AppendWide(s);
+  }
+};
+
+enum Search { kFind, kFindFirstOf, kFindFirstNotOf, kRfind, kFindLastOf, kFindLastNotOf };
+
+bool Matches(Search search, std::string const& text, size_t at, std::string const& pattern) {
+  if (search == kFind || search == kRfind) return text.substr(at, pattern.size()) == pattern;
+  bool const in_set = pattern.find(text[at]) != std::string::npos;
+  return in_set == (search == kFindFirstOf || search == kFindLastOf);
+}
+
+unsigned long ModelSearch(Search search, std::string const& text, std::string const& pattern,
+                          unsigned long pos) {
+  if (search <= kFindFirstNotOf) {
+    for (size_t at = pos; at < text.size(); ++at) {
+      if (Matches(search, text, at, pattern)) return at;
+    }
+    return kAll;
+  }
+  for (size_t at = text.size(); at-- > 0;) {
+    if (at <= pos && Matches(search, text, at, pattern)) return at;
+  }
+  return kAll;
+}
+
+template <class Pattern>
+unsigned long RealSearch(Search search, ustring const& s, Pattern const& p, unsigned long pos) {
+  switch (search) {
+    case kFind:
+      return s.find(p, pos);
+    case kFindFirstOf:
+      return s.find_first_of(p, pos);
+    case kFindFirstNotOf:
+      return s.find_first_not_of(p, pos);
+    case kRfind:
+      return s.rfind(p, pos);
+    case kFindLastOf:
+      return s.find_last_of(p, pos);
+    default:
+      return s.find_last_not_of(p, pos);
+  }
+}
+
+std::string Folded(std::string s) {
+  for (char& c : s) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 32);
+  }
+  return s;
+}
+
+int ModelCompare(std::string const& a, std::string const& b) {
+  for (size_t i = 0; i < a.size() || i < b.size(); ++i) {
+    int const left = i < a.size() ? static_cast<unsigned char>(a[i]) : 0;
+    int const right = i < b.size() ? static_cast<unsigned char>(b[i]) : 0;
+    if (left != right) return left - right;
+  }
+  return 0;
+}
+
+// ---- the script ----
+
+class Script {
+ public:
+  explicit Script(std::string const& bytes) : bytes_(bytes) {}
+
+  bool AtEnd() const { return at_ >= bytes_.size(); }
+  unsigned Byte() { return AtEnd() ? 0 : static_cast<unsigned char>(bytes_[at_++]); }
+  char Char() { return static_cast<char>(Byte()); }
+  char CharButNul() {
+    char const c = Char();
+    return c == '\0' ? 'x' : c;
+  }
+  std::string Bytes() {
+    std::string s(Byte() % 24, '\0');
+    for (char& c : s) c = Char();
+    return s;
+  }
+  Wide Units() {
+    Wide s(Byte() % 8, 0);
+    for (unsigned short& c : s) c = Unit();
+    return s;
+  }
+  unsigned short Unit() {
+    unsigned const first = Byte();
+    return static_cast<unsigned short>(first < 0xD0 ? first : first << 8 | Byte());
+  }
+  /// A place in, at the end of, or just behind a text.
+  unsigned long Position(size_t length) {
+    unsigned const byte = Byte();
+    return byte == 255 ? kAll : byte % (length + 3);
+  }
+
+ private:
+  std::string const& bytes_;
+  size_t at_ = 0;
+};
+
+// ---- the comparison ----
+
+class Comparison {
+ public:
+  explicit Comparison(std::string const& script) : script_(script) {}
+
+  std::string Run() {
+    static constexpr Step kSteps[] = {
+        {"append", &Comparison::Append},
+        {"append(n)", &Comparison::AppendCount},
+        {"append(c)", &Comparison::AppendChar},
+        {"append(string)", &Comparison::AppendString},
+        {"append(u)", &Comparison::AppendPart},
+        {"append(self)", &Comparison::AppendSelf},
+        {"append(own)", &Comparison::AppendOwn},
+        {"assign", &Comparison::Assign},
+        {"assign(n)", &Comparison::AssignCount},
+        {"assign(c)", &Comparison::AssignChar},
+        {"assign(u)", &Comparison::AssignPart},
+        {"assign(self)", &Comparison::AssignSelf},
+        {"assign(own)", &Comparison::AssignOwn},
+        {"assign(string)", &Comparison::AssignString},
+        {"wide append", &Comparison::WideAppend},
+        {"wide append(c)", &Comparison::WideAppendChar},
+        {"wide own", &Comparison::WideOwn},
+        {"wide assign", &Comparison::WideAssign},
+        {"utf16", &Comparison::Utf16},
+        {"search", &Comparison::SearchText},
+        {"trim", &Comparison::Trim},
+        {"replace", &Comparison::Replace},
+        {"operator[]", &Comparison::Poke},
+        {"substr", &Comparison::Substr},
+        {"compare", &Comparison::Compare},
+        {"clear", &Comparison::Clear},
+        {"copy", &Comparison::Copy},
+        {"move", &Comparison::Move},
+        {"swap", &Comparison::Swap},
+        {"operator+", &Comparison::Plus},
+        {"stream", &Comparison::Stream},
+        {"normalize", &Comparison::Normalize},
+    };
+    CapturedCerr const cerr;
+    while (!script_.AtEnd() && difference_.empty() && model_.text.size() < 4000) {
+      Step const& step = kSteps[script_.Byte() % (sizeof kSteps / sizeof *kSteps)];
+      step_ = step.name;
+      (this->*step.run)();
+      CompareState(real_, model_);
+      Expect(cerr.lines() == model_.warnings, "warnings");
+    }
+    return difference_;
+  }
+
+ private:
+  struct Step {
+    char const* name;
+    void (Comparison::*run)();
+  };
+
+  void Expect(bool holds, std::string const& what) {
+    if (!holds && difference_.empty()) difference_ = std::string(step_) + ": " + what;
+  }
+
+  void CompareState(ustring const& real, Model const& model) {
+    Expect(real.c_str() == model.text,
+           "text '" + std::string(real.c_str()) + "', not '" + model.text + "'");
+    Expect(real.length() == model.text.size(), "length");
+    Expect(real.size() == real.length() && real.empty() == model.text.empty(), "size");
+    Expect(UstringProbe::DataCapacity(real) == model.capacity, "capacity");
+    Expect(UstringProbe::WideCapacity(real) == model.wide_capacity, "wide capacity");
+    Expect(UstringProbe::Wide(real) == model.wide, "wide text");
+    Expect(UstringProbe::WideLength(real) == model.wide.size(), "wide length");
+  }
+
+  /// Whether the call threw as a position behind the end has to.
+  template <class Call>
+  bool Throws(char const* text, Call const& call) {
+    try {
+      call();
+    } catch (std::out_of_range const& error) {
+      Expect(std::string(error.what()) == text, "text of the error");
+      return true;
+    }
+    return false;
+  }
+
+  void Append() {
+    std::string const s = script_.Bytes();
+    real_ += s.c_str();
+    model_.Append(s);
+  }
+  void AppendCount() {
+    std::string const s = script_.Bytes();
+    unsigned long const n = script_.Position(s.size());
+    real_.append(s.c_str(), n);
+    model_.Append(UpToNul(s).substr(0, n));
+  }
+  void AppendChar() {
+    char const c = script_.Char();
+    unsigned const n = script_.Byte() % 9;
+    real_.append(c, n);
+    model_.Append(std::string(n, c));
+  }
+  void AppendString() {
+    std::string const s = script_.Bytes();
+    unsigned long const pos = script_.Position(s.size());
+    unsigned long const n = script_.Position(s.size());
+    bool const threw = Throws("basic_string::substr", [&] { real_.append(s, pos, n); });
+    Expect(threw == (pos > s.size()), "out of range");
+    if (!threw) model_.Append(s.substr(pos, n));
+  }
+  void AppendPart() {
+    std::string const s = UpToNul(script_.Bytes());
+    unsigned long const pos = script_.Position(s.size());
+    unsigned long const n = script_.Position(s.size());
+    bool const threw = Throws("substr", [&] { real_.append(ustring(s), pos, n); });
+    Expect(threw == (pos > s.size()), "out of range");
+    if (!threw) model_.Append(s.substr(pos, n));
+  }
+  void AppendSelf() {
+    unsigned long const pos = script_.Position(model_.text.size());
+    unsigned long const n = script_.Position(model_.text.size());
+    bool const threw = Throws("substr", [&] { real_.append(real_, pos, n); });
+    Expect(threw == (pos > model_.text.size()), "out of range");
+    if (!threw) model_.Append(model_.text.substr(pos, n));
+  }
+  void AppendOwn() {
+    unsigned long const n = script_.Position(model_.text.size());
+    size_t const from = script_.Byte() % (model_.text.size() + 1);
+    real_.append(real_.c_str() + from, n);
+    model_.Append(model_.text.substr(from, n));
+  }
+
+  void Assign() {
+    std::string const s = script_.Bytes();
+    real_ = s.c_str();
+    model_.Assign(s);
+  }
+  void AssignCount() {
+    std::string const s = script_.Bytes();
+    unsigned long const n = script_.Position(s.size());
+    real_.assign(s.c_str(), n);
+    model_.Assign(UpToNul(s).substr(0, n));
+  }
+  void AssignChar() {
+    char const c = script_.Char();
+    unsigned const n = script_.Byte() % 9;
+    real_.assign(c, n);
+    model_.Assign(std::string(n, c));
+  }
+  void AssignPart() {
+    std::string const s = UpToNul(script_.Bytes());
+    unsigned long const pos = script_.Position(s.size());
+    unsigned long const n = script_.Position(s.size());
+    bool const threw = Throws("substr", [&] { real_.assign(ustring(s), pos, n); });
+    Expect(threw == (pos > s.size()), "out of range");
+    if (threw) {
+      model_.Clear();
+    } else {
+      model_.Assign(s.substr(pos, n));
+    }
+  }
+  void AssignSelf() {
+    unsigned long const pos = script_.Position(model_.text.size());
+    unsigned long const n = script_.Position(model_.text.size());
+    bool const threw = Throws("substr", [&] { real_.assign(real_, pos, n); });
+    Expect(threw == (pos > model_.text.size()), "out of range");
+    if (!threw) model_.Assign(std::string(model_.text.substr(pos, n)));
+  }
+  void AssignOwn() {
+    unsigned long const n = script_.Position(model_.text.size());
+    size_t const from = script_.Byte() % (model_.text.size() + 1);
+    real_.assign(real_.c_str() + from, n);
+    if (from == 0) {
+      model_.Truncate(n);
+    } else {
+      model_.Assign(std::string(model_.text.substr(from, n)));
+    }
+  }
+  void AssignString() {
+    std::string const s = script_.Bytes();
+    unsigned long const pos = script_.Position(s.size());
+    unsigned long const n = script_.Position(s.size());
+    bool const threw = Throws("basic_string::substr", [&] { real_.assign(s, pos, n); });
+    Expect(threw == (pos > s.size()), "out of range");
+    if (threw) {
+      model_.Clear();
+    } else {
+      model_.Assign(s.substr(pos, n));
+    }
+  }
+
+  void WideAppend() {
+    Wide const s = script_.Units();
+    unsigned long const n = script_.Position(s.size());
+    real_.append(s.c_str(), n);
+    model_.AppendWide(UpToNul(s).substr(0, n));
+  }
+  void WideAppendChar() {
+    unsigned short const c = script_.Unit();
+    unsigned const n = script_.Byte() % 5;
+    real_.append(c, n);
+    model_.AppendWide(Wide(n, c));
+  }
+  void WideOwn() {
+    unsigned long const n = script_.Position(model_.text.size());
+    bool const assign = script_.Byte() % 2 == 0;
+    size_t const from = script_.Byte() % (model_.wide.size() + 1);
+    unsigned short const* const own = UstringProbe::Wide(real_) + from;
+    if (!assign) {
+      real_.append(own, n);
+      model_.BeginWideAppend();
+      model_.AppendUnits(model_.wide.substr(from, n));
+    } else {
+      real_.assign(own, n);
+      AssignOwnWide(from, n);
+    }
+  }
+  void AssignOwnWide(size_t from, unsigned long n) {
+    if (from != 0) {
+      model_.AssignWide(Wide(model_.wide.substr(from, n)));
+    } else if (n < model_.wide.size()) {
+      model_.wide.resize(n);
+      model_.FillText();
+    }
+  }
+  void WideAssign() {
+    Wide const s = script_.Units();
+    real_ = s.c_str();
+    model_.AssignWide(s);
+  }
+  void Utf16() {
+    unsigned short const* const units = real_.c_str_utf16();
+    model_.FillWideIfEmpty();
+    Expect(units == model_.wide, "result");
+    Wide converted;
+    Expect(ustring::is_valid(real_) == ToWide(model_.text, converted), "is_valid");
+  }
+
+  void SearchText() {
+    auto const search = static_cast<Search>(script_.Byte() % 6);
+    std::string const pattern = script_.Bytes();
+    unsigned long const pos = script_.Position(model_.text.size());
+    std::string const seen = UpToNul(pattern);
+    unsigned long const expected = ModelSearch(search, model_.text, seen, pos);
+    Expect(RealSearch(search, real_, pattern.c_str(), pos) == expected, "char const*");
+    Expect(RealSearch(search, real_, pattern, pos) == expected, "std::string");
+    Expect(RealSearch(search, real_, ustring(pattern), pos) == expected, "ustring");
+    char const c = script_.Char();
+    std::string const one = c == '\0' ? "" : std::string(1, c);
+    Expect(RealSearch(search, real_, c, pos) == ModelSearch(search, model_.text, one, pos), "char");
+  }
+  void Trim() {
+    unsigned const which = script_.Byte() % 3;
+    std::string const set = UpToNul(script_.Bytes());
+    size_t const former = model_.text.size();
+    size_t end = former;
+    while (which != 0 && end > 0 && set.find(model_.text[end - 1]) != std::string::npos) --end;
+    size_t begin = 0;
+    while (which != 1 && begin < end && set.find(model_.text[begin]) != std::string::npos) ++begin;
+    if (which == 0) real_.ltrim(set.c_str());
+    if (which == 1) real_.rtrim(ustring(set));
+    if (which == 2) real_.trim(set.c_str());
+    model_.text = model_.text.substr(begin, end - begin);
+    if (model_.text.size() != former) model_.wide.clear();
+  }
+  void Replace() {
+    char const from = script_.Char();
+    char const to = script_.CharButNul();
+    real_.replace(from, to);
+    for (char& c : model_.text) {
+      if (c == from) c = to;
+    }
+  }
+  void Poke() {
+    if (model_.text.empty()) return;
+    size_t const at = script_.Byte() % model_.text.size();
+    char const c = script_.CharButNul();
+    real_[at] = c;
+    model_.text[at] = c;
+  }
+  void Substr() {
+    unsigned long const pos = script_.Position(model_.text.size());
+    unsigned long const n = script_.Position(model_.text.size());
+    bool const threw = Throws("substr", [&] {
+      CompareState(real_.substr(pos, n),
+                   Model(pos > model_.text.size() ? std::string() : model_.text.substr(pos, n)));
+    });
+    Expect(threw == (pos > model_.text.size()), "out of range");
+  }
+  void Compare() {
+    bool const near = script_.Byte() % 2 == 0;
+    std::string text = near ? model_.text : UpToNul(script_.Bytes());
+    if (near && !text.empty()) text[script_.Byte() % text.size()] = script_.CharButNul();
+    ustring const other(text);
+    unsigned long const n = script_.Position(text.size());
+    int const order = ModelCompare(model_.text, text);
+    Expect(real_.compare(other) == order, "all");
+    Expect(real_.compare(other, n) == ModelCompare(model_.text.substr(0, n), text.substr(0, n)),
+           "n");
+    Expect(ustring::compare(real_, other, false) == order, "static");
+    int const folded = ModelCompare(Folded(model_.text), Folded(text));
+    Expect(ustring::compare(real_, other, true) == folded, "ignoring case");
+    Expect((real_ < other) == (order < 0) && (real_ <= other) == (order < 0), "<");
+    Expect((real_ > other) == (order > 0) && (real_ >= other) == (order > 0), ">");
+    Expect((real_ == other) == (order == 0) && (real_ != other) == (order != 0), "==");
+  }
+
+  void Clear() {
+    unsigned const which = script_.Byte() % 3;
+    if (which == 0) real_.clear();
+    if (which == 1) real_.clear_data();
+    if (which == 2) real_.clear_wdata();
+    if (which != 2) model_.text.clear();
+    if (which != 1) model_.wide.clear();
+  }
+  void Copy() {
+    CompareState(ustring(real_), Model(model_.text));
+    std::string const s = UpToNul(script_.Bytes());
+    ustring target(s);
+    Model expected(s);
+    target = real_;
+    expected.Assign(model_.text);
+    CompareState(target, expected);
+  }
+  void Move() {
+    ustring moved(std::move(real_));
+    Expect(real_.empty() && *real_.c_str() == '\0', "source not empty");
+    real_ = std::move(moved);
+    Expect(moved.empty(), "source not empty");
+    model_.wide.clear();
+  }
+  void Swap() {
+    swap(real_, other_);
+    std::swap(model_.text, other_model_.text);
+    std::swap(model_.wide, other_model_.wide);
+    std::swap(model_.capacity, other_model_.capacity);
+    std::swap(model_.wide_capacity, other_model_.wide_capacity);
+    CompareState(other_, other_model_);
+  }
+  void Plus() {
+    std::string const s = script_.Bytes();
+    char const c = script_.Char();
+    Expect((real_ + s.c_str()).c_str() == model_.text + UpToNul(s), "char const*");
+    Expect((real_ + ustring(s)).c_str() == model_.text + UpToNul(s), "ustring");
+    Expect((real_ + c).c_str() == model_.text + UpToNul(std::string(1, c)), "char");
+    Wide const wide = script_.Units();
+    Model sum(model_.text);
+    sum.AppendWide(wide);
+    Expect((real_ + wide.c_str()).c_str() == sum.text, "wide");
+    model_.warnings += sum.warnings;
+  }
+  void Stream() {
+    std::stringstream stream;
+    stream << real_ << ' ' << real_;
+    Expect(stream.str() == model_.text + ' ' + model_.text, "out");
+    std::string word;
+    std::istringstream(model_.text) >> word;
+    std::istringstream in(model_.text);
+    in >> real_;
+    model_.Assign(word);
+  }
+  void Normalize() {
+    auto const form = script_.Byte() % 2 == 0 ? ustring::NFC : ustring::NFD;
+    if (!model_.text.empty()) {
+      // The second pass tries again when the first conversion has left nothing.
+      model_.FillWideIfEmpty();
+      model_.FillWideIfEmpty();
+    }
+    ustring const result = real_.normalize(form);
+    bool const nothing = model_.text.empty() || model_.wide.empty();
+    Expect(result.empty() == nothing, "emptiness");
+    Expect(result.empty() || UstringProbe::WideLength(result) != 0, "both buffers of the result");
+    Expect(result.normalize(form) == result, "twice is once");
+    ustring const through = result.normalize(ustring::NFD).normalize(form);
+    Expect(through == result, "through the other form");
+  }
+
+  Script script_;
+  ustring real_;
+  Model model_;
+  ustring other_;
+  Model other_model_;
+  char const* step_ = "";
+  std::string difference_;
+};
+
+}  // namespace
+
+std::string CompareUstringWithModel(std::string const& script) { return Comparison(script).Run(); }
+
+}  // namespace test

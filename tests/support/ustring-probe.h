@@ -1,0 +1,14 @@
+#pragma once
+
+#include "foundation/ustring.h"
+
+/// What a ustring keeps to itself and tests have to see.
+struct UstringProbe {
+  static unsigned long DataCapacity(ustring const& s) { return s.data_capacity; }
+  static unsigned long WideCapacity(ustring const& s) { return s.wdata_capacity; }
+  static unsigned long WideLength(ustring const& s) { return s.wdata_length; }
+  /// The UTF-16 copy as it stands; c_str_utf16() would make it.
+  static unsigned short const* Wide(ustring const& s) { return s.wdata; }
+  static int ConvertFromData(ustring const& s) { return s.convert_from_data(); }
+  static int ConvertFromWide(ustring& s) { return s.convert_from_wdata(); }
+};
