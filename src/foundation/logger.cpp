@@ -31,11 +31,20 @@ FILE* OpenForAppending(ustring const& path) {
   return stream;
 }
 
-int WriteTimeStamp(FILE* stream) {
-  time_t const now = std::time(nullptr);
-  struct tm local;
-  tzset();  // localtime_r alone needn't notice that the user has changed the time zone
+/// Local time, which localtime_r leaves to the caller to keep up with changes of the time zone.
+/// Doing so costs more than all the rest of a record, and once a second is enough. The caller holds
+/// the lock.
+tm LocalTime(time_t now) {
+  static time_t zone_read_at = 0;
+  if (zone_read_at != now) tzset();
+  zone_read_at = now;
+  tm local = {};
   localtime_r(&now, &local);
+  return local;
+}
+
+int WriteTimeStamp(FILE* stream) {
+  tm const local = LocalTime(std::time(nullptr));
   char stamp[512];
   std::strftime(stamp, sizeof(stamp), "%b %d %H:%M:%S ", &local);
   return std::fprintf(stream, "%s", stamp);
