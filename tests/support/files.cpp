@@ -76,7 +76,7 @@ Tree ReadTree(fs::path const& root) {
     } else {
       node.type = 'o';
     }
-    tree[fs::relative(entry.path(), root).string()] = node;
+    tree[entry.path().lexically_relative(root).string()] = node;
   }
   return tree;
 }

@@ -1,0 +1,104 @@
+#include "launcher/launcher.h"
+
+#include <QGuiApplication>
+#include <climits>
+
+#include "foundation/logger.h"
+#include "launcher/notify-adapter.h"
+#include "launcher/progress-dialog.h"
+#include "localisation/str-table.h"
+#include "mac/mac-service.h"
+
+namespace {
+
+constexpr int kReady = 519;  // desc_lkmr_env_preparation_done
+
+}  // namespace
+
+HandlerThread::HandlerThread() : QThread(nullptr) {}
+
+HandlerThread::~HandlerThread() = default;
+
+void HandlerThread::run() { QThread::exec(); }
+
+Worker::Worker() : QObject(nullptr), thread(nullptr), service(nullptr) {
+  service = new MacService;
+  thread = new HandlerThread;
+  moveToThread(thread);
+}
+
+Worker::~Worker() {
+  delete thread;
+  delete service;
+}
+
+void Worker::StartThread() { thread->start(QThread::InheritPriority); }
+
+void Worker::QuitThread() { thread->quit(); }
+
+void Worker::JoinThread() { thread->wait(ULONG_MAX); }
+
+void Worker::HandleServicce() {
+  LOG_MSG(LEVEL_DEBUG, log_component::launcher(), "[DEBUG] launcher(%d): running\n");
+  service->PreUpgrade();
+  if (!service->IsNeedUpgrade()) {
+    LOG_MSG(LEVEL_DEBUG, log_component::launcher(), "[DEBUG] launcher(%d): no need to upgrade\n");
+  } else {
+    emit sigShowMsg();
+    if (service->HandlePackageUpgrade() == 0) {
+      emit sigUpdateProgress(100, 100);
+      emit sigSetLabelText(StrTable::LoadStr(kReady));
+    } else {
+      LOG_MSG(LEVEL_ERROR, log_component::launcher(),
+              "[ERROR] launcher(%d): Failed to upgrade package\n");
+    }
+  }
+  service->RemoveAgedFolders();
+  service->PostUpgrade();
+  LOG_MSG(LEVEL_DEBUG, log_component::launcher(), "[DEBUG] launcher(%d): done\n");
+  emit sigServiceDone();
+}
+
+Launcher::Launcher() : QObject(nullptr), worker(nullptr), dialog(nullptr) {
+  worker = new Worker;
+  dialog = new ProcessingProgressDialog;
+  dialog->setCancelButton(nullptr);
+  dialog->setAutoReset(false);
+  // A window that is closed in the middle of an upgrade must not end the event loop: the worker
+  // would still be at work when its owner is deleted.
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+
+  connect(this, SIGNAL(sigStart()), worker, SLOT(HandleServicce()));
+  connect(worker, SIGNAL(sigShowMsg()), this, SLOT(ShowMsgBox()));
+  connect(worker, SIGNAL(sigServiceDone()), this, SLOT(LaunchDone()));
+  connect(worker, SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int)));
+  connect(worker, SIGNAL(sigSetLabelText(QString)), this, SLOT(SetLabelText(QString)));
+  connect(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateProgress(int, int)), this,
+          SLOT(UpdateProgress(int, int)));
+  connect(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateDialogText(QString)), this,
+          SLOT(SetLabelText(QString)));
+}
+
+Launcher::~Launcher() {
+  delete worker;
+  delete dialog;
+}
+
+void Launcher::Run() { worker->StartThread(); }
+
+void Launcher::Start() { emit sigStart(); }
+
+void Launcher::ShowMsgBox() { dialog->show(); }
+
+void Launcher::UpdateProgress(int total, int steps) { dialog->setValue(steps * 100 / total); }
+
+void Launcher::SetLabelText(const QString& text) { dialog->setLabelText(text); }
+
+void Launcher::LaunchDone() {
+  dialog->setValue(100);
+  dialog->hide();
+  // Joined before the loop is asked to end, so that main may delete us at once.
+  worker->QuitThread();
+  worker->JoinThread();
+  QCoreApplication::quit();
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QProgressDialog>
+
+/// The one window of the launcher: a progress dialog with a fixed look, driven from outside. Main
+/// thread only. Making it shows nothing; a missing icon or font shows as exactly that.
+class ProcessingProgressDialog : public QProgressDialog {
+  Q_OBJECT
+
+ public:
+  ProcessingProgressDialog();
+  ~ProcessingProgressDialog() override;
+};

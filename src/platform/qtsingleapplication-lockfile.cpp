@@ -1,0 +1,58 @@
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QByteArray>
+#include <QCryptographicHash>
+#include <QString>
+#include <cerrno>
+
+#include "platform/qtsingleapplication.h"
+
+namespace {
+
+bool IsPrivateFolder(QByteArray const& path) {
+  struct stat info {};
+  return lstat(path.constData(), &info) == 0 && S_ISDIR(info.st_mode) && info.st_uid == geteuid() &&
+         (info.st_mode & (S_IWGRP | S_IWOTH)) == 0;
+}
+
+/// A folder that no other user can write, or nothing. It must not depend on the environment: a
+/// start from the desktop and one from a terminal have to meet there. Memory-backed folders come
+/// first, since taking the lock flushes it to its medium.
+QByteArray LockFolder() {
+  QByteArray const uid = QByteArray::number(geteuid());
+  QByteArray const runtime = "/run/user/" + uid;
+  if (IsPrivateFolder(runtime)) return runtime;
+  for (char const* shared : {"/dev/shm", "/tmp"}) {
+    QByteArray const own = QByteArray(shared) + "/larkmoor-launcher-" + uid;
+    if (mkdir(own.constData(), S_IRWXU) != 0 && errno != EEXIST) continue;
+    if (IsPrivateFolder(own)) return own;
+  }
+  return {};
+}
+
+/// One name for one executable.
+QString LockName() {
+  QByteArray const path = QCoreApplication::applicationFilePath().toUtf8();
+  QByteArray const id = QCryptographicHash::hash(path, QCryptographicHash::Sha1).toHex();
+  return QStringLiteral("/larkmoor-launcher-") + QString::fromLatin1(id) + QStringLiteral(".lock");
+}
+
+}  // namespace
+
+// Qt 5 makes every QApplication with a GUI.
+QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool /*GUIenabled*/)
+    : QApplication(argc, argv) {}
+
+QtSingleApplication::~QtSingleApplication() = default;
+
+bool QtSingleApplication::isRunning() {
+  if (!lock_) {
+    QByteArray const folder = LockFolder();
+    if (folder.isEmpty()) return false;
+    lock_ = std::make_unique<QLockFile>(QString::fromUtf8(folder) + LockName());
+    // A holder that lives is a holder, however long its upgrade takes.
+    lock_->setStaleLockTime(0);
+  }
+  return !lock_->isLocked() && !lock_->tryLock(0) && lock_->error() == QLockFile::LockFailedError;
+}

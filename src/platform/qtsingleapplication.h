@@ -1,0 +1,31 @@
+#pragma once
+
+#ifdef LARKMOOR_HAVE_QTSINGLEAPPLICATION
+
+#include <QtSingleApplication>
+
+#else
+
+#include <QApplication>
+#include <QLockFile>
+#include <memory>
+
+/// Stands in for the Qt Solutions component of this name where it isn't installed: the application
+/// object that knows whether it is the first of its executable and user. Nothing of the component's
+/// messages and window activation is here. Main thread only.
+class QtSingleApplication : public QApplication {
+ public:
+  /// `argc` and `argv` must outlive the object, as QApplication wants it.
+  QtSingleApplication(int& argc, char** argv, bool GUIenabled = true);
+  ~QtSingleApplication() override;
+
+  /// False in the one process that holds the guard, which is the first that asked, until it ends by
+  /// whatever cause; true in all others. Doesn't wait. Where no folder for the lock can be had, the
+  /// answer is false: two launchers at once are less likely than a user without any.
+  bool isRunning();
+
+ private:
+  std::unique_ptr<QLockFile> lock_;
+};
+
+#endif

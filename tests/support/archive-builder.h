@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+/// Packages for tests, made in memory.
+namespace test {
+
+/// One entry of an archive. Modes are permission bits; 0 takes 0755 for folders, 0644 for the rest.
+struct Entry {
+  enum class Kind { kFile, kFolder, kLink, kHardLink };
+
+  static Entry File(std::string path, std::string bytes, unsigned mode = 0644);
+  static Entry Folder(std::string path, unsigned mode = 0755);
+  /// A symbolic link that says `target`.
+  static Entry Link(std::string path, std::string target);
+  /// A hard link to the place that the archive calls `target`.
+  static Entry HardLink(std::string path, std::string target);
+
+  Kind kind = Kind::kFile;
+  std::string path;
+  std::string content;  ///< a file's bytes, a link's target
+  unsigned mode = 0;
+};
+
+/// The bytes of an archive. `format` and `filter` are libarchive's names: "gnutar", "pax", "zip",
+/// "cpio"; "gzip", "xz", "zstd", "none".
+std::string MakeArchive(std::vector<Entry> const& entries, std::string const& format = "gnutar",
+                        std::string const& filter = "none");
+
+}  // namespace test

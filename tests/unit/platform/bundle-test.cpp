@@ -1,0 +1,119 @@
+#include "platform/bundle.h"
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <sys/prctl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QString>
+
+#include "support/files.h"
+#include "support/process.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// The registration tool that these tests are built with is a file of this name in the working
+/// folder.
+constexpr char kTool[] = "registration-tool";
+
+class Bundle : public testing::Test {
+ protected:
+  Bundle() : former_(fs::current_path()) {
+    fs::current_path(folder.path());
+    // What is started is nobody's child once its starter ends; here its end is awaited.
+    prctl(PR_SET_CHILD_SUBREAPER, 1);
+  }
+  ~Bundle() override { fs::current_path(former_); }
+
+  void InstallTool(std::string const& script) {
+    test::WriteFile(folder / kTool, script);
+    chmod(kTool, 0755);
+  }
+  QString App() const { return QString::fromStdString(folder / "Some.app"); }
+  void InstallClient(std::string const& script) {
+    std::string const path = folder / "Some.app/Contents/MacOS/larkmoor-drive-ui";
+    test::WriteFile(path, "#!/bin/sh\n" + script);
+    chmod(path.c_str(), 0755);
+  }
+  std::string Await(std::string const& name) const {
+    EXPECT_TRUE(test::WaitUntil([&] { return fs::exists(folder / name); })) << name;
+    return fs::exists(folder / name) ? test::ReadFile(folder / name) : "";
+  }
+
+  test::TempDir folder;
+
+ private:
+  fs::path former_;
+};
+
+TEST_F(Bundle, IsForgottenWhereNoRegistrationToolIsInstalled) {
+  EXPECT_EQ(platform::ForgetBundle(App()), 0);
+}
+
+TEST_F(Bundle, IsForgottenThroughTheTool) {
+  InstallTool("#!/bin/sh\necho \"$#:$1:$2\" > told\n");
+  EXPECT_EQ(platform::ForgetBundle(App()), 0);
+  EXPECT_EQ(test::ReadFile(folder / "told"), "2:-u:" + App().toStdString() + "\n");
+}
+
+TEST_F(Bundle, HandsOnTheToolsFailure) {
+  InstallTool("#!/bin/sh\nexit 3\n");
+  EXPECT_EQ(platform::ForgetBundle(App()), 3);
+}
+
+TEST_F(Bundle, ReportsAToolThatCrashes) {
+  InstallTool("#!/bin/sh\nkill -SEGV $$\n");
+  EXPECT_NE(platform::ForgetBundle(App()), 0);
+}
+
+TEST_F(Bundle, ReportsAToolThatCannotBeStarted) {
+  InstallTool("#!/no/such/interpreter\n");
+  EXPECT_NE(platform::ForgetBundle(App()), 0);
+}
+
+TEST_F(Bundle, IsNotOpenedWhenItsProgramIsMissing) { EXPECT_FALSE(platform::OpenBundle(App())); }
+
+TEST_F(Bundle, IsNotOpenedWhenItsProgramMayNotRun) {
+  InstallClient("");
+  chmod((folder / "Some.app/Contents/MacOS/larkmoor-drive-ui").c_str(), 0644);
+  EXPECT_FALSE(platform::OpenBundle(App()));
+}
+
+TEST_F(Bundle, StartsItsProgramWithoutArgumentsInASessionOfItsOwn) {
+  InstallClient("echo \"$# $$ $(cut -d' ' -f5,6 /proc/$$/stat) $(pwd)\" > '" + (folder / "part") +
+                "'; mv '" + (folder / "part") + "' '" + (folder / "facts") + "'\n");
+  ASSERT_TRUE(platform::OpenBundle(App()));
+  std::string const facts = Await("facts");
+  std::string const pid = facts.substr(2, facts.find(' ', 2) - 2);
+  EXPECT_EQ(facts, "0 " + pid + " " + pid + " " + pid + " /\n");
+  wait(nullptr);
+}
+
+TEST_F(Bundle, HandsNoDescriptorOfOursToItsProgram) {
+  int const leaked = open(".", O_RDONLY);  // without close-on-exec, as a careless library would
+  InstallClient("cd /proc/$$/fd; for f in *; do readlink $f; done > '" + (folder / "part") +
+                "'; mv '" + (folder / "part") + "' '" + (folder / "open") + "'\n");
+  ASSERT_TRUE(platform::OpenBundle(App()));
+  std::string const open_files = Await("open");
+  close(leaked);
+  EXPECT_EQ(open_files.find(folder.path().string() + "\n"), std::string::npos) << open_files;
+  EXPECT_EQ(open_files.find("pipe:"), std::string::npos) << open_files;
+  EXPECT_THAT(open_files, testing::HasSubstr("/dev/null"));
+  wait(nullptr);
+}
+
+TEST_F(Bundle, KeepsItsEnvironment) {
+  setenv("LARKMOOR_TEST_MARK", "inherited", 1);
+  InstallClient("echo $LARKMOOR_TEST_MARK > '" + (folder / "part") + "'; mv '" + (folder / "part") +
+                "' '" + (folder / "mark") + "'\n");
+  ASSERT_TRUE(platform::OpenBundle(App()));
+  EXPECT_EQ(Await("mark"), "inherited\n");
+  unsetenv("LARKMOOR_TEST_MARK");
+  wait(nullptr);
+}
+
+}  // namespace

@@ -1,0 +1,155 @@
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <signal.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+#include "support/files.h"
+#include "support/process.h"
+
+namespace {
+
+/// A process that asks the guard; see guard-holder.cpp. Its executable is what it shares a guard
+/// with, so each test takes a copy of its own.
+class Asker {
+ public:
+  explicit Asker(std::string const& program) {
+    int in[2];
+    int out[2];
+    if (pipe2(in, O_CLOEXEC) != 0 || pipe2(out, O_CLOEXEC) != 0) throw std::runtime_error("pipe");
+    pid_ = fork();
+    if (pid_ == 0) {
+      dup2(in[0], STDIN_FILENO);
+      dup2(out[1], STDOUT_FILENO);
+      setenv("QT_QPA_PLATFORM", "offscreen", 1);
+      execl(program.c_str(), program.c_str(), nullptr);
+      _exit(127);
+    }
+    close(in[0]);
+    close(out[1]);
+    input_ = in[1];
+    output_ = out[0];
+  }
+  ~Asker() {
+    Kill();
+    close(input_);
+    close(output_);
+  }
+  Asker(Asker const&) = delete;
+  Asker& operator=(Asker const&) = delete;
+
+  /// What it said; waits for it.
+  std::string Answer() {
+    std::string answer;
+    for (char c = 0; read(output_, &c, 1) == 1 && c != '\n';) answer += c;
+    return answer;
+  }
+  void Kill() { End(SIGKILL); }
+  void End(int signal) {
+    if (pid_ <= 0) return;
+    kill(pid_, signal);
+    waitpid(pid_, nullptr, 0);
+    pid_ = -1;
+  }
+  /// Lets it end by itself.
+  void Release() {
+    close(input_);
+    input_ = -1;
+    waitpid(pid_, nullptr, 0);
+    pid_ = -1;
+  }
+  pid_t pid() const { return pid_; }
+
+ private:
+  pid_t pid_ = -1;
+  int input_ = -1;
+  int output_ = -1;
+};
+
+class SingleInstance : public testing::Test {
+ protected:
+  SingleInstance() : program(folder / "guard-holder") {
+    std::filesystem::copy_file(LARKMOOR_TEST_GUARD_HOLDER, program);
+  }
+  test::TempDir folder;
+  std::string program;
+};
+
+TEST_F(SingleInstance, LetsTheFirstThroughAndNotTheSecond) {
+  Asker first(program);
+  ASSERT_EQ(first.Answer(), "first");
+  Asker second(program);
+  EXPECT_EQ(second.Answer(), "second");
+}
+
+TEST_F(SingleInstance, IsFreeAgainWhenItsHolderHasEnded) {
+  Asker first(program);
+  ASSERT_EQ(first.Answer(), "first");
+  first.Release();
+  Asker second(program);
+  EXPECT_EQ(second.Answer(), "first");
+}
+
+TEST_F(SingleInstance, IsFreeAtOnceWhenItsHolderWasKilled) {
+  for (int round = 0; round < 5; ++round) {
+    Asker holder(program);
+    ASSERT_EQ(holder.Answer(), "first") << round;
+    holder.Kill();
+  }
+}
+
+TEST_F(SingleInstance, IsHeldByAStoppedProcess) {
+  Asker first(program);
+  ASSERT_EQ(first.Answer(), "first");
+  kill(first.pid(), SIGSTOP);
+  Asker second(program);
+  EXPECT_EQ(second.Answer(), "second");
+}
+
+TEST_F(SingleInstance, LetsOneOfFiftySimultaneousStartsThrough) {
+  std::vector<std::unique_ptr<Asker>> askers;
+  for (int i = 0; i < 50; ++i) askers.push_back(std::make_unique<Asker>(program));
+  std::vector<std::string> answers;
+  for (auto const& asker : askers) answers.push_back(asker->Answer());
+  EXPECT_EQ(std::count(answers.begin(), answers.end(), "first"), 1);
+  EXPECT_EQ(std::count(answers.begin(), answers.end(), "second"), 49);
+}
+
+TEST_F(SingleInstance, LetsOneOfFiftyThroughOverTheLockOfAKilledHolder) {
+  {
+    Asker holder(program);
+    ASSERT_EQ(holder.Answer(), "first");
+  }
+  std::vector<std::unique_ptr<Asker>> askers;
+  for (int i = 0; i < 50; ++i) askers.push_back(std::make_unique<Asker>(program));
+  int firsts = 0;
+  for (auto const& asker : askers) firsts += asker->Answer() == "first" ? 1 : 0;
+  EXPECT_EQ(firsts, 1);
+}
+
+TEST_F(SingleInstance, KnowsExecutablesApart) {
+  std::string const other = folder / "other";
+  std::filesystem::copy_file(program, other);
+  Asker first(program);
+  ASSERT_EQ(first.Answer(), "first");
+  Asker second(other);
+  EXPECT_EQ(second.Answer(), "first");
+}
+
+TEST_F(SingleInstance, FindsTheSameGuardWhateverTheEnvironmentSays) {
+  Asker first(program);
+  ASSERT_EQ(first.Answer(), "first");
+  setenv("TMPDIR", folder.path().c_str(), 1);
+  setenv("XDG_RUNTIME_DIR", folder.path().c_str(), 1);
+  Asker second(program);
+  EXPECT_EQ(second.Answer(), "second");
+  unsetenv("TMPDIR");
+  unsetenv("XDG_RUNTIME_DIR");
+}
+
+}  // namespace
