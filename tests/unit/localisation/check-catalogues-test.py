@@ -1,0 +1,284 @@
+"""Feeds scripts/check-catalogues broken catalogues and looks for each finding."""
+
+import json
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+sys.dont_write_bytecode = True
+ROOT = os.path.abspath(os.path.join(os.path.dirname(__file__), '..', '..', '..'))
+sys.path.insert(0, os.path.join(ROOT, 'scripts'))
+import catalogues
+
+ROWS = r'''// A table in little.
+ROW(0, "nas", "NAS")
+ROW(1, "btn_ok", "OK")
+ROW(2, "file_count", "%1 of %2 files")
+ROW(3, "msi_title", "{\\DlgFont8}[ProductName] Setup")
+ROW(4, "msi_button_next", "&Next")
+ROW(5, "open_folder", "Open folder")
+ROW(6, "tray_opendir", "Open folder")
+ROW(7, "double", "One.  Two.")
+ROW(8, "hidden", "All done\u200b.")
+ROW(9, "add", "File added: ")
+'''
+
+GERMAN = {
+    'NAS': 'NAS',
+    'OK': 'OK',
+    '%1 of %2 files': '%1 von %2 Dateien',
+    '{\\DlgFont8}[ProductName] Setup': '{\\DlgFont8}[ProductName] einrichten',
+    '&Next': '&Weiter',
+    'Open folder': 'Ordner öffnen',
+    'One.  Two.': 'Eins. Zwei.',
+    'All done\u200b.': 'Fertig.',
+    'File added: ': 'Datei hinzugefügt: ',
+}
+
+
+class CheckCatalogues(unittest.TestCase):
+    def setUp(self):
+        self.folder = tempfile.mkdtemp()
+        self.addCleanup(shutil.rmtree, self.folder)
+        for inner in ('catalogues', 'glossary'):
+            os.mkdir(os.path.join(self.folder, inner))
+        self.write('str-table-rows.inc', ROWS)
+        rows = catalogues.read_rows(os.path.join(self.folder, 'str-table-rows.inc'))
+        self.groups = catalogues.rows_by_text(rows)
+
+    def write(self, name, text):
+        with open(os.path.join(self.folder, name), 'w', encoding='utf-8') as file:
+            file.write(text)
+
+    def write_catalogue(self, name, changes=None, base=None):
+        translations = dict(GERMAN if base is None else base, **(changes or {}))
+        path = os.path.join(self.folder, 'catalogues', name + '.ts')
+        catalogues.write_catalogue(path, self.groups, translations)
+        return path
+
+    def edit(self, path, old, new):
+        with open(path, encoding='utf-8') as file:
+            text = file.read()
+        self.assertIn(old, text)
+        with open(path, 'w', encoding='utf-8') as file:
+            file.write(text.replace(old, new, 1))
+
+    def check(self, *names):
+        command = [sys.executable, os.path.join(ROOT, 'scripts', 'check-catalogues'),
+                   '--localisation', self.folder, *names]
+        run = subprocess.run(command, capture_output=True, encoding='utf-8', check=False,
+                             env=dict(os.environ, PYTHONIOENCODING='utf-8'))
+        self.assertEqual(run.stderr, '')
+        return run.returncode, run.stdout
+
+    def assert_finds(self, fault, changes, name='deu', base=None):
+        self.write_catalogue(name, changes, base)
+        status, output = self.check(name)
+        self.assertEqual(status, 1, output)
+        self.assertIn(fault, output)
+        return output
+
+    def assert_clean(self, name, changes=None, base=None):
+        self.write_catalogue(name, changes, base)
+        status, output = self.check(name)
+        self.assertEqual((status, output), (0, f'1 catalogues of {len(self.groups)} texts: '
+                                               'no findings\n'))
+
+    def test_passes_a_sound_catalogue(self):
+        self.assert_clean('deu')
+
+    def test_names_catalogue_row_and_text_of_a_finding(self):
+        output = self.assert_finds('lost', {'%1 of %2 files': '%1 Dateien'})
+        self.assertEqual(output, 'deu: row 2 file_count: placeholder lost "%2"\n'
+                                 '    English      "%1 of %2 files"\n'
+                                 '    translation  "%1 Dateien"\n'
+                                 f'1 catalogues of {len(self.groups)} texts: 1 findings\n')
+
+    def test_names_every_row_that_shares_the_text(self):
+        self.assert_finds('deu: row 5 open_folder, 6 tray_opendir: doubled blank',
+                          {'Open folder': 'Ordner  öffnen'})
+
+    def test_finds_an_added_placeholder(self):
+        self.assert_finds('placeholder added "%3"', {'%1 of %2 files': '%1 %2 %3 Dateien'})
+
+    def test_finds_a_placeholder_that_is_there_twice(self):
+        self.assert_finds('placeholder added "%1"', {'%1 of %2 files': '%1 %1 %2 Dateien'})
+
+    def test_finds_a_changed_placeholder(self):
+        self.assert_finds('placeholder lost "%2" and added "%1"',
+                          {'%1 of %2 files': '%1 von %1 Dateien'})
+
+    def test_accepts_placeholders_in_another_order(self):
+        self.assert_clean('deu', {'%1 of %2 files': 'Von %2 Dateien %1'})
+
+    def test_finds_a_missing_text(self):
+        path = self.write_catalogue('deu')
+        self.edit(path, '<source>OK</source>', '<source>Yes</source>')
+        status, output = self.check('deu')
+        self.assertEqual(status, 1)
+        self.assertIn('deu: row 1 btn_ok: missing\n    English      "OK"', output)
+        self.assertIn('deu: not in the string table\n    English      "Yes"', output)
+
+    def test_finds_a_text_that_is_there_twice(self):
+        path = self.write_catalogue('deu')
+        self.edit(path, '<source>OK</source>', '<source>NAS</source>')
+        self.assertIn('deu: row 0 nas: there twice', self.check('deu')[1])
+
+    def test_finds_an_empty_and_unfinished_text(self):
+        output = self.assert_finds('row 1 btn_ok: empty', {'OK': ''})
+        self.assertIn('row 1 btn_ok: marked as unfinished', output)
+
+    def test_finds_a_text_that_a_translator_left_unfinished(self):
+        path = self.write_catalogue('deu')
+        self.edit(path, '<translation>&amp;Weiter', '<translation type="unfinished">&amp;Weiter')
+        self.assertIn('row 4 msi_button_next: marked as unfinished', self.check('deu')[1])
+
+    def test_finds_another_context(self):
+        path = self.write_catalogue('deu')
+        self.edit(path, '<name>global</name>', '<name>Launcher</name>')
+        self.assertIn('in the context "Launcher"', self.check('deu')[1])
+
+    def test_finds_a_comment(self):
+        path = self.write_catalogue('deu')
+        self.edit(path, '<source>OK</source>', '<source>OK</source><comment>a button</comment>')
+        self.assertIn('with the comment "a button"', self.check('deu')[1])
+
+    def test_finds_a_language_attribute(self):
+        path = self.write_catalogue('deu')
+        self.edit(path, '<TS version="2.1">', '<TS version="2.1" language="de_DE">')
+        self.assertIn('deu: has the language attribute "de_DE"', self.check('deu')[1])
+
+    def test_finds_lost_markup(self):
+        source = '{\\DlgFont8}[ProductName] Setup'
+        self.assert_finds('markup lost "[ProductName]"', {source: '{\\DlgFont8}Setup Assistent'})
+        self.assert_finds('markup lost "{\\DlgFont8}"', {source: '[ProductName] einrichten'})
+
+    def test_finds_markup_with_another_number_of_backslashes(self):
+        self.assert_finds('markup lost "{\\DlgFont8}" and added "{\\\\DlgFont8}"', {
+            '{\\DlgFont8}[ProductName] Setup': '{\\\\DlgFont8}[ProductName] einrichten'})
+
+    def test_finds_a_style_that_is_no_longer_first(self):
+        self.assert_finds('"{\\DlgFont8}" no longer stands first', {
+            '{\\DlgFont8}[ProductName] Setup': '[ProductName]{\\DlgFont8} einrichten'})
+
+    def test_finds_a_lost_and_an_added_accelerator(self):
+        self.assert_finds('markup lost "&"', {'&Next': 'Weiter'})
+        self.assert_finds('markup added "&"', {'Open folder': '&Ordner öffnen'})
+
+    def test_finds_an_added_escape(self):
+        self.assert_finds('markup added "\\n"', {'Open folder': 'Ordner\\nöffnen'})
+
+    def test_finds_doubled_blanks_where_the_source_has_none(self):
+        self.assert_finds('doubled blank', {'Open folder': 'Ordner  öffnen'})
+        self.assert_finds('doubled blank', {'Open folder': 'Ordner\u00a0 öffnen'})
+        self.assert_clean('deu', {'One.  Two.': 'Eins.  Zwei.'})
+
+    def test_finds_added_blanks_at_the_ends(self):
+        self.assert_finds('blank at the beginning', {'Open folder': ' Ordner öffnen'})
+        self.assert_finds('blank at the end', {'Open folder': 'Ordner öffnen '})
+
+    def test_finds_invisible_characters(self):
+        self.assert_finds('invisible character U+200B', {'Open folder': 'Ordner\u200b öffnen'})
+        self.assert_finds('invisible character U+000A', {'Open folder': 'Ordner\nöffnen'})
+        self.assert_clean('deu', {'All done\u200b.': 'Fertig\u200b.'})
+
+    def test_finds_too_many_texts_left_in_english(self):
+        rows = ''.join(f'ROW({i}, "key{i}", "Text {i}")\n' for i in range(21))
+        self.write('str-table-rows.inc', rows)
+        self.groups = {f'Text {i}': [catalogues.Row(i, f'key{i}', f'Text {i}')] for i in range(21)}
+        output = self.assert_finds('row 20 key20: untranslated, one of 21',
+                                   {}, base={text: text for text in self.groups})
+        self.assertEqual(output.count('untranslated'), 21)
+        self.assert_clean('deu', {'Text 0': 'Wort 0'}, base={text: text for text in self.groups})
+
+    def test_finds_too_few_texts_that_read_like_their_source(self):
+        self.assert_finds('1 texts read like their source', {'OK': 'In Ordnung'})
+
+    def test_finds_any_change_in_the_english_catalogue(self):
+        english = {text: text for text in self.groups}
+        self.assert_clean('enu', base=english)
+        self.assert_finds('row 1 btn_ok: not the same as its source', {'OK': 'Okay'}, 'enu', english)
+
+    def chinese(self, word):
+        return {'%1 of %2 files': '%1/%2 ' + word, '&Next': word + '(&N)', 'Open folder': word,
+                '{\\DlgFont8}[ProductName] Setup': '{\\DlgFont8}[ProductName] ' + word,
+                'One.  Two.': word, 'All done\u200b.': word, 'File added: ': word}
+
+    def test_finds_kana_in_chinese(self):
+        self.assert_clean('chs', self.chinese('文件夹'))
+        self.assert_finds('wrong script: "フ", "ォ"', {'Open folder': '文件フォ'}, 'chs',
+                          dict(GERMAN, **self.chinese('文件夹')))
+
+    def test_finds_simplified_forms_in_traditional_chinese(self):
+        base = dict(GERMAN, **self.chinese('資料夾'))
+        self.assert_clean('cht', base=base)
+        self.assert_finds('simplified form: "资", "夹"', {'Open folder': '资料夹'}, 'cht', base)
+        self.assert_finds('simplified form: "网"', {'Open folder': '网路'}, 'cht', base)
+
+    def test_finds_traditional_forms_in_simplified_chinese(self):
+        base = dict(GERMAN, **self.chinese('文件夹'))
+        self.assert_finds('traditional form: "資", "夾"', {'Open folder': '資料夾'}, 'chs', base)
+
+    def test_finds_latin_only_text_in_another_script(self):
+        base = dict(GERMAN, **self.chinese('Папка'))
+        self.assert_clean('rus', base=base)
+        self.assert_clean('rus', {'All done\u200b.': 'NAS: SSL.'}, base)
+        self.assert_finds('row 5 open_folder, 6 tray_opendir: Latin letters only',
+                          {'Open folder': 'Otkryt papku'}, 'rus', base)
+
+    def test_finds_a_latin_letter_in_a_cyrillic_word(self):
+        base = dict(GERMAN, **self.chinese('Папка'))
+        self.assert_finds('Latin and Cyrillic letters in one word: "Пaпка"',
+                          {'Open folder': 'Пaпка'}, 'rus', base)
+
+    def test_finds_cyrillic_in_a_language_written_in_latin(self):
+        self.assert_finds('wrong script: "о"', {'Open folder': 'Оrdner öffnen'.lower()})
+
+    def test_finds_a_term_that_breaks_the_glossary(self):
+        self.write('glossary/deu.json', json.dumps({'folder': 'ordner|verzeichnis'}))
+        self.assert_clean('deu')
+        self.assert_clean('deu', {'Open folder': 'Verzeichnis öffnen'})
+        self.assert_finds('the glossary says "ordner|verzeichnis" for "folder"',
+                          {'Open folder': 'Mappe öffnen'})
+
+    def test_accepts_a_term_with_an_accelerator_inside(self):
+        self.write('glossary/deu.json', json.dumps({'next': 'weiter'}))
+        self.assert_clean('deu', {'&Next': 'We&iter'})
+
+    def test_holds_three_placeholders_for_lost(self):
+        self.write('str-table-rows.inc', ROWS.replace('"file_count"', '"status_desc_syncing"')
+                   .replace('%1 of %2 files', '%1 files'))
+        rows = catalogues.read_rows(os.path.join(self.folder, 'str-table-rows.inc'))
+        self.groups = catalogues.rows_by_text(rows)
+        self.assert_clean('hun', {'%1 files': 'Szinkron'})
+        self.assert_finds('placeholder added "%1"', {'%1 files': 'Szinkron %1'}, 'hun')
+        self.assert_finds('placeholder lost "%1"', {'%1 files': 'Dateien'})
+
+    def test_reports_a_catalogue_that_is_missing_or_damaged(self):
+        status, output = self.check('deu')
+        self.assertEqual(status, 1)
+        self.assertIn('deu: cannot be read: ', output)
+        self.write('catalogues/deu.ts', '<TS version="2.1"><context>')
+        self.assertIn('deu: cannot be read: ', self.check('deu')[1])
+
+    def test_checks_all_that_the_resource_lists(self):
+        self.write('texts.qrc', '<RCC><qresource><file>enu.qm</file><file>deu.qm</file>'
+                                '</qresource></RCC>')
+        self.write_catalogue('enu', base={text: text for text in self.groups})
+        self.write_catalogue('deu', {'Open folder': ''})
+        status, output = self.check()
+        self.assertEqual(status, 1)
+        self.assertIn('2 catalogues', output)
+        self.assertIn('deu: row 5 open_folder', output)
+
+    def test_explains_itself(self):
+        status, output = self.check('-h')
+        self.assertEqual(status, 0)
+        self.assertIn('usage: scripts/check-catalogues', output)
+
+
+if __name__ == '__main__':
+    unittest.main()
