@@ -1,0 +1,66 @@
+# Larkmoor.app, as "cmake --install" and CPack lay it out. The layout is the same on every system:
+# the launcher finds its own files by their place relative to its executable.
+#
+#   LARKMOOR_PACKAGE   the client's package to carry
+#   LARKMOOR_INFO      the INFO to lay beside it; by default the one inside the package
+#
+# Both are read when installing, from the environment first, so that one build serves many packages.
+set(LARKMOOR_PACKAGE "" CACHE FILEPATH "Package of the client that the bundle carries")
+set(LARKMOOR_INFO "" CACHE FILEPATH "INFO of the bundle; empty for the one inside the package")
+set(LARKMOOR_MACOS_MINIMUM 10.13)
+if(CMAKE_OSX_DEPLOYMENT_TARGET)
+  set(LARKMOOR_MACOS_MINIMUM ${CMAKE_OSX_DEPLOYMENT_TARGET})
+endif()
+
+set(LARKMOOR_BUNDLE Larkmoor.app)
+set(contents ${LARKMOOR_BUNDLE}/Contents)
+set(resources ${PROJECT_SOURCE_DIR}/resources)
+
+configure_file(${resources}/Info.plist.in ${PROJECT_BINARY_DIR}/Info.plist @ONLY)
+
+if(APPLE)
+  set_target_properties(launcher PROPERTIES INSTALL_RPATH "@executable_path/../Frameworks")
+endif()
+install(TARGETS launcher RUNTIME DESTINATION ${contents}/MacOS COMPONENT bundle)
+install(FILES ${PROJECT_BINARY_DIR}/Info.plist DESTINATION ${contents} COMPONENT bundle)
+install(FILES ${resources}/larkmoor.icns DESTINATION ${contents}/Resources COMPONENT bundle)
+install(FILES ${resources}/images/ico_72_larkmoor.png
+  DESTINATION ${contents}/Resources/images COMPONENT bundle)
+
+# The launcher looks for plug-ins here and nowhere else. PNG is built into Qt; and without the GL
+# integrations of xcb the shown dialog takes a third of the memory.
+if(APPLE)
+  set(plugins QCocoaIntegrationPlugin QOffscreenIntegrationPlugin QMacStylePlugin)
+else()
+  set(plugins QXcbIntegrationPlugin QOffscreenIntegrationPlugin QMinimalIntegrationPlugin)
+endif()
+foreach(plugin IN LISTS plugins)
+  if(TARGET Qt5::${plugin})
+    set(folder platforms)
+    if(plugin MATCHES Style)
+      set(folder styles)
+    endif()
+    install(FILES $<TARGET_FILE:Qt5::${plugin}>
+      DESTINATION ${contents}/Frameworks/plugins/${folder} COMPONENT bundle)
+  else()
+    message(WARNING "Qt comes without ${plugin}: the bundle lacks it")
+  endif()
+endforeach()
+
+configure_file(${CMAKE_CURRENT_LIST_DIR}/InstallPackage.cmake.in
+  ${PROJECT_BINARY_DIR}/InstallPackage.cmake @ONLY)
+install(SCRIPT ${PROJECT_BINARY_DIR}/InstallPackage.cmake COMPONENT bundle)
+
+set(CPACK_PACKAGE_NAME Larkmoor)
+set(CPACK_PACKAGE_VENDOR Larkmoor)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Launcher and self-upgrader of Larkmoor Drive")
+set(CPACK_PACKAGE_FILE_NAME Larkmoor-${PROJECT_VERSION}-${CMAKE_SYSTEM_NAME})
+set(CPACK_GENERATOR TGZ)
+if(APPLE)
+  list(APPEND CPACK_GENERATOR DragNDrop)
+endif()
+set(CPACK_COMPONENTS_ALL bundle)
+set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
+set(CPACK_VERBATIM_VARIABLES ON)
+include(CPack)

@@ -1,0 +1,195 @@
+#!/usr/bin/env bash
+# usage: bundle-test.sh BUILD
+# What scripts/make-bundle assembles from a build folder, and what scripts/check-bundle says of it.
+
+# shellcheck source=tests/scripts/harness.sh
+. "$(dirname "$0")/harness.sh"
+
+BUILD=$(cd "$1" && pwd -P)
+PROJECT=$(dirname "$SCRIPTS")
+
+make_bundle() { "$SCRIPTS/make-bundle" --launcher "$BUILD" "$@"; }
+check_bundle() { "$SCRIPTS/check-bundle" "$@"; }
+
+# A bundle of build 7 in the folder "good", with one file whose name is outside ASCII.
+make_good_bundle() {
+  make_client client 7
+  echo text >client/Contents/Resources/über
+  expect_success "$SCRIPTS/make-package" client client.lpk
+  expect_success make_bundle --package client.lpk good/Larkmoor.app
+}
+
+# repack COMMAND...: lets a command change the unpacked package, and packs what is then there in the
+# order of the disk.
+repack() {
+  local package=good/Larkmoor.app/Contents/Resources/package/larkmoor.lpk
+  rm -rf unpacked && mkdir unpacked
+  bsdtar -xf $package -C unpacked
+  (cd unpacked && "$@" && bsdtar -czf "../$package" --format gnutar ./*) || fail "can't repack"
+}
+
+in_bundle() { (cd good/Larkmoor.app/Contents && "$@"); }
+
+TestBundleIsWhole() {
+  make_good_bundle
+  expect_equal "Contents
+Contents/Frameworks
+Contents/Frameworks/plugins
+Contents/Frameworks/plugins/platforms
+Contents/Frameworks/plugins/platforms/libqminimal.so
+Contents/Frameworks/plugins/platforms/libqoffscreen.so
+Contents/Frameworks/plugins/platforms/libqxcb.so
+Contents/Info.plist
+Contents/MacOS
+Contents/MacOS/launcher
+Contents/Resources
+Contents/Resources/INFO
+Contents/Resources/images
+Contents/Resources/images/ico_72_larkmoor.png
+Contents/Resources/larkmoor.icns
+Contents/Resources/package
+Contents/Resources/package/larkmoor.lpk" \
+    "$(cd good/Larkmoor.app && find . -mindepth 1 | sed 's|^\./||' | LC_ALL=C sort)"
+  cmp client.lpk good/Larkmoor.app/Contents/Resources/package/larkmoor.lpk || fail "other package"
+  cmp client/Contents/Resources/INFO good/Larkmoor.app/Contents/Resources/INFO || fail "other INFO"
+}
+
+TestVersionOfTheBundleIsTheProjects() {
+  make_good_bundle
+  expect_success check_bundle good/Larkmoor.app
+  local version
+  version=$(sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' "$PROJECT/CMakeLists.txt")
+  expect_said "version $version, build 7, 6 entries, no fault"
+}
+
+TestInfoCanBeGivenByItself() {
+  make_client client 7
+  expect_success "$SCRIPTS/make-package" client client.lpk
+  printf '[Version]\nbuild_version=8\n' >INFO
+  expect_failure "INFO in the bundle says build '8', INFO in the package '7'" \
+    make_bundle --package client.lpk --info INFO out.app
+  [ ! -e out.app ] || fail "a bundle that isn't fit to ship was left behind"
+  expect_success make_bundle --no-check --package client.lpk --info INFO out.app
+  cmp INFO out.app/Contents/Resources/INFO || fail "another INFO"
+}
+
+TestFailureLeavesAnOlderBundleAlone() {
+  make_good_bundle
+  head -c 100 client.lpk >short.lpk
+  expect_failure "make-bundle:" make_bundle --package short.lpk good/Larkmoor.app
+  expect_success check_bundle good/Larkmoor.app
+  expect_equal Larkmoor.app "$(ls -A good)"
+}
+
+TestRefusesToReplaceWhatIsNoBundle() {
+  mkdir photos
+  expect_failure "is no bundle" make_bundle photos
+  [ -d photos ] || fail "the folder is gone"
+}
+
+TestRefusesMissingPackageAndBuild() {
+  expect_failure "there is no file 'none.lpk'" make_bundle --package none.lpk out.app
+  expect_failure "is no build folder" "$SCRIPTS/make-bundle" --launcher . out.app
+}
+
+TestCheckNamesEachMissingFile() {
+  local file
+  make_good_bundle
+  for file in MacOS/launcher Info.plist Resources/larkmoor.icns \
+    Resources/images/ico_72_larkmoor.png Resources/INFO Resources/package/larkmoor.lpk; do
+    in_bundle mv $file saved
+    expect_failure "Contents/$file" check_bundle good/Larkmoor.app
+    in_bundle mv saved $file
+  done
+  expect_success check_bundle good/Larkmoor.app
+}
+
+TestCheckFindsLauncherThatCannotBeExecuted() {
+  make_good_bundle
+  in_bundle chmod -x MacOS/launcher
+  expect_failure "chmod +x" check_bundle good/Larkmoor.app
+}
+
+TestCheckFindsMissingPlugins() {
+  make_good_bundle
+  in_bundle rm -r Frameworks/plugins/platforms
+  expect_failure "can't open a window" check_bundle good/Larkmoor.app
+}
+
+TestCheckFindsGlIntegrations() {
+  make_good_bundle
+  in_bundle mkdir Frameworks/plugins/xcbglintegrations
+  expect_failure "remove it" check_bundle good/Larkmoor.app
+}
+
+TestCheckFindsWrongExecutableInThePropertyList() {
+  make_good_bundle
+  in_bundle sed -i.bak 's|<string>launcher</string>|<string>other</string>|' Info.plist
+  expect_failure "CFBundleExecutable" check_bundle good/Larkmoor.app
+}
+
+TestCheckFindsBuildThatIsNoNumber() {
+  make_good_bundle
+  in_bundle sed -i.bak 's/build_version=7/build_version=7b/' Resources/INFO
+  expect_failure "'7b'" check_bundle good/Larkmoor.app
+  in_bundle sed -i.bak '/build_version/d' Resources/INFO
+  expect_failure "has no build_version" check_bundle good/Larkmoor.app
+}
+
+TestCheckFindsTruncatedAndDamagedPackages() {
+  local package=good/Larkmoor.app/Contents/Resources/package/larkmoor.lpk
+  make_good_bundle
+  head -c $(($(wc -c <client.lpk) / 2)) client.lpk >$package
+  expect_failure "the package can't be read" check_bundle good/Larkmoor.app
+  echo "this is no archive" >$package
+  expect_failure "the package can't be read" check_bundle good/Larkmoor.app
+  : >$package
+  expect_failure "missing or empty" check_bundle good/Larkmoor.app
+}
+
+TestCheckFindsPackageThatIsNotFromTheInsideOfAClient() {
+  make_good_bundle
+  repack mv Contents/MacOS/larkmoor-drive-ui Contents/MacOS/client
+  expect_failure "no Contents/MacOS/larkmoor-drive-ui" check_bundle good/Larkmoor.app
+}
+
+TestCheckFindsWrongOrderAndHardLinks() {
+  make_good_bundle
+  repack mkdir Contents/Zoo
+  expect_failure "doesn't end with" check_bundle good/Larkmoor.app
+  repack ln Contents/Resources/INFO Contents/Resources/twin
+  expect_failure "hard links" check_bundle good/Larkmoor.app
+}
+
+TestCheckFindsNamesThatLeadOut() {
+  make_good_bundle
+  echo x >outside
+  (cd client && bsdtar -czP --format gnutar -f ../good/Larkmoor.app/Contents/Resources/package/larkmoor.lpk \
+    Contents ../outside)
+  expect_failure '".."' check_bundle good/Larkmoor.app
+}
+
+TestCheckFindsNamesThatTheCLocaleCannotConvert() {
+  make_good_bundle
+  expect_success "$SCRIPTS/make-package" --format pax client pax.lpk
+  cp pax.lpk good/Larkmoor.app/Contents/Resources/package/larkmoor.lpk
+  expect_failure "the package can't be read" check_bundle good/Larkmoor.app
+}
+
+TestPlainInstallTakesThePackageFromTheEnvironment() {
+  make_good_bundle
+  expect_success env LARKMOOR_PACKAGE="$PWD/client.lpk" \
+    cmake --install "$BUILD" --prefix "$PWD/installed" --component bundle
+  expect_success check_bundle installed/Larkmoor.app
+}
+
+TestArchiveForDownloadHoldsTheBundle() {
+  make_good_bundle
+  expect_success env LARKMOOR_PACKAGE="$PWD/client.lpk" \
+    cpack --config "$BUILD/CPackConfig.cmake" -G TGZ -B "$PWD/cpack"
+  mkdir unpacked
+  bsdtar -xf cpack/*.tar.gz -C unpacked || fail "can't be unpacked"
+  expect_success check_bundle unpacked/Larkmoor.app
+}
+
+run_tests

@@ -1,0 +1,72 @@
+# A few words to write tests of the scripts in. A test file sources this, defines functions whose
+# names start with "Test", and ends with "run_tests". Each function runs in a shell and an empty
+# folder of its own.
+# shellcheck shell=bash
+set -uo pipefail
+
+# shellcheck disable=SC2034  # for those who source this
+SCRIPTS=$(cd "$(dirname "${BASH_SOURCE[0]}")/../../scripts" && pwd -P)
+
+fail() {
+  printf '  %s\n' "$@"
+  exit 1
+}
+
+# expect_success COMMAND...: its output is in the file "out", its messages are in "err".
+expect_success() {
+  "$@" >out 2>err || fail "failed: $*" "$(cat out err)"
+}
+
+# expect_failure TEXT COMMAND...: the command fails, and says the text.
+expect_failure() {
+  local text=$1
+  shift
+  if "$@" >out 2>err; then fail "succeeded, against expectation: $*" "$(cat out err)"; fi
+  expect_said "$text"
+}
+
+expect_said() {
+  grep -qF -e "$1" out err || fail "nowhere said: $1" "but:" "$(cat out err)"
+}
+
+expect_not_said() {
+  ! grep -qF -e "$1" out err || fail "said: $1" "$(cat out err)"
+}
+
+expect_equal() {
+  [ "$1" = "$2" ] || fail "expected: $1" "but is:   $2"
+}
+
+# make_client FOLDER BUILD: the least that passes for a client's bundle.
+make_client() {
+  mkdir -p "$1/Contents/MacOS" "$1/Contents/Resources"
+  printf '#!/bin/sh\nexit 0\n' >"$1/Contents/MacOS/larkmoor-drive-ui"
+  chmod +x "$1/Contents/MacOS/larkmoor-drive-ui"
+  printf '[Version]\nmajor_version=1\nminor_version=2\nbuild_version=%s\nicon_overlay_version=3\n' \
+    "$2" >"$1/Contents/Resources/INFO"
+}
+
+# Some steps of a test may only read or only run where a program is installed.
+skip_without() {
+  command -v "$1" >/dev/null 2>&1 || {
+    printf '  skipped: %s is not installed\n' "$1"
+    exit 0
+  }
+}
+
+run_tests() {
+  local name passed=0 failed=0 folder
+  for name in $(declare -F | awk '$3 ~ /^Test/ { print $3 }'); do
+    folder=$(mktemp -d "${TMPDIR:-/tmp}/larkmoor-script.XXXXXX")
+    if (cd "$folder" && "$name"); then
+      printf 'ok      %s\n' "$name"
+      passed=$((passed + 1))
+    else
+      printf 'FAILED  %s\n' "$name"
+      failed=$((failed + 1))
+    fi
+    rm -rf "$folder"
+  done
+  printf '%d passed, %d failed\n' $passed $failed
+  [ $passed -gt 0 ] && [ $failed = 0 ]
+}

@@ -1,0 +1,219 @@
+#!/usr/bin/env bash
+# shellcheck source=tests/scripts/harness.sh
+. "$(dirname "$0")/harness.sh"
+
+pack() { "$SCRIPTS/make-package" "$@"; }
+names() { bsdtar -tf "$1"; }
+
+TestSameFolderGivesSameBytesWhateverTimesAndModes() {
+  make_client client 7
+  echo one >client/Contents/one
+  expect_success pack client first.lpk
+  cp -R client copy
+  touch -d 2001-01-01 copy/Contents/one copy/Contents/Resources/INFO
+  chmod 0600 copy/Contents/one
+  expect_success pack copy second.lpk
+  cmp first.lpk second.lpk || fail "the packages differ"
+}
+
+TestOtherFormatsAreTheSameBytesEachTime() {
+  make_client client 7
+  local form
+  for form in pax ustar cpio zip 7zip; do
+    expect_success pack --format $form client first.lpk
+    touch client/Contents/Resources/INFO
+    expect_success pack --format $form client second.lpk
+    cmp first.lpk second.lpk || fail "$form: the packages differ"
+  done
+}
+
+TestChangedByteGivesOtherBytes() {
+  make_client client 7
+  expect_success pack client first.lpk
+  echo more >>client/Contents/MacOS/larkmoor-drive-ui
+  expect_success pack client second.lpk
+  ! cmp -s first.lpk second.lpk || fail "the packages are equal"
+}
+
+TestExecutableIsLastButOneAndInfoIsLast() {
+  make_client client 7
+  mkdir -p client/Contents/zzz client/Contents/Resources/zzz
+  echo z >client/Contents/zzz/z
+  expect_success pack client out.lpk
+  expect_equal "Contents/MacOS/larkmoor-drive-ui
+Contents/Resources/INFO" "$(names out.lpk | tail -n 2)"
+  expect_equal 8 "$(names out.lpk | wc -l)"
+}
+
+TestFoldersComeBeforeWhatTheyHold() {
+  make_client client 7
+  mkdir -p client/Contents/b/c client/Contents/b-c
+  echo x >client/Contents/b/c/x
+  expect_success pack client out.lpk
+  expect_equal "Contents/
+Contents/MacOS/
+Contents/Resources/
+Contents/b/
+Contents/b-c/
+Contents/b/c/
+Contents/b/c/x" "$(names out.lpk | head -n 7)"
+}
+
+TestUnpacksToTheSameTree() {
+  make_client client 7
+  mkdir -p "client/Contents/a b/ü" client/top
+  echo 1 >"client/Contents/a b/ü/#=\\ x"
+  echo 2 >client/Contents/$'new\nline'
+  : >client/Contents/empty
+  ln -s ../Resources/INFO client/Contents/MacOS/link
+  ln client/Contents/empty client/Contents/other-name
+  expect_success pack client out.lpk
+  mkdir unpacked
+  bsdtar -xf out.lpk -C unpacked || fail "bsdtar can't unpack it"
+  diff -r --no-dereference client unpacked || fail "the trees differ"
+  [ -x unpacked/Contents/MacOS/larkmoor-drive-ui ] || fail "the client can't be executed"
+}
+
+TestHardLinksBecomeFiles() {
+  make_client client 7
+  echo x >client/Contents/a
+  ln client/Contents/a client/Contents/b
+  expect_success pack client out.lpk
+  ! bsdtar -tvf out.lpk | grep '^h' || fail "there is a hard link in the package"
+}
+
+TestFiltersByName() {
+  make_client client 7
+  local each
+  for each in gzip zstd xz bzip2 none; do
+    expect_success pack --filter $each client out.lpk
+    names out.lpk >/dev/null || fail "$each: can't be read back"
+  done
+}
+
+TestNamesOutsideAsciiWarnInAllFormatsButGnutar() {
+  make_client client 7
+  expect_success pack --format pax client out.lpk
+  expect_not_said "warning"
+  echo x >client/Contents/ü
+  expect_success pack client out.lpk
+  expect_not_said "warning"
+  local form
+  for form in pax zip cpio; do
+    expect_success pack --format $form client out.lpk
+    expect_said "Use gnutar"
+  done
+}
+
+TestFormatWithAnOrderOfItsOwnWarns() {
+  make_client client 7
+  : >client/Contents/empty
+  expect_success pack --format 7zip client out.lpk
+  expect_said "doesn't keep INFO for the end"
+}
+
+TestRefusesFolderWithoutExecutable() {
+  make_client client 7
+  rm client/Contents/MacOS/larkmoor-drive-ui
+  expect_failure "has no Contents/MacOS/larkmoor-drive-ui" pack client out.lpk
+  [ ! -e out.lpk ] || fail "there is a package all the same"
+}
+
+TestRefusesExecutableThatCannotBeExecuted() {
+  make_client client 7
+  chmod -x client/Contents/MacOS/larkmoor-drive-ui
+  expect_failure "chmod +x" pack client out.lpk
+}
+
+TestRefusesFolderWithoutInfo() {
+  make_client client 7
+  rm client/Contents/Resources/INFO
+  expect_failure "has no Contents/Resources/INFO" pack client out.lpk
+}
+
+TestRefusesTheInsideOfContents() {
+  make_client client 7
+  expect_failure "give the folder that holds Contents" pack client/Contents out.lpk
+}
+
+TestRefusesMissingFolder() {
+  expect_failure "is no folder" pack client out.lpk
+}
+
+TestRefusesToPackItselfIn() {
+  make_client client 7
+  expect_failure "can't lie inside the folder" pack client client/Contents/out.lpk
+}
+
+TestRefusesLinksOutOfTheTree() {
+  make_client client 7
+  ln -s /etc/passwd client/Contents/absolute
+  expect_failure "make it relative" pack client out.lpk
+  rm client/Contents/absolute
+  ln -s ../../outside client/Contents/relative
+  expect_failure "leads to '../../outside', outside the bundle" pack client out.lpk
+  rm client/Contents/relative
+  ln -s Resources/../../Contents/Resources/INFO client/Contents/inside
+  expect_success pack client out.lpk
+}
+
+TestRefusesLinkThatLeavesThroughAnotherLink() {
+  make_client client 7
+  mkdir -p client/Contents/a/b/c
+  ln -s a/b/c client/Contents/deep
+  mkdir client/Contents/MacOS/x
+  ln -s ../.. client/Contents/MacOS/x/up
+  ln -s MacOS/x/up/../../outside client/Contents/out
+  expect_failure "outside the bundle" pack client out.lpk
+}
+
+TestRefusesNamesThatAMacCannotUnpack() {
+  make_client client 7
+  echo x >client/Contents/$'latin\374'
+  expect_failure "isn't UTF-8" pack client out.lpk
+  rm client/Contents/latin*
+  echo x >client/Contents/Read
+  echo x >client/Contents/READ
+  expect_failure "differ in nothing but case" pack client out.lpk
+  rm client/Contents/READ
+  echo x >client/Contents/._Read
+  expect_failure "metadata of another file" pack client out.lpk
+}
+
+TestRefusesWhatIsNoFileFolderOrLink() {
+  make_client client 7
+  mkfifo client/Contents/pipe
+  expect_failure "neither file, folder nor link" pack client out.lpk
+}
+
+TestUnknownFormatAndFilterAreNamed() {
+  make_client client 7
+  expect_failure "can't write this as tarball" pack --format tarball client out.lpk
+  expect_failure "with the filter squeeze" pack --filter squeeze client out.lpk
+}
+
+TestFailureLeavesAnOlderPackageAlone() {
+  make_client client 7
+  expect_success pack client out.lpk
+  cp out.lpk before.lpk
+  ln -s /etc client/Contents/out
+  expect_failure "outside the bundle" pack client out.lpk
+  cmp out.lpk before.lpk || fail "the package has changed"
+}
+
+TestBuildThatIsNoNumberWarns() {
+  make_client client seven
+  expect_success pack client out.lpk
+  expect_said "holds no number as build_version"
+}
+
+TestDrawsABarOnATerminal() {
+  skip_without script
+  make_client client 7
+  expect_success script -qec "'$SCRIPTS/make-package' client out.lpk" /dev/null
+  expect_said "[########################################] 100%"
+  expect_success pack client out.lpk
+  expect_not_said "100%"
+}
+
+run_tests
