@@ -386,7 +386,7 @@
     <message>
         <source>Choose a folder on the NAS and a folder on this computer. Larkmoor Drive will keep them in sync.</source>
         <extracomment>78 wizard_new_sync_folder_desc</extracomment>
-        <translation>Wählen Sie einen Ordner auf dem NAS und einen Ordner auf diesem Computer aus. Larkmoor Drive hält beide synchron.</translation>
+        <translation>Wählen Sie einen Ordner auf dem NAS und einen Ordner auf diesem Computer aus. Larkmoor Drive hält beide Ordner synchron.</translation>
     </message>
     <message>
         <source>You are not signed in as an administrator. Larkmoor Drive will be installed for your user account only. Do you want to continue?</source>
@@ -876,7 +876,7 @@
     <message>
         <source>The volume that holds the sync folder &quot;%1&quot; is not mounted. Please mount it to resume syncing.</source>
         <extracomment>180 err_syncfolder_not_mounted</extracomment>
-        <translation>Das Volume mit dem Synchronisierungsordner „%1“ ist nicht eingebunden. Bitte binden Sie es ein, um die Synchronisierung fortzusetzen.</translation>
+        <translation>Das Volume mit dem Synchronisierungsordner „%1“ ist nicht eingehängt. Bitte hängen Sie es ein, um die Synchronisierung fortzusetzen.</translation>
     </message>
     <message>
         <source>Use the system proxy settings</source>
@@ -1566,7 +1566,7 @@
     <message>
         <source>The shared folder &quot;%1&quot; is not mounted on the NAS.</source>
         <extracomment>332 err_share_not_mounted</extracomment>
-        <translation>Der freigegebene Ordner „%1“ ist auf dem NAS nicht eingebunden.</translation>
+        <translation>Der freigegebene Ordner „%1“ ist auf dem NAS nicht eingehängt.</translation>
     </message>
     <message>
         <source>This wizard will install [ProductName] on your computer. Click Next to continue or Cancel to exit the Setup Wizard.</source>
@@ -2036,7 +2036,7 @@
     <message>
         <source>The volume on the NAS is not mounted. Please contact the NAS administrator.</source>
         <extracomment>440 err_remote_not_mounted</extracomment>
-        <translation>Das Volume auf dem NAS ist nicht eingebunden. Bitte wenden Sie sich an den NAS-Administrator.</translation>
+        <translation>Das Volume auf dem NAS ist nicht eingehängt. Bitte wenden Sie sich an den NAS-Administrator.</translation>
     </message>
     <message>
         <source>Please enter the address and port of the proxy server.</source>
