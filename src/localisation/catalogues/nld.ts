@@ -381,7 +381,7 @@
     <message>
         <source>Uploading</source>
         <extracomment>76 label_uploading</extracomment>
-        <translation>Uploaden bezig</translation>
+        <translation>Bezig met uploaden</translation>
     </message>
     <message>
         <source>Choose a folder on the NAS and a folder on this computer. Larkmoor Drive will keep them in sync.</source>
@@ -416,7 +416,7 @@
     <message>
         <source>Your changes have not been saved. Do you want to discard them?</source>
         <extracomment>85 manage_setting_not_save</extracomment>
-        <translation>Uw wijzigingen zijn niet opgeslagen. Wilt u deze negeren?</translation>
+        <translation>Uw wijzigingen zijn niet opgeslagen. Wilt u de wijzigingen negeren?</translation>
     </message>
     <message>
         <source>Username</source>
@@ -1191,7 +1191,7 @@
     <message>
         <source>Preparing</source>
         <extracomment>246 progress_preparing</extracomment>
-        <translation>Voorbereiden</translation>
+        <translation>Bezig met voorbereiden</translation>
     </message>
     <message>
         <source>%1 item(s)</source>
@@ -1406,7 +1406,7 @@
     <message>
         <source>Downloading</source>
         <extracomment>299 label_downloading</extracomment>
-        <translation>Downloaden bezig</translation>
+        <translation>Bezig met downloaden</translation>
     </message>
     <message>
         <source>The NAS is indexing this folder. Please try again later.</source>
@@ -1436,7 +1436,7 @@
     <message>
         <source>Processing %1 file(s)...</source>
         <extracomment>305 tray_syncing_file_cnt</extracomment>
-        <translation>%1 bestand(en) verwerken...</translation>
+        <translation>%1 bestand(en) worden verwerkt...</translation>
     </message>
     <message>
         <source>Your account requires 2-step verification. Please set it up on the NAS first.</source>
@@ -1561,7 +1561,7 @@
     <message>
         <source>System default</source>
         <extracomment>331 language_default</extracomment>
-        <translation>Standaardinstelling van systeem</translation>
+        <translation>Standaardinstelling van het systeem</translation>
     </message>
     <message>
         <source>The shared folder &quot;%1&quot; is not mounted on the NAS.</source>
@@ -1591,7 +1591,7 @@
     <message>
         <source>Last 7 days</source>
         <extracomment>337 history_last_week</extracomment>
-        <translation>Laatste 7 dagen</translation>
+        <translation>Afgelopen 7 dagen</translation>
     </message>
     <message>
         <source>Browse previous versions</source>
@@ -1831,7 +1831,7 @@
     <message>
         <source>Initializing</source>
         <extracomment>393 label_preparing</extracomment>
-        <translation>Initialiseren</translation>
+        <translation>Bezig met initialiseren</translation>
     </message>
     <message>
         <source>Link a New NAS</source>
@@ -2251,7 +2251,7 @@
     <message>
         <source>Last 30 days</source>
         <extracomment>493 history_last_month</extracomment>
-        <translation>Laatste 30 dagen</translation>
+        <translation>Afgelopen 30 dagen</translation>
     </message>
     <message>
         <source>Your quota on the NAS is not large enough to upload &quot;%1&quot;.</source>
@@ -2261,7 +2261,7 @@
     <message>
         <source>%1 minute(s) ago</source>
         <extracomment>495 time_minute_ago</extracomment>
-        <translation>%1 minuut/minuten geleden</translation>
+        <translation>%1 min. geleden</translation>
     </message>
     <message>
         <source>Step %1 of %2</source>
