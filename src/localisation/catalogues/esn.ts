@@ -46,12 +46,12 @@
     <message>
         <source>{\VerdanaBold13}Welcome to the [ProductName] Setup Wizard</source>
         <extracomment>8 msi_welcome_dlg_subtitle</extracomment>
-        <translation>{\VerdanaBold13}Asistente para la instalación de [ProductName]</translation>
+        <translation>{\VerdanaBold13}Le damos la bienvenida al Asistente para la instalación de [ProductName]</translation>
     </message>
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
         <extracomment>9 msi_exit_dlg_description, 297 msi_userexit_dlg_description2, 445 msi_exit_dlg_text, 461 msi_fatalerror_dlg_description2</extracomment>
-        <translation>Haga clic en el botón Finalizar para salir del Asistente para instalación.</translation>
+        <translation>Haga clic en el botón Finalizar para salir del Asistente para la instalación.</translation>
     </message>
     <message>
         <source>Unable to reach the network. Please check your network connection and try again.</source>
@@ -171,7 +171,7 @@
     <message>
         <source>This wizard lets you change, repair or remove [ProductName]. Click Next to continue or Cancel to exit the Setup Wizard.</source>
         <extracomment>33 msi_maintenance_welcome_dlg_description</extracomment>
-        <translation>Este asistente le permite cambiar, reparar o quitar [ProductName]. Haga clic en Siguiente para continuar o en Cancelar para salir del Asistente para instalación.</translation>
+        <translation>Este asistente le permite cambiar, reparar o quitar [ProductName]. Haga clic en Siguiente para continuar o en Cancelar para salir del Asistente para la instalación.</translation>
     </message>
     <message>
         <source>Upload</source>
@@ -261,7 +261,7 @@
     <message>
         <source>{\VerdanaBold13}Welcome to [ProductName] Maintenance</source>
         <extracomment>51 msi_maintenance_welcome_dlg_subtitle</extracomment>
-        <translation>{\VerdanaBold13}Mantenimiento de [ProductName]</translation>
+        <translation>{\VerdanaBold13}Le damos la bienvenida al mantenimiento de [ProductName]</translation>
     </message>
     <message>
         <source>Custom</source>
@@ -431,7 +431,7 @@
     <message>
         <source>The Setup Wizard is ready to remove [ProductName] from this computer.</source>
         <extracomment>88 msi_readyremove_dlg_description</extracomment>
-        <translation>El Asistente para instalación está listo para quitar [ProductName] de este equipo.</translation>
+        <translation>El Asistente para la instalación está listo para quitar [ProductName] de este equipo.</translation>
     </message>
     <message>
         <source>Folder</source>
@@ -491,7 +491,7 @@
     <message>
         <source>Advanced Setup Wizard</source>
         <extracomment>102 advan_setup_wizard</extracomment>
-        <translation>Asistente para configuración avanzada</translation>
+        <translation>Asistente para la configuración avanzada</translation>
     </message>
     <message>
         <source>Do not sync these folders</source>
@@ -786,7 +786,7 @@
     <message>
         <source>Click Repair to repair the installation of [ProductName]. Click Back to review your settings or Cancel to exit the Setup Wizard.</source>
         <extracomment>162 msi_readyrepair_dlg_text</extracomment>
-        <translation>Haga clic en Reparar para reparar la instalación de [ProductName]. Haga clic en Atrás para revisar la configuración o en Cancelar para salir del Asistente para instalación.</translation>
+        <translation>Haga clic en Reparar para reparar la instalación de [ProductName]. Haga clic en Atrás para revisar la configuración o en Cancelar para salir del Asistente para la instalación.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to Repair [ProductName]</source>
@@ -861,7 +861,7 @@
     <message>
         <source>Click Remove to uninstall [ProductName]. Click Back to review your settings or Cancel to exit the Setup Wizard.</source>
         <extracomment>177 msi_readyremove_dlg_text</extracomment>
-        <translation>Haga clic en Quitar para desinstalar [ProductName]. Haga clic en Atrás para revisar la configuración o en Cancelar para salir del Asistente para instalación.</translation>
+        <translation>Haga clic en Quitar para desinstalar [ProductName]. Haga clic en Atrás para revisar la configuración o en Cancelar para salir del Asistente para la instalación.</translation>
     </message>
     <message>
         <source>Time</source>
@@ -1001,7 +1001,7 @@
     <message>
         <source>The Setup Wizard is ready to install [ProductName] on this computer.</source>
         <extracomment>205 msi_ready_dlg_description</extracomment>
-        <translation>El Asistente para instalación está listo para instalar [ProductName] en este equipo.</translation>
+        <translation>El Asistente para la instalación está listo para instalar [ProductName] en este equipo.</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1091,7 +1091,7 @@
     <message>
         <source>Click Install to begin the installation. Click Back to review your settings or Cancel to exit the Setup Wizard.</source>
         <extracomment>223 msi_ready_dlg_text</extracomment>
-        <translation>Haga clic en Instalar para comenzar la instalación. Haga clic en Atrás para revisar la configuración o en Cancelar para salir del Asistente para instalación.</translation>
+        <translation>Haga clic en Instalar para comenzar la instalación. Haga clic en Atrás para revisar la configuración o en Cancelar para salir del Asistente para la instalación.</translation>
     </message>
     <message>
         <source>The download has been canceled.</source>
@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>Espere mientras el Asistente para instalación procesa [ProductName]. Esta operación puede tardar varios minutos.</translation>
+        <translation>Espere mientras el Asistente para la instalación procesa [ProductName]. Esta operación puede tardar varios minutos.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1186,7 +1186,7 @@
     <message>
         <source>The Setup Wizard is ready to repair [ProductName].</source>
         <extracomment>245 msi_readyrepair_dlg_description</extracomment>
-        <translation>El Asistente para instalación está listo para reparar [ProductName].</translation>
+        <translation>El Asistente para la instalación está listo para reparar [ProductName].</translation>
     </message>
     <message>
         <source>Preparing</source>
@@ -1556,7 +1556,7 @@
     <message>
         <source>The following applications are using files that need to be updated. You can let the Setup Wizard close them, or restart your computer later.</source>
         <extracomment>330 msi_filesinuse_dlg_text2</extracomment>
-        <translation>Las siguientes aplicaciones usan archivos que deben actualizarse. Puede permitir que el Asistente para instalación las cierre o reiniciar el equipo más adelante.</translation>
+        <translation>Las siguientes aplicaciones usan archivos que deben actualizarse. Puede permitir que el Asistente para la instalación las cierre o reiniciar el equipo más adelante.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1571,7 +1571,7 @@
     <message>
         <source>This wizard will install [ProductName] on your computer. Click Next to continue or Cancel to exit the Setup Wizard.</source>
         <extracomment>333 msi_welcome_dlg_description</extracomment>
-        <translation>Este asistente instalará [ProductName] en su equipo. Haga clic en Siguiente para continuar o en Cancelar para salir del Asistente para instalación.</translation>
+        <translation>Este asistente instalará [ProductName] en su equipo. Haga clic en Siguiente para continuar o en Cancelar para salir del Asistente para la instalación.</translation>
     </message>
     <message>
         <source>Disconnected from the NAS. Trying to reconnect...</source>
@@ -1821,7 +1821,7 @@
     <message>
         <source>The local sync folder &quot;%1&quot; cannot be found. It may have been moved, renamed or deleted.</source>
         <extracomment>391 err_local_sync_folder_miss</extracomment>
-        <translation>No se encuentra la carpeta de sincronización local «%1». Es posible que se haya movido, eliminado o que se le haya cambiado el nombre.</translation>
+        <translation>No se encuentra la carpeta de sincronización local «%1». Es posible que se haya movido o eliminado, o que se le haya cambiado el nombre.</translation>
     </message>
     <message>
         <source>Unable to remove the sync folder &quot;%1&quot;.</source>
