@@ -46,7 +46,7 @@
     <message>
         <source>{\VerdanaBold13}Welcome to the [ProductName] Setup Wizard</source>
         <extracomment>8 msi_welcome_dlg_subtitle</extracomment>
-        <translation>{\VerdanaBold13}Installazione guidata di [ProductName]</translation>
+        <translation>{\VerdanaBold13}Benvenuto nell&apos;installazione guidata di [ProductName]</translation>
     </message>
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
@@ -261,7 +261,7 @@
     <message>
         <source>{\VerdanaBold13}Welcome to [ProductName] Maintenance</source>
         <extracomment>51 msi_maintenance_welcome_dlg_subtitle</extracomment>
-        <translation>{\VerdanaBold13}Manutenzione guidata di [ProductName]</translation>
+        <translation>{\VerdanaBold13}Benvenuto nella manutenzione di [ProductName]</translation>
     </message>
     <message>
         <source>Custom</source>
@@ -2156,7 +2156,7 @@
     <message>
         <source>This folder is used by a backup task. Syncing it may cause data conflicts.</source>
         <extracomment>471 wizard_conflict_backup_warning</extracomment>
-        <translation>Questa cartella è utilizzata da un&apos;attività di backup. Sincronizzandola potrebbero verificarsi conflitti tra i dati.</translation>
+        <translation>Questa cartella è utilizzata da un&apos;attività di backup. La sincronizzazione potrebbe causare conflitti tra i dati.</translation>
     </message>
     <message>
         <source>Change</source>
