@@ -1926,7 +1926,7 @@
     <message>
         <source>Status information</source>
         <extracomment>413 title_status_info</extracomment>
-        <translation>状態の情報</translation>
+        <translation>状態情報</translation>
     </message>
     <message>
         <source>There is not enough free space on the NAS. Please free up some space or contact the NAS administrator.</source>
