@@ -7,9 +7,10 @@
 
 // A debug message of Qt's own logger. Its source, line and function are part of the message and are
 // what its readers filter by, so they are fixed here and don't follow the file's real lines.
-#define TRACE(line, function, format, value)             \
-  QMessageLogger(kSourcePath, line, function, "default") \
-      .debug(format, kSourcePath, line, "qPrintable(" #value ")", value.toLocal8Bit().constData())
+#define TRACE(line, function, format, value)                      \
+  QMessageLogger(kSourcePath, line, function, "default")          \
+      .debug(format, kSourcePath, line, "qPrintable(" #value ")", \
+             (value).toLocal8Bit().constData())
 
 namespace TovarelLocale {
 namespace {

@@ -12,7 +12,7 @@ constexpr int kRowCount = 524;
 constexpr bool EachRowStandsAtItsId() {
   int next = 0;
 #define ROW(id, key, text) \
-  if (id != next++) return false;
+  if ((id) != next++) return false;
 #include "localisation/str-table-rows.inc"
 #undef ROW
   return next == kRowCount;

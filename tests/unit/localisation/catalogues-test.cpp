@@ -67,8 +67,14 @@ class WithResource : public testing::Test {
     StrTable::InitStrTable();
   }
 
-  // The texts of a row in English and in the language installed.
+  // The text of a row in the language installed, in English before one is.
   static std::string Text(int id) { return StrTable::LoadStr(id).toStdString(); }
+
+  static std::vector<std::string> AllTexts() {
+    std::vector<std::string> texts(kRowCount);
+    for (int id = 0; id < kRowCount; ++id) texts[static_cast<std::size_t>(id)] = Text(id);
+    return texts;
+  }
 
   void Install(std::string const& name) {
     ASSERT_TRUE(translator_.load(Path(name), QString(), QString(), QString()));
@@ -197,8 +203,7 @@ TEST_P(CompleteCatalogue, OrdersItsTextsLikeTheEnglishOne) {
 }
 
 TEST_P(CompleteCatalogue, TranslatesEveryRow) {
-  std::vector<std::string> english;
-  for (int id = 0; id < kRowCount; ++id) english.push_back(Text(id));
+  std::vector<std::string> const english = AllTexts();
   Install(GetParam());
   for (std::string const& text : english) {
     EXPECT_FALSE(translator_.translate("global", text.c_str()).isEmpty()) << text;
@@ -231,12 +236,9 @@ INSTANTIATE_TEST_SUITE_P(, CompleteCatalogue, testing::ValuesIn(CompleteCatalogu
 class EnglishCatalogue : public WithResource {};
 
 TEST_F(EnglishCatalogue, ChangesNoText) {
-  std::vector<std::string> english;
-  for (int id = 0; id < kRowCount; ++id) english.push_back(Text(id));
+  std::vector<std::string> const english = AllTexts();
   Install("enu");
-  for (int id = 0; id < kRowCount; ++id) {
-    EXPECT_EQ(Text(id), english[static_cast<std::size_t>(id)]);
-  }
+  EXPECT_EQ(AllTexts(), english);
 }
 
 struct LauncherTexts {
