@@ -340,6 +340,37 @@ ustring& ustring::assign_data(char const* s, unsigned long n) {
   return *this;
 }
 
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment,cert-oop54-cpp): assign() knows itself
+ustring& ustring::operator=(ustring const& s) {
+  assign(s, 0, npos);
+  return *this;
+}
+
+ustring& ustring::operator=(std::string const& s) {
+  assign(s, 0, npos);
+  return *this;
+}
+
+ustring& ustring::operator=(char const* s) {
+  assign(s);
+  return *this;
+}
+
+ustring& ustring::operator=(unsigned short const* s) {
+  assign(s);
+  return *this;
+}
+
+ustring& ustring::operator=(char c) {
+  assign(c, 1);
+  return *this;
+}
+
+ustring& ustring::operator=(unsigned short c) {
+  assign(c, 1);
+  return *this;
+}
+
 // ---- append ----
 
 ustring& ustring::append(ustring const& s, unsigned long pos, unsigned long n) {
@@ -392,7 +423,7 @@ ustring& ustring::append_data(char const* s, unsigned long n) {
 
 std::string_view ustring::part(unsigned long pos, unsigned long n) const {
   if (pos > data_length) throw std::out_of_range("substr");
-  return {data + pos, Length(data + pos, std::min(n, data_length - pos))};
+  return {data + pos, Length(data + pos, n < data_length - pos ? n : npos)};
 }
 
 ustring ustring::substr(unsigned long pos, unsigned long n) const { return {part(pos, n), {}}; }
@@ -423,8 +454,16 @@ unsigned long ustring::find_text(std::string_view pattern, unsigned long pos) co
 }
 
 unsigned long ustring::rfind_text(std::string_view pattern, unsigned long pos) const {
-  if (empty()) return npos;
-  return std::string_view(data, data_length).rfind(pattern, std::min(pos, data_length - 1));
+  if (pattern.size() > data_length || empty()) return npos;
+  unsigned long at = std::min(pos, data_length - 1);
+  if (pattern.empty()) return at;
+  at = std::min(at, data_length - pattern.size());
+  for (++at; at-- > 0;) {
+    if (data[at] == pattern[0] && std::memcmp(data + at, pattern.data(), pattern.size()) == 0) {
+      return at;
+    }
+  }
+  return npos;
 }
 
 unsigned long ustring::first_byte(std::string_view set, unsigned long pos, bool in_set) const {

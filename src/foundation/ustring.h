@@ -58,13 +58,13 @@ class ustring {
   ustring& append(char c, unsigned long n = 1);
   ustring& append(unsigned short c, unsigned long n = 1);
 
-  ustring& operator=(ustring const& s) { return assign(s); }
+  ustring& operator=(ustring const& s);
   ustring& operator=(ustring&& s) noexcept;  ///< Leaves `s` empty.
-  ustring& operator=(std::string const& s) { return assign(s); }
-  ustring& operator=(char const* s) { return assign(s); }
-  ustring& operator=(unsigned short const* s) { return assign(s); }
-  ustring& operator=(char c) { return assign(c, 1); }
-  ustring& operator=(unsigned short c) { return assign(c, 1); }
+  ustring& operator=(std::string const& s);
+  ustring& operator=(char const* s);
+  ustring& operator=(unsigned short const* s);
+  ustring& operator=(char c);
+  ustring& operator=(unsigned short c);
 
   ustring& operator+=(ustring const& s) { return append(s); }
   ustring& operator+=(std::string const& s) { return append(s); }

@@ -59,7 +59,7 @@ Line Parse(char* line, char*& key, char*& value) {
 }
 
 struct FileCloser {
-  void operator()(std::FILE* file) const { std::fclose(file); }
+  void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
 };
 
 }  // namespace

@@ -240,6 +240,14 @@ TEST(Ustring, AppendOfItsOwnTextStopsAtTheCount) {
   EXPECT_EQ(s.append(s, 8, 2), "abcababcabab");
 }
 
+TEST(Ustring, AppendOfItsOwnTextTakesItsWholeLengthAndNoTerminatorForItsEnd) {
+  ustring s("abc");
+  s[1] = '\0';
+  s.append(s.c_str());
+  EXPECT_EQ(s.length(), 6U);
+  EXPECT_EQ(s[5], 'c');
+}
+
 TEST(Ustring, AppendOfItsOwnUtf16DoublesIt) {
   ustring s("\xC3\xA4");
   for (int i = 0; i < 8; ++i) s.append(s.c_str_utf16());
@@ -375,13 +383,13 @@ TEST(Ustring, AssignOfItsOwnTextWithASmallerCountTruncatesInPlace) {
 
 TEST(Ustring, PlusJoinsEveryKindOfText) {
   ustring const s("ab");
-  EXPECT_EQ(s + ustring("c"), "abc");
-  EXPECT_EQ(s + "c", "abc");
-  EXPECT_EQ(s + 'c', "abc");
-  EXPECT_EQ(s + Units(u"\u00E4"), "ab\xC3\xA4");
-  EXPECT_EQ(s + static_cast<unsigned short>(0xE4), "ab\xC3\xA4");
-  EXPECT_EQ(s + "/" + 'c', "ab/c");
-  EXPECT_EQ(s, "ab");
+  EXPECT_EQ(s + ustring("c"), ustring("abc"));
+  EXPECT_EQ(s + "c", ustring("abc"));
+  EXPECT_EQ(s + 'c', ustring("abc"));
+  EXPECT_EQ(s + Units(u"\u00E4"), ustring("ab\xC3\xA4"));
+  EXPECT_EQ(s + static_cast<unsigned short>(0xE4), ustring("ab\xC3\xA4"));
+  EXPECT_EQ(s + "/" + 'c', ustring("ab/c"));
+  EXPECT_EQ(s, ustring("ab"));
 }
 
 // ---- substr ----

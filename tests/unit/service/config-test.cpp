@@ -2,10 +2,14 @@
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <chrono>
 #include <limits>
 #include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -151,7 +155,9 @@ TEST_F(ConfigTest, KeepsItsPairsWhenTheFileIsMissing) {
 
 TEST_F(ConfigTest, RefusesAnEmptyPathAndKeepsItsPairs) {
   EXPECT_EQ(Read("a=1\n"), 0);
+  errno = 0;
   EXPECT_EQ(config_.read(""), -1);
+  EXPECT_EQ(errno, 0) << "no file is asked for";
   EXPECT_EQ(PairsOf(config_), (Pairs{{"a", "1"}}));
 }
 
@@ -169,6 +175,37 @@ TEST_F(ConfigTest, LeavesNoFileOpen) {
   int const after = open(path_.c_str(), O_RDONLY | O_CLOEXEC);
   close(after);
   EXPECT_EQ(after, before);
+}
+
+/// The descriptor that is open for reading a file, waited for; -1 when it doesn't come.
+int ReadingDescriptor(struct stat const& wanted) {
+  auto const deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+  while (std::chrono::steady_clock::now() < deadline) {
+    for (int descriptor = 0; descriptor < 256; ++descriptor) {
+      struct stat found = {};
+      if (fstat(descriptor, &found) != 0 || found.st_ino != wanted.st_ino) continue;
+      if (found.st_dev != wanted.st_dev) continue;
+      if ((fcntl(descriptor, F_GETFL) & O_ACCMODE) == O_RDONLY) return descriptor;
+    }
+  }
+  return -1;
+}
+
+TEST_F(ConfigTest, KeepsItsFileFromProgramsThatAreStartedMeanwhile) {
+  ASSERT_EQ(mkfifo(path_.c_str(), 0600), 0);
+  int result = -2;
+  std::thread reader([&] { result = config_.read(path_.c_str()); });
+  int const writing = open(path_.c_str(), O_WRONLY | O_CLOEXEC);  // waits for the reader
+  struct stat fifo = {};
+  EXPECT_EQ(fstat(writing, &fifo), 0);
+  int const reading = ReadingDescriptor(fifo);
+  EXPECT_NE(reading, -1);
+  EXPECT_EQ(fcntl(reading, F_GETFD), FD_CLOEXEC);
+  EXPECT_EQ(write(writing, "a=1\n", 4), 4);
+  close(writing);
+  reader.join();
+  EXPECT_EQ(result, 0);
+  EXPECT_EQ(PairsOf(config_), (Pairs{{"a", "1"}}));
 }
 
 // ---- lines longer than the buffer: 8191 bytes are one line, the rest is the next ----
