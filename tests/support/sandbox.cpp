@@ -80,6 +80,8 @@ std::vector<std::string> NormaliseLog(std::string const& text) {
 
 Sandbox::Sandbox(std::string launcher) {
   fs::create_directories(Home());
+  fs::create_directories(folder_ / "runtime");
+  fs::permissions(folder_ / "runtime", fs::perms::owner_all);
   std::string const macos = Bundle() + "/Contents/MacOS";
   fs::create_directories(macos);
   fs::create_directories(Bundle() + "/Contents/Resources");
@@ -134,7 +136,10 @@ void Sandbox::LogEverything() {
 Process::Options Sandbox::Start() const {
   Process::Options options;
   options.arguments = {Bundle() + "/Contents/MacOS/launcher"};
-  options.environment = {{"HOME", Home()}, {"QT_QPA_PLATFORM", "offscreen"}, {"LC_ALL", "C.UTF-8"}};
+  options.environment = {{"HOME", Home()},
+                         {"QT_QPA_PLATFORM", "offscreen"},
+                         {"LC_ALL", "C.UTF-8"},
+                         {"XDG_RUNTIME_DIR", folder_ / "runtime"}};
   options.folder = Home();
   return options;
 }

@@ -1,0 +1,158 @@
+// The whole log of each kind of run, line by line.
+#include <gmock/gmock.h>
+
+#include "support/sandbox.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+class WholeLog : public testing::Test {
+ protected:
+  WholeLog() { box.LogEverything(); }
+
+  static void Append(Lines& lines, Lines const& more) {
+    lines.insert(lines.end(), more.begin(), more.end());
+  }
+  /// What looking at an object that exists leaves in the log.
+  static Lines Looked(std::string const& path) {
+    return {"[DEBUG] file-op(0): Input file path = [" + path + "].",
+            "[DEBUG] file-op(0): FSRefMakePath outTargetPath path = [" + path + "]."};
+  }
+  /// FSStat looks twice: whether the object exists, and at what it is.
+  static Lines Stated(std::string const& path) {
+    Lines lines = Looked(path);
+    Append(lines, Looked(path));
+    return lines;
+  }
+  Lines Running(std::string const& source, std::string const& target) const {
+    Lines lines = {"[DEBUG] launcher(0): running",
+                   "[INFO] larkmoor-service(0): target_version = (3, 1, " + target + ", 12)"};
+    if (source.empty()) {
+      lines.push_back("[INFO] larkmoor-service(0): source does not exist");
+    } else {
+      Append(lines, Looked(box.App() + "/Contents/Resources/INFO"));
+      lines.push_back("[INFO] larkmoor-service(0): source_version = (3, 1, " + source + ", 12)");
+    }
+    Append(lines, {"[DEBUG] mac/mac-service(0): Source version: ('" + source + "', '" +
+                       (source.empty() ? "" : "12") + "')",
+                   "[DEBUG] mac/mac-service(0): Target version: ('" + target + "', '12')",
+                   "[DEBUG] mac/mac-service(0): source version = " +
+                       (source.empty() ? "0" : source) + ", target version = " + target});
+    return lines;
+  }
+  Lines Unpacking() const {
+    return {"[INFO] larkmoor-service(0): extract package: '" + box.Package() + "' -> '" +
+                box.App() + "'",
+            "[DEBUG] extractor(0): decompress from '" + box.Package() + "' to '" + box.App() + "'"};
+  }
+  /// Stopping a client whose pid file isn't there, then the renaming of the old tree.
+  Lines MovingAside() const {
+    Lines lines = {"[DEBUG] mac/mac-service(0): local appdata exist",
+                   "[DEBUG] mac/mac-service(0): pid file '" + box.UserRoot() +
+                       "/ui.pid' does not exist, no need to terminate"};
+    Append(lines, Looked(box.App()));
+    Append(lines, Stated(box.App()));
+    return lines;
+  }
+  Lines Ending() const {
+    return {"[INFO] larkmoor-service(0): removing aged app folder " + box.UserRoot() + "/app",
+            "[DEBUG] launcher(0): done"};
+  }
+  /// The removal of a tree, whose order is the file system's.
+  static Lines RemovalOf(std::string const& root, test::Tree const& tree) {
+    Lines lines = Looked(root);
+    for (auto const& [path, node] : tree) Append(lines, Looked(root + "/" + path));
+    return lines;
+  }
+
+  test::Sandbox box;
+};
+
+TEST_F(WholeLog, OfAFirstInstall) {
+  box.Carry(100);
+
+  EXPECT_EQ(box.Launch().status, 0);
+
+  Lines expected = Running("", "100");
+  Append(expected, Unpacking());
+  Append(expected, {"[INFO] larkmoor-service(0): user installation is ready, removing backup app"});
+  Append(expected, Ending());
+  EXPECT_EQ(box.Log(), expected);
+}
+
+TEST_F(WholeLog, OfAPlainStart) {
+  box.Carry(100);
+  box.Install(100);
+
+  EXPECT_EQ(box.Launch().status, 0);
+
+  Lines expected = Running("100", "100");
+  Append(expected, {"[DEBUG] launcher(0): no need to upgrade"});
+  Append(expected, Ending());
+  EXPECT_EQ(box.Log(), expected);
+}
+
+TEST_F(WholeLog, OfAnUpgrade) {
+  box.Carry(200);
+  box.Install(100);
+  test::Tree const old_tree = test::ReadTree(box.App());
+
+  EXPECT_EQ(box.Launch().status, 0);
+
+  Lines before = Running("100", "200");
+  Append(before, MovingAside());
+  Append(before, Unpacking());
+  Append(before, {"[INFO] larkmoor-service(0): user installation is ready, removing backup app"});
+  Lines const removal = RemovalOf(box.App() + "_tmp", old_tree);
+  Lines const log = box.Log();
+  ASSERT_EQ(log.size(), before.size() + removal.size() + Ending().size());
+  auto const removed = log.begin() + static_cast<std::ptrdiff_t>(before.size());
+  auto const ended = removed + static_cast<std::ptrdiff_t>(removal.size());
+  EXPECT_EQ(Lines(log.begin(), removed), before);
+  // Two lines an object; the order of a folder's entries is the file system's business.
+  EXPECT_EQ(*removed, removal.front());
+  EXPECT_THAT(Lines(removed, ended), testing::UnorderedElementsAreArray(removal));
+  EXPECT_EQ(Lines(ended, log.end()), Ending());
+}
+
+TEST_F(WholeLog, OfARollback) {
+  box.CarryVersion(200);
+  box.CarryPackage(
+      test::MakeArchive({test::Entry::File("only", "1"), test::Entry::File("../climbs", "2")}));
+  box.Install(100);
+
+  EXPECT_EQ(box.Launch().status, 0);
+
+  Lines expected = Running("100", "200");
+  Append(expected, MovingAside());
+  Append(expected, Unpacking());
+  Append(expected,
+         {"[ERROR] extractor(0): archive_read_extract2 failed: 'Path contains '..''",
+          "[ERROR] larkmoor-service(0): Failed to extract package, rollback to old installation"});
+  Append(expected, Looked(box.App()));
+  Append(expected, Looked(box.App() + "/only"));
+  Append(expected, Stated(box.App() + "_tmp"));
+  Append(expected, {"[ERROR] launcher(0): Failed to upgrade package"});
+  Append(expected, Ending());
+  EXPECT_EQ(box.Log(), expected);
+}
+
+TEST_F(WholeLog, OfARunWithoutLevelFileHoldsNothing) {
+  fs::remove(box.Bundle() + "/log/launcher.debug");
+  box.Carry(100);
+  EXPECT_EQ(box.Launch().status, 0);
+  EXPECT_EQ(box.RawLog(), "");
+}
+
+TEST_F(WholeLog, BeginsEachRecordWithAStamp) {
+  box.Carry(100);
+  box.Launch();
+  EXPECT_THAT(box.RawLog(),
+              testing::ContainsRegex("^[A-Z][a-z][a-z] [0-9][0-9] [0-9][0-9]:[0-9][0-9]:[0-9][0-9] "
+                                     "\\[DEBUG\\] launcher\\([0-9]+\\): running\n"));
+}
+
+}  // namespace
