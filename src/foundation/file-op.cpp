@@ -79,6 +79,7 @@ class Listing {
   Listing& operator=(Listing const&) = delete;
 
   bool IsOpen() const { return dir_ != nullptr; }
+  int descriptor() const { return dirfd(dir_); }
   /// Valid until the next call; null at the end.
   char const* Next() {
     dirent* entry = nullptr;
@@ -273,16 +274,33 @@ int MoveDirectory(ustring const& source, ustring const& target, bool strict) {
   return RemoveOne(source);
 }
 
-int RemoveDirectory(ustring const& path) {
-  {
-    Listing entries(path);
-    if (!entries.IsOpen()) return 0;
-    ustring const prefix = path + "/";
-    while (char const* const name = entries.Next()) {
-      if (FSRemove(prefix + name, false) != 0) return -3;
-    }
+int RemoveAt(int folder, char const* name, ustring const& path);
+
+int RemoveEntries(ustring const& path, bool& is_readable) {
+  Listing entries(path);
+  is_readable = entries.IsOpen();
+  if (!is_readable) return 0;
+  ustring const prefix = path + "/";
+  while (char const* const name = entries.Next()) {
+    if (RemoveAt(entries.descriptor(), name, prefix + name) != 0) return -3;
   }
-  return RemoveOne(path);
+  return 0;
+}
+
+/// FSRemove of an object that is `path` to everybody and `name` seen from an open folder. Removing
+/// it by that name saves the walk along the path, which is as long as the removal itself.
+int RemoveAt(int folder, char const* name, ustring const& path) {
+  int type = FILE_TYPE_NONE;
+  {
+    _FILE_INFO_tag info;
+    if (GetFileInfo(path, info) != 0) return -1;
+    if (!info.exists) return 0;
+    type = info.type;
+  }
+  if (type != FILE_TYPE_DIRECTORY) return unlinkat(folder, name, 0) < 0 ? -3 : 0;
+  bool is_readable = false;
+  if (int const result = RemoveEntries(path, is_readable)) return result;
+  return is_readable && unlinkat(folder, name, AT_REMOVEDIR) < 0 ? -3 : 0;
 }
 
 }  // namespace
@@ -582,15 +600,7 @@ int FSRename(ustring const& source, ustring const& target, bool strict) {
 }
 
 int FSRemove(ustring const& path, [[maybe_unused]] bool ignored) {
-  if (path.empty()) return -1;
-  int type = FILE_TYPE_NONE;
-  {
-    _FILE_INFO_tag info;
-    if (GetFileInfo(path, info) != 0) return -1;
-    if (!info.exists) return 0;
-    type = info.type;
-  }
-  return type == FILE_TYPE_DIRECTORY ? RemoveDirectory(path) : RemoveOne(path);
+  return path.empty() ? -1 : RemoveAt(AT_FDCWD, path.c_str(), path);
 }
 
 int FSMktemp(ustring const& directory, ustring& path) {

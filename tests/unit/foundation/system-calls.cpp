@@ -1,0 +1,93 @@
+#include "system-calls.h"
+
+#include <dlfcn.h>
+#include <unistd.h>
+
+#include <cstdio>
+
+namespace {
+
+test::SystemCalls* taken_over = nullptr;
+
+/// The library's function that this program's one hides.
+template <class Function>
+Function* Library(char const* name) {
+  return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+
+}  // namespace
+
+namespace test {
+
+SystemCalls::SystemCalls() { taken_over = this; }
+SystemCalls::~SystemCalls() { taken_over = nullptr; }
+
+int LibraryReadDir(DIR* dir, dirent* buffer, dirent** entry) {
+  static auto* const call = Library<int(DIR*, dirent*, dirent**)>("readdir_r");
+  return call(dir, buffer, entry);
+}
+
+int LibraryLstat(char const* path, struct stat* info) {
+  static auto* const call = Library<int(char const*, struct stat*)>("lstat");
+  return call(path, info);
+}
+
+int LibraryStatfs(char const* path, struct statfs* info) {
+  static auto* const call = Library<int(char const*, struct statfs*)>("statfs");
+  return call(path, info);
+}
+
+ssize_t LibraryRead(int file, void* bytes, std::size_t count) {
+  static auto* const call = Library<ssize_t(int, void*, std::size_t)>("read");
+  return call(file, bytes, count);
+}
+
+ssize_t LibraryWrite(int file, void const* bytes, std::size_t count) {
+  static auto* const call = Library<ssize_t(int, void const*, std::size_t)>("write");
+  return call(file, bytes, count);
+}
+
+}  // namespace test
+
+extern "C" {
+
+int rename(char const* from, char const* to) noexcept {
+  if (taken_over != nullptr && taken_over->rename) return taken_over->rename(from, to);
+  static auto* const call = Library<int(char const*, char const*)>("rename");
+  return call(from, to);
+}
+
+int readdir_r(DIR* dir, dirent* buffer, dirent** entry) {
+  if (taken_over != nullptr && taken_over->readdir_r) {
+    return taken_over->readdir_r(dir, buffer, entry);
+  }
+  return test::LibraryReadDir(dir, buffer, entry);
+}
+
+int lstat(char const* path, struct stat* info) noexcept {
+  if (taken_over != nullptr && taken_over->lstat) return taken_over->lstat(path, info);
+  return test::LibraryLstat(path, info);
+}
+
+int statfs(char const* path, struct statfs* info) noexcept {
+  if (taken_over != nullptr && taken_over->statfs) return taken_over->statfs(path, info);
+  return test::LibraryStatfs(path, info);
+}
+
+ssize_t read(int file, void* bytes, std::size_t count) {
+  if (taken_over != nullptr && taken_over->read) return taken_over->read(file, bytes, count);
+  return test::LibraryRead(file, bytes, count);
+}
+
+ssize_t write(int file, void const* bytes, std::size_t count) {
+  if (taken_over != nullptr && taken_over->write) return taken_over->write(file, bytes, count);
+  return test::LibraryWrite(file, bytes, count);
+}
+
+int fsync(int file) {
+  if (taken_over != nullptr && taken_over->fsync) return taken_over->fsync(file);
+  static auto* const call = Library<int(int)>("fsync");
+  return call(file);
+}
+
+}  // extern "C"
