@@ -156,8 +156,7 @@ void Logger::LogMsg2(Level level, ustring const& component, char const* format, 
 void Logger::ReloadLogFile() {
   if (IsStandardType()) return;
   if (FILE* const stream = log_fp) std::fclose(stream);
-  log_fp = nullptr;
-  OpenLogFile(log_path);
+  if (!OpenLogFile(log_path)) log_fp = nullptr;
 }
 
 int Logger::Rotate() {
@@ -167,12 +166,12 @@ int Logger::Rotate() {
   std::remove(GenerationName(log_path, rotate_cnt - 1).text);
 
   if (FILE* const stream = log_fp) std::fclose(stream);
-  log_fp = nullptr;
-  if (std::rename(log_path.c_str(), GenerationName(log_path, 0).text) != 0) return -1;
-
-  FILE* const stream = OpenForAppending(log_path);
-  if (stream == nullptr) return -1;
+  // Only a failure may be seen as a null stream: a thread that looks meanwhile, ahead of the lock,
+  // would drop its record.
+  bool const is_renamed = std::rename(log_path.c_str(), GenerationName(log_path, 0).text) == 0;
+  FILE* const stream = is_renamed ? OpenForAppending(log_path) : nullptr;
   log_fp = stream;
+  if (stream == nullptr) return -1;
   ++*log_rotated_count_shared;
   ++log_rotated_count_private;
   return 0;
