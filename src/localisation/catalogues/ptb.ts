@@ -391,7 +391,7 @@
     <message>
         <source>You are not signed in as an administrator. Larkmoor Drive will be installed for your user account only. Do you want to continue?</source>
         <extracomment>79 NSIS_NOT_ADMIN_CONFIRM</extracomment>
-        <translation>Você não entrou como administrador. O Larkmoor Drive será instalado somente para a sua conta de usuário. Deseja continuar?</translation>
+        <translation>Você não fez login como administrador. O Larkmoor Drive será instalado somente para a sua conta de usuário. Deseja continuar?</translation>
     </message>
     <message>
         <source>The sync service is disabled for your account. Please contact the NAS administrator.</source>
@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>Aguarde enquanto o Assistente de Instalação processa o [ProductName]. Isso pode levar alguns minutos.</translation>
+        <translation>Aguarde enquanto o Assistente de Instalação configura o [ProductName]. Isso pode levar alguns minutos.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1486,7 +1486,7 @@
     <message>
         <source>No data </source>
         <extracomment>316 history_no_data</extracomment>
-        <translation>Nenhum dado </translation>
+        <translation>Sem dados </translation>
     </message>
     <message>
         <source>Shared folder</source>
@@ -1636,7 +1636,7 @@
     <message>
         <source>Open containing folder</source>
         <extracomment>351 open_contain_folder</extracomment>
-        <translation>Abrir a pasta que contém o arquivo</translation>
+        <translation>Abrir pasta do arquivo</translation>
     </message>
     <message>
         <source>Larkmoor Drive is running.</source>
@@ -1771,7 +1771,7 @@
     <message>
         <source>Unable to sign in. Please check your username and password.</source>
         <extracomment>381 err_auth</extracomment>
-        <translation>Não foi possível entrar. Verifique seu nome de usuário e sua senha.</translation>
+        <translation>Não foi possível fazer login. Verifique seu nome de usuário e sua senha.</translation>
     </message>
     <message>
         <source>To</source>
@@ -1806,7 +1806,7 @@
     <message>
         <source>See the Status at a Glance</source>
         <extracomment>388 tutorial_second_title</extracomment>
-        <translation>Veja o status rapidamente</translation>
+        <translation>Veja o status em um relance</translation>
     </message>
     <message>
         <source>Proxy</source>
@@ -2106,7 +2106,7 @@
     <message>
         <source>Start Larkmoor Drive when you sign in to your computer</source>
         <extracomment>459 manage_option_enable_startup</extracomment>
-        <translation>Iniciar o Larkmoor Drive ao entrar no computador</translation>
+        <translation>Iniciar o Larkmoor Drive ao fazer login no computador</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -2126,7 +2126,7 @@
     <message>
         <source>[DlgTitleFont]Setting Up [ProductName]</source>
         <extracomment>465 msi_progress_dlg_subtitle</extracomment>
-        <translation>[DlgTitleFont]Instalando o [ProductName]</translation>
+        <translation>[DlgTitleFont]Configurando o [ProductName]</translation>
     </message>
     <message>
         <source>Enter the address of your NAS and your account information.</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Abnormal</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>Anormal</translation>
+        <translation>Anomalia</translation>
     </message>
     <message>
         <source>Date range</source>
