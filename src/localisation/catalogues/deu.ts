@@ -56,7 +56,7 @@
     <message>
         <source>Unable to reach the network. Please check your network connection and try again.</source>
         <extracomment>10 err_network</extracomment>
-        <translation>Das Netzwerk ist nicht erreichbar. Überprüfen Sie Ihre Netzwerkverbindung und versuchen Sie es erneut.</translation>
+        <translation>Das Netzwerk ist nicht erreichbar. Bitte überprüfen Sie Ihre Netzwerkverbindung und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>One-way download</source>
@@ -596,7 +596,7 @@
     <message>
         <source>The home folder service is disabled on the NAS. Please contact the NAS administrator.</source>
         <extracomment>123 err_user_home_disabled</extracomment>
-        <translation>Der Dienst für Benutzerordner ist auf dem NAS deaktiviert. Bitte wenden Sie sich an den NAS-Administrator.</translation>
+        <translation>Der Dienst für Home-Ordner ist auf dem NAS deaktiviert. Bitte wenden Sie sich an den NAS-Administrator.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to Install [ProductName]</source>
@@ -796,7 +796,7 @@
     <message>
         <source>Unable to reach the Bridgeway server. Please check your network connection and try again.</source>
         <extracomment>164 err_autoconn_ctrl</extracomment>
-        <translation>Der Bridgeway-Server ist nicht erreichbar. Überprüfen Sie Ihre Netzwerkverbindung und versuchen Sie es erneut.</translation>
+        <translation>Der Bridgeway-Server ist nicht erreichbar. Bitte überprüfen Sie Ihre Netzwerkverbindung und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>The contents of both folders will be combined. Files that exist in both folders will be handled according to your conflict policy.</source>
@@ -921,7 +921,7 @@
     <message>
         <source>%1 upgrade failed (error code: %2).</source>
         <extracomment>189 wizard_client_upgrade_failed</extracomment>
-        <translation>Upgrade von %1 fehlgeschlagen (Fehlercode: %2).</translation>
+        <translation>Aktualisierung von %1 fehlgeschlagen (Fehlercode: %2).</translation>
     </message>
     <message>
         <source>Unlink</source>
@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>Bitte warten Sie, während der Setup-Assistent [ProductName] verarbeitet. Dies kann einige Minuten dauern.</translation>
+        <translation>Bitte warten Sie, während der Setup-Assistent [ProductName] konfiguriert. Dies kann einige Minuten dauern.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1161,7 +1161,7 @@
     <message>
         <source>The connection to the NAS was lost. Please check your network connection and try again.</source>
         <extracomment>237 wizard_network_err_sync_folder_warning</extracomment>
-        <translation>Die Verbindung zum NAS wurde unterbrochen. Überprüfen Sie Ihre Netzwerkverbindung und versuchen Sie es erneut.</translation>
+        <translation>Die Verbindung zum NAS wurde unterbrochen. Bitte überprüfen Sie Ihre Netzwerkverbindung und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>The setup of [ProductName] was interrupted. No changes have been made to your computer. To install the program at another time, please run the installer again.</source>
@@ -1521,7 +1521,7 @@
     <message>
         <source>Auto Upgrade</source>
         <extracomment>323 title_upgrade</extracomment>
-        <translation>Automatisches Upgrade</translation>
+        <translation>Automatische Aktualisierung</translation>
     </message>
     <message>
         <source>Add a Sync Folder</source>
@@ -1606,7 +1606,7 @@
     <message>
         <source>You do not have permission to share links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
-        <translation>Sie sind nicht berechtigt, Links freizugeben.</translation>
+        <translation>Sie sind nicht berechtigt, Freigabelinks zu erstellen.</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1646,7 +1646,7 @@
     <message>
         <source>Stay in Control</source>
         <extracomment>353 tutorial_fourth_title</extracomment>
-        <translation>Behalten Sie die Kontrolle</translation>
+        <translation>Alles unter Kontrolle</translation>
     </message>
     <message>
         <source>Do not sync this folder</source>
@@ -1721,7 +1721,7 @@
     <message>
         <source>Put Your Files Here</source>
         <extracomment>370 tutorial_first_title</extracomment>
-        <translation>Legen Sie Ihre Dateien hier ab</translation>
+        <translation>Dateien hier ablegen</translation>
     </message>
     <message>
         <source>Larkmoor Drive is initializing...</source>
@@ -1806,7 +1806,7 @@
     <message>
         <source>See the Status at a Glance</source>
         <extracomment>388 tutorial_second_title</extracomment>
-        <translation>Den Status auf einen Blick erkennen</translation>
+        <translation>Der Status auf einen Blick</translation>
     </message>
     <message>
         <source>Proxy</source>
@@ -2191,7 +2191,7 @@
     <message>
         <source>Upgrading...</source>
         <extracomment>478 msg_upgrading</extracomment>
-        <translation>Upgrade wird durchgeführt ...</translation>
+        <translation>Wird aktualisiert ...</translation>
     </message>
     <message>
         <source>Abnormal</source>
