@@ -16,7 +16,7 @@
     <message>
         <source>You have read-only access to this folder. Changes made on this computer will not be uploaded to the NAS.</source>
         <extracomment>2 read_only_tooltip</extracomment>
-        <translation>Ön csak olvasási hozzáféréssel rendelkezik ehhez a mappához. Az ezen a számítógépen végzett módosítások nem kerülnek feltöltésre a NAS-ra.</translation>
+        <translation>Ön csak olvasási hozzáféréssel rendelkezik ehhez a mappához. Az ezen a számítógépen végzett módosítások nem töltődnek fel a NAS-ra.</translation>
     </message>
     <message>
         <source>Choose the folders, sync direction and file filters yourself (recommended for experienced users)&#x200b;.</source>
@@ -196,7 +196,7 @@
     <message>
         <source>You have read-only access to this folder. Files will be downloaded to this computer, but local changes will not be uploaded.</source>
         <extracomment>38 wizard_readonly_sync_folder_warning</extracomment>
-        <translation>Ön csak olvasási hozzáféréssel rendelkezik ehhez a mappához. A fájlok letöltődnek erre a számítógépre, de a helyi módosítások nem kerülnek feltöltésre.</translation>
+        <translation>Ön csak olvasási hozzáféréssel rendelkezik ehhez a mappához. A fájlok letöltődnek erre a számítógépre, de a helyi módosítások nem töltődnek fel.</translation>
     </message>
     <message>
         <source>Applying settings...</source>
@@ -391,7 +391,7 @@
     <message>
         <source>You are not signed in as an administrator. Larkmoor Drive will be installed for your user account only. Do you want to continue?</source>
         <extracomment>79 NSIS_NOT_ADMIN_CONFIRM</extracomment>
-        <translation>Nem rendszergazdaként jelentkezett be. A Larkmoor Drive csak az Ön felhasználói fiókjába lesz telepítve. Folytatja?</translation>
+        <translation>Nem rendszergazdaként jelentkezett be. A Larkmoor Drive csak az Ön felhasználói fiókja számára lesz telepítve. Folytatja?</translation>
     </message>
     <message>
         <source>The sync service is disabled for your account. Please contact the NAS administrator.</source>
@@ -596,7 +596,7 @@
     <message>
         <source>The home folder service is disabled on the NAS. Please contact the NAS administrator.</source>
         <extracomment>123 err_user_home_disabled</extracomment>
-        <translation>A saját mappák szolgáltatása le van tiltva a NAS-on. Forduljon a NAS rendszergazdájához.</translation>
+        <translation>A kezdőmappák szolgáltatása le van tiltva a NAS-on. Forduljon a NAS rendszergazdájához.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to Install [ProductName]</source>
@@ -1136,12 +1136,12 @@
     <message>
         <source>&amp;Ignore</source>
         <extracomment>232 msi_button_ignore</extracomment>
-        <translation>&amp;Kihagyás</translation>
+        <translation>Ki&amp;hagyás</translation>
     </message>
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>Várjon, amíg a telepítővarázsló feldolgozza a(z) [ProductName] programot. Ez több percig is eltarthat.</translation>
+        <translation>Várjon, amíg a telepítővarázsló konfigurálja a(z) [ProductName] programot. Ez több percig is eltarthat.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1556,7 +1556,7 @@
     <message>
         <source>The following applications are using files that need to be updated. You can let the Setup Wizard close them, or restart your computer later.</source>
         <extracomment>330 msi_filesinuse_dlg_text2</extracomment>
-        <translation>A következő alkalmazások frissítendő fájlokat használnak. A telepítővarázsló bezárhatja őket, vagy később újraindíthatja a számítógépet.</translation>
+        <translation>A következő alkalmazások frissítendő fájlokat használnak. Bezárathatja őket a telepítővarázslóval, vagy később újraindíthatja a számítógépet.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -2126,7 +2126,7 @@
     <message>
         <source>[DlgTitleFont]Setting Up [ProductName]</source>
         <extracomment>465 msi_progress_dlg_subtitle</extracomment>
-        <translation>[DlgTitleFont]A(z) [ProductName] telepítése</translation>
+        <translation>[DlgTitleFont]A(z) [ProductName] konfigurálása</translation>
     </message>
     <message>
         <source>Enter the address of your NAS and your account information.</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Abnormal</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>Rendellenes</translation>
+        <translation>Rendellenes állapot</translation>
     </message>
     <message>
         <source>Date range</source>
