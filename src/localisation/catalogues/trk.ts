@@ -1271,7 +1271,7 @@
     <message>
         <source>The icons on your files and folders show whether they are up to date, syncing or not synced.</source>
         <extracomment>264 tutorial_second_desc</extracomment>
-        <translation>Dosya ve klasörlerinizdeki simgeler bunların güncel olup olmadığını, eşitlenmekte olduğunu veya eşitlenmediğini gösterir.</translation>
+        <translation>Dosya ve klasörlerinizdeki simgeler bunların güncel mi, eşitleniyor mu yoksa eşitlenmemiş mi olduğunu gösterir.</translation>
     </message>
     <message>
         <source>Easy connection</source>
@@ -1311,7 +1311,7 @@
     <message>
         <source>You can also right-click a file to browse its previous versions.</source>
         <extracomment>275 tutorial_third_desc_2</extracomment>
-        <translation>Önceki sürümlerine göz atmak için dosyaya sağ da tıklayabilirsiniz.</translation>
+        <translation>Bir dosyanın önceki sürümlerine göz atmak için de dosyaya sağ tıklayabilirsiniz.</translation>
     </message>
     <message>
         <source>A mount point cannot be used as a sync folder. Please choose another one.</source>
@@ -1421,7 +1421,7 @@
     <message>
         <source>The SSL certificate of %1 has changed. Do you want to trust the new certificate?</source>
         <extracomment>302 msg_ssl_change</extracomment>
-        <translation>%1 için SSL sertifikası değişti. Yeni sertifikaya güvenmek istiyor musunuz?</translation>
+        <translation>%1 cihazının SSL sertifikası değişti. Yeni sertifikaya güvenmek istiyor musunuz?</translation>
     </message>
     <message>
         <source>Do not sync files larger than %1 MB</source>
@@ -2126,7 +2126,7 @@
     <message>
         <source>[DlgTitleFont]Setting Up [ProductName]</source>
         <extracomment>465 msi_progress_dlg_subtitle</extracomment>
-        <translation>[DlgTitleFont][ProductName] Kuruluyor</translation>
+        <translation>[DlgTitleFont][ProductName] Yapılandırılıyor</translation>
     </message>
     <message>
         <source>Enter the address of your NAS and your account information.</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Abnormal</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>Anormal</translation>
+        <translation>Anormal durum</translation>
     </message>
     <message>
         <source>Date range</source>
