@@ -211,7 +211,7 @@
     <message>
         <source>Pause Connection</source>
         <extracomment>41 pause_connection</extracomment>
-        <translation>Sospendi connessione</translation>
+        <translation>Metti in pausa connessione</translation>
     </message>
     <message>
         <source>The text cannot be longer than %1 characters.</source>
@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>Attendere mentre l&apos;installazione guidata elabora [ProductName]. L&apos;operazione può richiedere alcuni minuti.</translation>
+        <translation>Attendere mentre l&apos;installazione guidata configura [ProductName]. L&apos;operazione può richiedere alcuni minuti.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1266,7 +1266,7 @@
     <message>
         <source>Pause</source>
         <extracomment>263 session_pause_btn, 364 tray_pause</extracomment>
-        <translation>Sospendi</translation>
+        <translation>Metti in pausa</translation>
     </message>
     <message>
         <source>The icons on your files and folders show whether they are up to date, syncing or not synced.</source>
@@ -1636,7 +1636,7 @@
     <message>
         <source>Open containing folder</source>
         <extracomment>351 open_contain_folder</extracomment>
-        <translation>Apri la cartella contenente il file</translation>
+        <translation>Apri cartella del file</translation>
     </message>
     <message>
         <source>Larkmoor Drive is running.</source>
@@ -1891,7 +1891,7 @@
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
         <extracomment>405 tutorial_fourth_desc</extracomment>
-        <translation>Fare clic sull&apos;icona nell&apos;area di notifica per sospendere la sincronizzazione, visualizzare la cronologia di sincronizzazione o modificare le impostazioni.</translation>
+        <translation>Fare clic sull&apos;icona nell&apos;area di notifica per mettere in pausa la sincronizzazione, visualizzare la cronologia di sincronizzazione o modificare le impostazioni.</translation>
     </message>
     <message>
         <source>Connected successfully.</source>
@@ -1936,7 +1936,7 @@
     <message>
         <source>&amp;Back</source>
         <extracomment>416 msi_button_back</extracomment>
-        <translation>&amp;Indietro</translation>
+        <translation>In&amp;dietro</translation>
     </message>
     <message>
         <source>Up to date</source>
@@ -2126,7 +2126,7 @@
     <message>
         <source>[DlgTitleFont]Setting Up [ProductName]</source>
         <extracomment>465 msi_progress_dlg_subtitle</extracomment>
-        <translation>[DlgTitleFont]Installazione di [ProductName]</translation>
+        <translation>[DlgTitleFont]Configurazione di [ProductName]</translation>
     </message>
     <message>
         <source>Enter the address of your NAS and your account information.</source>
