@@ -611,7 +611,7 @@
     <message>
         <source>Your files, wherever you are</source>
         <extracomment>126 msg_slogan</extracomment>
-        <translation>Sus archivos, dondequiera que esté</translation>
+        <translation>Sus archivos, esté donde esté</translation>
     </message>
     <message>
         <source>[DlgTitleFont]License Agreement</source>
@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>Espere mientras el Asistente para la instalación procesa [ProductName]. Esta operación puede tardar varios minutos.</translation>
+        <translation>Espere mientras el Asistente para la instalación configura [ProductName]. Esta operación puede tardar varios minutos.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1456,7 +1456,7 @@
     <message>
         <source>This computer is already linked to %1. Each connection to the same NAS needs a seperate sync folder.</source>
         <extracomment>310 wizard_setup_repeat_warning</extracomment>
-        <translation>Este equipo ya está vinculado a %1. Cada conexión al mismo NAS necesita una carpeta de sincronización distinta.</translation>
+        <translation>Este equipo ya está vinculado a %1. Cada conexión con el mismo NAS necesita una carpeta de sincronización distinta.</translation>
     </message>
     <message>
         <source>Remove [ProductName] from this computer.</source>
@@ -1636,7 +1636,7 @@
     <message>
         <source>Open containing folder</source>
         <extracomment>351 open_contain_folder</extracomment>
-        <translation>Abrir la carpeta contenedora</translation>
+        <translation>Abrir carpeta contenedora</translation>
     </message>
     <message>
         <source>Larkmoor Drive is running.</source>
@@ -2016,7 +2016,7 @@
     <message>
         <source>The NAS has been replaced</source>
         <extracomment>436 tray_hb_change</extracomment>
-        <translation>El NAS se ha reemplazado</translation>
+        <translation>Se ha reemplazado el NAS</translation>
     </message>
     <message>
         <source>Add a sync folder on another NAS</source>
@@ -2126,7 +2126,7 @@
     <message>
         <source>[DlgTitleFont]Setting Up [ProductName]</source>
         <extracomment>465 msi_progress_dlg_subtitle</extracomment>
-        <translation>[DlgTitleFont]Instalando [ProductName]</translation>
+        <translation>[DlgTitleFont]Configurando [ProductName]</translation>
     </message>
     <message>
         <source>Enter the address of your NAS and your account information.</source>
