@@ -416,7 +416,7 @@
     <message>
         <source>Your changes have not been saved. Do you want to discard them?</source>
         <extracomment>85 manage_setting_not_save</extracomment>
-        <translation>As alterações não foram guardadas. Pretende ignorá-las?</translation>
+        <translation>As alterações não foram guardadas. Pretende rejeitá-las?</translation>
     </message>
     <message>
         <source>Username</source>
@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>Aguarde enquanto o Assistente de Instalação processa a [ProductName]. Esta operação pode demorar vários minutos.</translation>
+        <translation>Aguarde enquanto o Assistente de Instalação configura a [ProductName]. Esta operação pode demorar vários minutos.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1636,7 +1636,7 @@
     <message>
         <source>Open containing folder</source>
         <extracomment>351 open_contain_folder</extracomment>
-        <translation>Abrir a pasta que contém o ficheiro</translation>
+        <translation>Abrir pasta do ficheiro</translation>
     </message>
     <message>
         <source>Larkmoor Drive is running.</source>
@@ -2126,7 +2126,7 @@
     <message>
         <source>[DlgTitleFont]Setting Up [ProductName]</source>
         <extracomment>465 msi_progress_dlg_subtitle</extracomment>
-        <translation>[DlgTitleFont]A instalar a [ProductName]</translation>
+        <translation>[DlgTitleFont]A configurar a [ProductName]</translation>
     </message>
     <message>
         <source>Enter the address of your NAS and your account information.</source>
