@@ -186,7 +186,7 @@
     <message>
         <source>Choose a Setup Mode</source>
         <extracomment>36 wizard_setup_mode_page_title</extracomment>
-        <translation>Kies een installatiemodus</translation>
+        <translation>Kies een configuratiemodus</translation>
     </message>
     <message>
         <source>Inactive</source>
@@ -416,7 +416,7 @@
     <message>
         <source>Your changes have not been saved. Do you want to discard them?</source>
         <extracomment>85 manage_setting_not_save</extracomment>
-        <translation>Uw wijzigingen zijn niet opgeslagen. Wilt u de wijzigingen negeren?</translation>
+        <translation>Uw wijzigingen zijn niet opgeslagen. Wilt u ze verwerpen?</translation>
     </message>
     <message>
         <source>Username</source>
@@ -451,7 +451,7 @@
     <message>
         <source>Advanced Setup</source>
         <extracomment>93 wizard_setup_advan_mode_title</extracomment>
-        <translation>Geavanceerde installatie</translation>
+        <translation>Geavanceerde configuratie</translation>
     </message>
     <message>
         <source>Paused</source>
@@ -471,7 +471,7 @@
     <message>
         <source>Link this computer to your NAS in a few clicks. All your files will be synced to a single folder with the recommended settings.</source>
         <extracomment>97 wizard_setup_quick_mode_desc</extracomment>
-        <translation>Koppel deze computer in enkele klikken aan uw NAS. Al uw bestanden worden met de aanbevolen instellingen naar één map gesynchroniseerd.</translation>
+        <translation>Koppel deze computer in een paar klikken aan uw NAS. Al uw bestanden worden met de aanbevolen instellingen naar één map gesynchroniseerd.</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -491,7 +491,7 @@
     <message>
         <source>Advanced Setup Wizard</source>
         <extracomment>102 advan_setup_wizard</extracomment>
-        <translation>Wizard Geavanceerde installatie</translation>
+        <translation>Wizard Geavanceerde configuratie</translation>
     </message>
     <message>
         <source>Do not sync these folders</source>
@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link to it again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>Op dit adres is een andere NAS gevonden. Koppel deze opnieuw.</translation>
+        <translation>Op dit adres is een andere NAS gevonden. Stel de koppeling opnieuw in.</translation>
     </message>
     <message>
         <source>Merge mode</source>
@@ -1136,12 +1136,12 @@
     <message>
         <source>&amp;Ignore</source>
         <extracomment>232 msi_button_ignore</extracomment>
-        <translation>&amp;Negeren</translation>
+        <translation>Ne&amp;geren</translation>
     </message>
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>Een ogenblik geduld terwijl de installatiewizard [ProductName] verwerkt. Dit kan enkele minuten duren.</translation>
+        <translation>Een ogenblik geduld terwijl de installatiewizard [ProductName] configureert. Dit kan enkele minuten duren.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1371,7 +1371,7 @@
     <message>
         <source>Setup is complete. Your files are being synced.</source>
         <extracomment>290 quick_mode_end_msg</extracomment>
-        <translation>De installatie is voltooid. Uw bestanden worden gesynchroniseerd.</translation>
+        <translation>De configuratie is voltooid. Uw bestanden worden gesynchroniseerd.</translation>
     </message>
     <message>
         <source>Show Larkmoor Drive in the context menu</source>
@@ -1441,7 +1441,7 @@
     <message>
         <source>Your account requires 2-step verification. Please set it up on the NAS first.</source>
         <extracomment>306 err_otp_enforced</extracomment>
-        <translation>Voor uw account is verificatie in twee stappen vereist. Stel dit eerst in op de NAS.</translation>
+        <translation>Voor uw account is verificatie in twee stappen vereist. Stel deze eerst in op de NAS.</translation>
     </message>
     <message>
         <source>Choose Which Folders to Sync</source>
@@ -1561,7 +1561,7 @@
     <message>
         <source>System default</source>
         <extracomment>331 language_default</extracomment>
-        <translation>Standaardinstelling van het systeem</translation>
+        <translation>Systeemstandaard</translation>
     </message>
     <message>
         <source>The shared folder &quot;%1&quot; is not mounted on the NAS.</source>
@@ -1946,7 +1946,7 @@
     <message>
         <source>Setup Complete</source>
         <extracomment>418 msg_finish</extracomment>
-        <translation>Installatie voltooid</translation>
+        <translation>Configuratie voltooid</translation>
     </message>
     <message>
         <source>Larkmoor Drive keeps the files on this computer in sync with your NAS. Please enter your connection information to get started.</source>
@@ -2126,7 +2126,7 @@
     <message>
         <source>[DlgTitleFont]Setting Up [ProductName]</source>
         <extracomment>465 msi_progress_dlg_subtitle</extracomment>
-        <translation>[DlgTitleFont][ProductName] wordt ingesteld</translation>
+        <translation>[DlgTitleFont][ProductName] wordt geconfigureerd</translation>
     </message>
     <message>
         <source>Enter the address of your NAS and your account information.</source>
@@ -2166,7 +2166,7 @@
     <message>
         <source>Quick Setup</source>
         <extracomment>473 wizard_setup_quick_mode_title</extracomment>
-        <translation>Snelle installatie</translation>
+        <translation>Snelle configuratie</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Abnormal</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>Abnormaal</translation>
+        <translation>Storing</translation>
     </message>
     <message>
         <source>Date range</source>
@@ -2301,7 +2301,7 @@
     <message>
         <source>Reset</source>
         <extracomment>506 history_reset</extracomment>
-        <translation>Opnieuw instellen</translation>
+        <translation>Resetten</translation>
     </message>
     <message>
         <source>Too many failed attempts. Please try again later.</source>
