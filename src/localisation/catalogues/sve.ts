@@ -416,7 +416,7 @@
     <message>
         <source>Your changes have not been saved. Do you want to discard them?</source>
         <extracomment>85 manage_setting_not_save</extracomment>
-        <translation>Ändringarna har inte sparats. Vill du ignorera dem?</translation>
+        <translation>Ändringarna har inte sparats. Vill du fortsätta utan att spara dem?</translation>
     </message>
     <message>
         <source>Username</source>
@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>Vänta medan installationsguiden bearbetar [ProductName]. Det kan ta flera minuter.</translation>
+        <translation>Vänta medan installationsguiden konfigurerar [ProductName]. Det kan ta flera minuter.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1201,7 +1201,7 @@
     <message>
         <source>&amp;Start [ProductName] now</source>
         <extracomment>248 msi_exit_dlg_launch</extracomment>
-        <translation>&amp;Starta [ProductName] nu</translation>
+        <translation>Starta [ProductName] &amp;nu</translation>
     </message>
     <message>
         <source>Show the tutorial</source>
@@ -1636,7 +1636,7 @@
     <message>
         <source>Open containing folder</source>
         <extracomment>351 open_contain_folder</extracomment>
-        <translation>Öppna mappen som innehåller filen</translation>
+        <translation>Öppna filens mapp</translation>
     </message>
     <message>
         <source>Larkmoor Drive is running.</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Abnormal</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>Onormal</translation>
+        <translation>Onormalt tillstånd</translation>
     </message>
     <message>
         <source>Date range</source>
