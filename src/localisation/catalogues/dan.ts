@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>Vent, mens installationsguiden behandler [ProductName]. Det kan tage flere minutter.</translation>
+        <translation>Vent, mens installationsguiden konfigurerer [ProductName]. Det kan tage flere minutter.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1441,7 +1441,7 @@
     <message>
         <source>Your account requires 2-step verification. Please set it up on the NAS first.</source>
         <extracomment>306 err_otp_enforced</extracomment>
-        <translation>Din konto kræver totrinsbekræftelse. Konfigurer det først på NAS-enheden.</translation>
+        <translation>Din konto kræver totrinsbekræftelse. Konfigurer den først på NAS-enheden.</translation>
     </message>
     <message>
         <source>Choose Which Folders to Sync</source>
@@ -2001,7 +2001,7 @@
     <message>
         <source>The sync direction of this folder does not match your permissions. Please change it in the settings.</source>
         <extracomment>433 sync_direction_mismatch</extracomment>
-        <translation>Synkroniseringsretningen for denne mappe svarer ikke til dine tilladelser. Skift den i indstillingerne.</translation>
+        <translation>Synkroniseringsretningen for denne mappe svarer ikke til dine tilladelser. Ret den i indstillingerne.</translation>
     </message>
     <message>
         <source>Global Settings</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Abnormal</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>Unormal</translation>
+        <translation>Unormal tilstand</translation>
     </message>
     <message>
         <source>Date range</source>
