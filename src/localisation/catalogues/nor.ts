@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>Vent mens installasjonsveiviseren behandler [ProductName]. Dette kan ta flere minutter.</translation>
+        <translation>Vent mens installasjonsveiviseren konfigurerer [ProductName]. Dette kan ta flere minutter.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Abnormal</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>Unormal</translation>
+        <translation>Unormal tilstand</translation>
     </message>
     <message>
         <source>Date range</source>
