@@ -571,7 +571,7 @@
     <message>
         <source>Summary</source>
         <extracomment>118 msg_info</extracomment>
-        <translation>Résumé</translation>
+        <translation>Récapitulatif</translation>
     </message>
     <message>
         <source>Connection Already Exists</source>
@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>Veuillez patienter pendant que l&apos;assistant d&apos;installation traite [ProductName]. Cette opération peut prendre plusieurs minutes.</translation>
+        <translation>Veuillez patienter pendant que l&apos;assistant d&apos;installation configure [ProductName]. Cette opération peut prendre plusieurs minutes.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1236,7 +1236,7 @@
     <message>
         <source>&amp;Print</source>
         <extracomment>255 msi_button_print</extracomment>
-        <translation>Im&amp;primer</translation>
+        <translation>I&amp;mprimer</translation>
     </message>
     <message>
         <source>%1 file(s) updated</source>
@@ -1346,7 +1346,7 @@
     <message>
         <source>Right-click a file and choose Get link to share it with others.</source>
         <extracomment>284 tutorial_third_desc</extracomment>
-        <translation>Cliquez avec le bouton droit sur un fichier, puis choisissez Obtenir le lien pour le partager avec d&apos;autres personnes.</translation>
+        <translation>Pour partager un fichier avec d&apos;autres personnes, cliquez dessus avec le bouton droit, puis choisissez Obtenir le lien.</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -1986,7 +1986,7 @@
     <message>
         <source>Choose what you want to do with the installation.</source>
         <extracomment>430 msi_maintenance_dlg_description</extracomment>
-        <translation>Choisissez l&apos;opération à effectuer sur l&apos;installation.</translation>
+        <translation>Choisissez l&apos;opération à effectuer.</translation>
     </message>
     <message>
         <source>December</source>
@@ -2276,7 +2276,7 @@
     <message>
         <source>This folder contains, or lies inside, another sync folder. Please choose another one.</source>
         <extracomment>500 wizard_conflict_sync_folder_warning</extracomment>
-        <translation>Ce dossier contient un autre dossier de synchronisation ou se trouve à l&apos;intérieur d&apos;un dossier de synchronisation existant. Veuillez en choisir un autre.</translation>
+        <translation>Ce dossier contient un autre dossier de synchronisation ou se trouve dans l&apos;un d&apos;eux. Veuillez en choisir un autre.</translation>
     </message>
     <message>
         <source>Not Now</source>
