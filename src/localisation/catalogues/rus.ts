@@ -61,7 +61,7 @@
     <message>
         <source>One-way download</source>
         <extracomment>11 one_way_sync_download, 349 one_way_download</extracomment>
-        <translation>Только скачивание (в одну сторону)</translation>
+        <translation>Одностороннее скачивание</translation>
     </message>
     <message>
         <source>Help</source>
@@ -216,7 +216,7 @@
     <message>
         <source>The text cannot be longer than %1 characters.</source>
         <extracomment>42 common_maxlengthtext</extracomment>
-        <translation>Длина текста не должна превышать %1 симв.</translation>
+        <translation>Текст не должен быть длиннее %1 символов.</translation>
     </message>
     <message>
         <source>Error</source>
@@ -371,7 +371,7 @@
     <message>
         <source>File names that begin with a period (.)</source>
         <extracomment>74 block_point_prefix</extracomment>
-        <translation>Имена файлов, начинающиеся с точки (.)</translation>
+        <translation>Файлы, имена которых начинаются с точки (.)</translation>
     </message>
     <message>
         <source>Files with these names will not be synced. Separate the names with semicolons.</source>
@@ -401,7 +401,7 @@
     <message>
         <source>This is not the NAS that was originally linked. Please check the address or set up a new connection.</source>
         <extracomment>82 err_hb_not_match</extracomment>
-        <translation>Это не тот NAS, с которым была установлена связь. Проверьте адрес или настройте новое подключение.</translation>
+        <translation>Это не тот NAS, с которым изначально была установлена связь. Проверьте адрес или настройте новое подключение.</translation>
     </message>
     <message>
         <source>You do not have permission to share this file. Please contact the NAS administrator.</source>
@@ -471,7 +471,7 @@
     <message>
         <source>Link this computer to your NAS in a few clicks. All your files will be synced to a single folder with the recommended settings.</source>
         <extracomment>97 wizard_setup_quick_mode_desc</extracomment>
-        <translation>Свяжите этот компьютер с NAS за несколько щелчков. Все ваши файлы будут синхронизироваться с одной папкой с рекомендуемыми настройками.</translation>
+        <translation>Свяжите этот компьютер с NAS за несколько щелчков. Все ваши файлы будут синхронизироваться в одну папку с рекомендуемыми настройками.</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -656,7 +656,7 @@
     <message>
         <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
-        <translation>Не удалось установить [ProductName] из-за ошибки. Изменения на компьютере не произведены. Чтобы повторить попытку позже, запустите программу установки еще раз.</translation>
+        <translation>Не удалось установить [ProductName] из-за ошибки. В систему не внесено никаких изменений. Чтобы повторить попытку позже, запустите программу установки еще раз.</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -941,7 +941,7 @@
     <message>
         <source>There is not enough free space on the NAS to upload &quot;%1&quot;.</source>
         <extracomment>193 msg_diskfull</extracomment>
-        <translation>На NAS недостаточно свободного места для отправки «%1».</translation>
+        <translation>На NAS недостаточно свободного места для отправки файла «%1».</translation>
     </message>
     <message>
         <source>Please enter your verification code.</source>
@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>Подождите, пока мастер установки обрабатывает [ProductName]. Это может занять несколько минут.</translation>
+        <translation>Подождите, пока мастер установки выполнит необходимые действия с [ProductName]. Это может занять несколько минут.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1166,7 +1166,7 @@
     <message>
         <source>The setup of [ProductName] was interrupted. No changes have been made to your computer. To install the program at another time, please run the installer again.</source>
         <extracomment>239 msi_userexit_dlg_description1</extracomment>
-        <translation>Установка [ProductName] прервана. Изменения на компьютере не произведены. Чтобы установить программу в другое время, снова запустите программу установки.</translation>
+        <translation>Установка [ProductName] прервана. В систему не внесено никаких изменений. Чтобы установить программу в другое время, снова запустите программу установки.</translation>
     </message>
     <message>
         <source>You Larkmoor Server package version is not up-to-date. Please update it to resume syncing.</source>
@@ -1451,7 +1451,7 @@
     <message>
         <source>The download of &quot;%1&quot; is complete.</source>
         <extracomment>309 msg_download_done</extracomment>
-        <translation>Скачивание «%1» завершено.</translation>
+        <translation>Скачивание файла «%1» завершено.</translation>
     </message>
     <message>
         <source>This computer is already linked to %1. Each connection to the same NAS needs a seperate sync folder.</source>
@@ -1516,7 +1516,7 @@
     <message>
         <source>Unable to download &quot;%1&quot;.</source>
         <extracomment>322 msg_download_fail</extracomment>
-        <translation>Не удалось скачать «%1».</translation>
+        <translation>Не удалось скачать файл «%1».</translation>
     </message>
     <message>
         <source>Auto Upgrade</source>
@@ -1576,7 +1576,7 @@
     <message>
         <source>Disconnected from the NAS. Trying to reconnect...</source>
         <extracomment>334 err_disconn</extracomment>
-        <translation>Подключение к NAS прервано. Попытка переподключения...</translation>
+        <translation>Подключение к NAS прервано. Попытка повторного подключения...</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -1636,7 +1636,7 @@
     <message>
         <source>Open containing folder</source>
         <extracomment>351 open_contain_folder</extracomment>
-        <translation>Открыть содержащую папку</translation>
+        <translation>Открыть папку с файлом</translation>
     </message>
     <message>
         <source>Larkmoor Drive is running.</source>
@@ -1791,7 +1791,7 @@
     <message>
         <source>Downloading &quot;%1&quot;...</source>
         <extracomment>385 msg_download_downloading</extracomment>
-        <translation>Скачивание «%1»...</translation>
+        <translation>Скачивание файла «%1»...</translation>
     </message>
     <message>
         <source>Syncing: %1</source>
@@ -1941,7 +1941,7 @@
     <message>
         <source>Up to date</source>
         <extracomment>417 status_desc_uptodate, 457 tray_uptodate</extracomment>
-        <translation>Все актуально</translation>
+        <translation>Файлы синхронизированы</translation>
     </message>
     <message>
         <source>Setup Complete</source>
@@ -2256,7 +2256,7 @@
     <message>
         <source>Your quota on the NAS is not large enough to upload &quot;%1&quot;.</source>
         <extracomment>494 msg_quotafull</extracomment>
-        <translation>Вашей квоты на NAS недостаточно для отправки «%1».</translation>
+        <translation>Вашей квоты на NAS недостаточно для отправки файла «%1».</translation>
     </message>
     <message>
         <source>%1 minute(s) ago</source>
