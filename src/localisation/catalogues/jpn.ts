@@ -51,7 +51,7 @@
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
         <extracomment>9 msi_exit_dlg_description, 297 msi_userexit_dlg_description2, 445 msi_exit_dlg_text, 461 msi_fatalerror_dlg_description2</extracomment>
-        <translation>「完了」をクリックして、セットアップウィザードを終了してください。</translation>
+        <translation>セットアップウィザードを終了するには、「完了」をクリックしてください。</translation>
     </message>
     <message>
         <source>Unable to reach the network. Please check your network connection and try again.</source>
@@ -166,7 +166,7 @@
     <message>
         <source>[DlgTitleFont]Ready to Remove [ProductName]</source>
         <extracomment>32 msi_readyremove_dlg_subtitle</extracomment>
-        <translation>[DlgTitleFont][ProductName] の削除の準備完了</translation>
+        <translation>[DlgTitleFont][ProductName] を削除する準備ができました</translation>
     </message>
     <message>
         <source>This wizard lets you change, repair or remove [ProductName]. Click Next to continue or Cancel to exit the Setup Wizard.</source>
@@ -591,7 +591,7 @@
     <message>
         <source>Change the installation</source>
         <extracomment>122 msi_maintenance_dlg_change_tooltip</extracomment>
-        <translation>インストールを変更します</translation>
+        <translation>インストール内容を変更します</translation>
     </message>
     <message>
         <source>The home folder service is disabled on the NAS. Please contact the NAS administrator.</source>
@@ -601,7 +601,7 @@
     <message>
         <source>[DlgTitleFont]Ready to Install [ProductName]</source>
         <extracomment>124 msi_ready_dlg_subtitle</extracomment>
-        <translation>[DlgTitleFont][ProductName] のインストールの準備完了</translation>
+        <translation>[DlgTitleFont][ProductName] をインストールする準備ができました</translation>
     </message>
     <message>
         <source>March</source>
@@ -791,7 +791,7 @@
     <message>
         <source>[DlgTitleFont]Ready to Repair [ProductName]</source>
         <extracomment>163 msi_readyrepair_dlg_subtitle</extracomment>
-        <translation>[DlgTitleFont][ProductName] の修復の準備完了</translation>
+        <translation>[DlgTitleFont][ProductName] を修復する準備ができました</translation>
     </message>
     <message>
         <source>Unable to reach the Bridgeway server. Please check your network connection and try again.</source>
@@ -866,7 +866,7 @@
     <message>
         <source>Time</source>
         <extracomment>178 col_time, 273 history_time</extracomment>
-        <translation>時刻</translation>
+        <translation>日時</translation>
     </message>
     <message>
         <source>File names:</source>
@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>セットアップウィザードが [ProductName] を処理しています。しばらくお待ちください。これには数分かかることがあります。</translation>
+        <translation>セットアップウィザードが [ProductName] を構成しています。しばらくお待ちください。これには数分かかることがあります。</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1341,7 +1341,7 @@
     <message>
         <source>Remove the installation</source>
         <extracomment>283 msi_maintenance_dlg_remove_tooltip</extracomment>
-        <translation>インストールを削除します</translation>
+        <translation>インストールされたプログラムを削除します</translation>
     </message>
     <message>
         <source>Right-click a file and choose Get link to share it with others.</source>
@@ -1956,7 +1956,7 @@
     <message>
         <source>Repair the installation</source>
         <extracomment>420 msi_maintenance_dlg_repair_tooltip</extracomment>
-        <translation>インストールを修復します</translation>
+        <translation>インストールされたプログラムを修復します</translation>
     </message>
     <message>
         <source>Some files that need to be updated are currently in use.</source>
@@ -1986,7 +1986,7 @@
     <message>
         <source>Choose what you want to do with the installation.</source>
         <extracomment>430 msi_maintenance_dlg_description</extracomment>
-        <translation>インストールに対して行う操作を選択してください。</translation>
+        <translation>実行する操作を選択してください。</translation>
     </message>
     <message>
         <source>December</source>
