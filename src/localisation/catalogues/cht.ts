@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>取消連線的連結</translation>
+        <translation>取消此連線的連結</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -166,7 +166,7 @@
     <message>
         <source>[DlgTitleFont]Ready to Remove [ProductName]</source>
         <extracomment>32 msi_readyremove_dlg_subtitle</extracomment>
-        <translation>[DlgTitleFont]準備移除 [ProductName]</translation>
+        <translation>[DlgTitleFont]已準備好移除 [ProductName]</translation>
     </message>
     <message>
         <source>This wizard lets you change, repair or remove [ProductName]. Click Next to continue or Cancel to exit the Setup Wizard.</source>
@@ -601,7 +601,7 @@
     <message>
         <source>[DlgTitleFont]Ready to Install [ProductName]</source>
         <extracomment>124 msi_ready_dlg_subtitle</extracomment>
-        <translation>[DlgTitleFont]準備安裝 [ProductName]</translation>
+        <translation>[DlgTitleFont]已準備好安裝 [ProductName]</translation>
     </message>
     <message>
         <source>March</source>
@@ -791,7 +791,7 @@
     <message>
         <source>[DlgTitleFont]Ready to Repair [ProductName]</source>
         <extracomment>163 msi_readyrepair_dlg_subtitle</extracomment>
-        <translation>[DlgTitleFont]準備修復 [ProductName]</translation>
+        <translation>[DlgTitleFont]已準備好修復 [ProductName]</translation>
     </message>
     <message>
         <source>Unable to reach the Bridgeway server. Please check your network connection and try again.</source>
@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>安裝精靈正在處理 [ProductName]，請稍候。這可能需要幾分鐘的時間。</translation>
+        <translation>安裝精靈正在設定 [ProductName]，請稍候。這可能需要幾分鐘的時間。</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1321,7 +1321,7 @@
     <message>
         <source>has been shared with you.</source>
         <extracomment>279 msg_share_bubble_suffix</extracomment>
-        <translation>已與您共用。</translation>
+        <translation>已與您分享。</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -1986,7 +1986,7 @@
     <message>
         <source>Choose what you want to do with the installation.</source>
         <extracomment>430 msi_maintenance_dlg_description</extracomment>
-        <translation>請選擇要對安裝內容執行的動作。</translation>
+        <translation>請選擇要執行的動作。</translation>
     </message>
     <message>
         <source>December</source>
