@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>取消连接的关联</translation>
+        <translation>取消此连接的关联</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -166,7 +166,7 @@
     <message>
         <source>[DlgTitleFont]Ready to Remove [ProductName]</source>
         <extracomment>32 msi_readyremove_dlg_subtitle</extracomment>
-        <translation>[DlgTitleFont]准备删除 [ProductName]</translation>
+        <translation>[DlgTitleFont]已准备好删除 [ProductName]</translation>
     </message>
     <message>
         <source>This wizard lets you change, repair or remove [ProductName]. Click Next to continue or Cancel to exit the Setup Wizard.</source>
@@ -591,7 +591,7 @@
     <message>
         <source>Change the installation</source>
         <extracomment>122 msi_maintenance_dlg_change_tooltip</extracomment>
-        <translation>更改安装</translation>
+        <translation>更改安装内容</translation>
     </message>
     <message>
         <source>The home folder service is disabled on the NAS. Please contact the NAS administrator.</source>
@@ -601,7 +601,7 @@
     <message>
         <source>[DlgTitleFont]Ready to Install [ProductName]</source>
         <extracomment>124 msi_ready_dlg_subtitle</extracomment>
-        <translation>[DlgTitleFont]准备安装 [ProductName]</translation>
+        <translation>[DlgTitleFont]已准备好安装 [ProductName]</translation>
     </message>
     <message>
         <source>March</source>
@@ -791,7 +791,7 @@
     <message>
         <source>[DlgTitleFont]Ready to Repair [ProductName]</source>
         <extracomment>163 msi_readyrepair_dlg_subtitle</extracomment>
-        <translation>[DlgTitleFont]准备修复 [ProductName]</translation>
+        <translation>[DlgTitleFont]已准备好修复 [ProductName]</translation>
     </message>
     <message>
         <source>Unable to reach the Bridgeway server. Please check your network connection and try again.</source>
@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>安装向导正在处理 [ProductName]，请稍候。这可能需要几分钟时间。</translation>
+        <translation>安装向导正在配置 [ProductName]，请稍候。这可能需要几分钟时间。</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1341,7 +1341,7 @@
     <message>
         <source>Remove the installation</source>
         <extracomment>283 msi_maintenance_dlg_remove_tooltip</extracomment>
-        <translation>删除安装</translation>
+        <translation>删除已安装的程序</translation>
     </message>
     <message>
         <source>Right-click a file and choose Get link to share it with others.</source>
@@ -1956,7 +1956,7 @@
     <message>
         <source>Repair the installation</source>
         <extracomment>420 msi_maintenance_dlg_repair_tooltip</extracomment>
-        <translation>修复安装</translation>
+        <translation>修复已安装的程序</translation>
     </message>
     <message>
         <source>Some files that need to be updated are currently in use.</source>
@@ -1986,7 +1986,7 @@
     <message>
         <source>Choose what you want to do with the installation.</source>
         <extracomment>430 msi_maintenance_dlg_description</extracomment>
-        <translation>请选择要对安装执行的操作。</translation>
+        <translation>请选择要执行的操作。</translation>
     </message>
     <message>
         <source>December</source>
@@ -2126,7 +2126,7 @@
     <message>
         <source>[DlgTitleFont]Setting Up [ProductName]</source>
         <extracomment>465 msi_progress_dlg_subtitle</extracomment>
-        <translation>[DlgTitleFont]正在设置 [ProductName]</translation>
+        <translation>[DlgTitleFont]正在配置 [ProductName]</translation>
     </message>
     <message>
         <source>Enter the address of your NAS and your account information.</source>
