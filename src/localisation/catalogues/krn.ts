@@ -341,7 +341,7 @@
     <message>
         <source>The folders that you have deselected will be permantely removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <extracomment>67 selective_sync_remove_msg</extracomment>
-        <translation>선택을 취소한 폴더는 이 컴퓨터에서 영구적으로 제거됩니다. NAS에 있는 사본은 유지됩니다. 계속하시겠습니까?</translation>
+        <translation>선택을 취소한 폴더는 이 컴퓨터에서 영구적으로 삭제됩니다. NAS에 있는 사본은 유지됩니다. 계속하시겠습니까?</translation>
     </message>
     <message>
         <source>Selective Sync</source>
@@ -461,7 +461,7 @@
     <message>
         <source>Welcome to Larkmoor Drive</source>
         <extracomment>95 title_welcome</extracomment>
-        <translation>Larkmoor Drive 시작</translation>
+        <translation>Larkmoor Drive에 오신 것을 환영합니다</translation>
     </message>
     <message>
         <source>Folder selection</source>
@@ -556,7 +556,7 @@
     <message>
         <source>The quota of the shared folder &quot;%1&quot; has been reached. Please free up some space or contact the NAS administrator.</source>
         <extracomment>115 msg_share_quotafull</extracomment>
-        <translation>공유 폴더 &quot;%1&quot;의 할당량에 도달했습니다. 여유 공간을 확보하거나 NAS 관리자에게 문의하십시오.</translation>
+        <translation>공유 폴더 &quot;%1&quot;의 할당량을 모두 사용했습니다. 여유 공간을 확보하거나 NAS 관리자에게 문의하십시오.</translation>
     </message>
     <message>
         <source>Proxy Settings</source>
@@ -1111,7 +1111,7 @@
     <message>
         <source>Your storage quota on the NAS has been reached. Please free up some space or contact the NAS administrator.</source>
         <extracomment>227 wizard_quotafull_sync_folder_warning, 271 status_desc_quotafull</extracomment>
-        <translation>NAS의 저장 공간 할당량에 도달했습니다. 여유 공간을 확보하거나 NAS 관리자에게 문의하십시오.</translation>
+        <translation>NAS의 저장 공간 할당량을 모두 사용했습니다. 여유 공간을 확보하거나 NAS 관리자에게 문의하십시오.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1131,7 +1131,7 @@
     <message>
         <source>Sync will be disabled for this folder, and its files will be permantely removed from this computer. The copies on the NAS will be kept.</source>
         <extracomment>231 share_enable_remove_msg</extracomment>
-        <translation>이 폴더의 동기화가 해제되고 폴더의 파일이 이 컴퓨터에서 영구적으로 제거됩니다. NAS에 있는 사본은 유지됩니다.</translation>
+        <translation>이 폴더의 동기화가 해제되고 폴더의 파일이 이 컴퓨터에서 영구적으로 삭제됩니다. NAS에 있는 사본은 유지됩니다.</translation>
     </message>
     <message>
         <source>&amp;Ignore</source>
@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>설치 마법사가 [ProductName]을(를) 처리하는 동안 기다려 주십시오. 이 작업은 몇 분 정도 걸릴 수 있습니다.</translation>
+        <translation>설치 마법사가 [ProductName]을(를) 구성하는 동안 기다려 주십시오. 이 작업은 몇 분 정도 걸릴 수 있습니다.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1271,7 +1271,7 @@
     <message>
         <source>The icons on your files and folders show whether they are up to date, syncing or not synced.</source>
         <extracomment>264 tutorial_second_desc</extracomment>
-        <translation>파일 및 폴더의 아이콘은 최신 상태인지, 동기화 중인지 또는 동기화되지 않는지를 나타냅니다.</translation>
+        <translation>파일 및 폴더의 아이콘은 해당 항목이 최신 상태인지, 동기화 중인지, 동기화되지 않는지를 나타냅니다.</translation>
     </message>
     <message>
         <source>Easy connection</source>
@@ -1376,7 +1376,7 @@
     <message>
         <source>Show Larkmoor Drive in the context menu</source>
         <extracomment>291 manage_option_enable_context_menu</extracomment>
-        <translation>상황에 맞는 메뉴에 Larkmoor Drive 표시</translation>
+        <translation>컨텍스트 메뉴에 Larkmoor Drive 표시</translation>
     </message>
     <message>
         <source>File deleted:</source>
@@ -1986,7 +1986,7 @@
     <message>
         <source>Choose what you want to do with the installation.</source>
         <extracomment>430 msi_maintenance_dlg_description</extracomment>
-        <translation>설치에 대해 수행할 작업을 선택하십시오.</translation>
+        <translation>수행할 작업을 선택하십시오.</translation>
     </message>
     <message>
         <source>December</source>
@@ -2071,7 +2071,7 @@
     <message>
         <source>No NAS yet? Visit our website to learn more.</source>
         <extracomment>450 wizard_welcome_footer_info</extracomment>
-        <translation>아직 NAS가 없으십니까? 웹 사이트에서 자세한 내용을 확인하십시오.</translation>
+        <translation>아직 NAS가 없으십니까? 당사 웹 사이트에서 자세한 내용을 확인하십시오.</translation>
     </message>
     <message>
         <source>July</source>
