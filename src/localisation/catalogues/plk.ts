@@ -216,7 +216,7 @@
     <message>
         <source>The text cannot be longer than %1 characters.</source>
         <extracomment>42 common_maxlengthtext</extracomment>
-        <translation>Tekst nie może być dłuższy niż %1 zn.</translation>
+        <translation>Tekst nie może przekraczać %1 znaków.</translation>
     </message>
     <message>
         <source>Error</source>
@@ -271,7 +271,7 @@
     <message>
         <source>This computer is already linked to %1. Linking it to the same NAS again may cause file conflicts. Do you want to continue?</source>
         <extracomment>53 wizard_setup_repeat_warning2</extracomment>
-        <translation>Ten komputer jest już połączony z %1. Ponowne połączenie go z tym samym serwerem NAS może spowodować konflikty plików. Czy chcesz kontynuować?</translation>
+        <translation>Ten komputer jest już połączony z serwerem %1. Ponowne połączenie go z tym samym serwerem NAS może spowodować konflikty plików. Czy chcesz kontynuować?</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -866,7 +866,7 @@
     <message>
         <source>Time</source>
         <extracomment>178 col_time, 273 history_time</extracomment>
-        <translation>Godzina</translation>
+        <translation>Czas</translation>
     </message>
     <message>
         <source>File names:</source>
@@ -941,7 +941,7 @@
     <message>
         <source>There is not enough free space on the NAS to upload &quot;%1&quot;.</source>
         <extracomment>193 msg_diskfull</extracomment>
-        <translation>Na serwerze NAS brakuje wolnego miejsca, aby przesłać „%1”.</translation>
+        <translation>Na serwerze NAS brakuje wolnego miejsca, aby przesłać plik „%1”.</translation>
     </message>
     <message>
         <source>Please enter your verification code.</source>
@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>Poczekaj, aż kreator instalacji przetworzy program [ProductName]. Może to potrwać kilka minut.</translation>
+        <translation>Poczekaj, aż kreator instalacji skonfiguruje program [ProductName]. Może to potrwać kilka minut.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1236,7 +1236,7 @@
     <message>
         <source>&amp;Print</source>
         <extracomment>255 msi_button_print</extracomment>
-        <translation>&amp;Drukuj</translation>
+        <translation>D&amp;rukuj</translation>
     </message>
     <message>
         <source>%1 file(s) updated</source>
@@ -1366,7 +1366,7 @@
     <message>
         <source>This computer is now linked to %1.</source>
         <extracomment>289 wizard_finish_pairing_desc</extracomment>
-        <translation>Ten komputer jest teraz połączony z %1.</translation>
+        <translation>Ten komputer jest teraz połączony z serwerem %1.</translation>
     </message>
     <message>
         <source>Setup is complete. Your files are being synced.</source>
@@ -1396,7 +1396,7 @@
     <message>
         <source>A secure connection to %1 could not be established.</source>
         <extracomment>296 msg_ssl_error</extracomment>
-        <translation>Nie można nawiązać bezpiecznego połączenia z %1.</translation>
+        <translation>Nie można nawiązać bezpiecznego połączenia z serwerem %1.</translation>
     </message>
     <message>
         <source>Repair</source>
@@ -1421,7 +1421,7 @@
     <message>
         <source>The SSL certificate of %1 has changed. Do you want to trust the new certificate?</source>
         <extracomment>302 msg_ssl_change</extracomment>
-        <translation>Certyfikat SSL %1 uległ zmianie. Czy chcesz zaufać nowemu certyfikatowi?</translation>
+        <translation>Certyfikat SSL serwera %1 uległ zmianie. Czy chcesz zaufać nowemu certyfikatowi?</translation>
     </message>
     <message>
         <source>Do not sync files larger than %1 MB</source>
@@ -1451,12 +1451,12 @@
     <message>
         <source>The download of &quot;%1&quot; is complete.</source>
         <extracomment>309 msg_download_done</extracomment>
-        <translation>Pobieranie „%1” zostało ukończone.</translation>
+        <translation>Pobieranie pliku „%1” zostało ukończone.</translation>
     </message>
     <message>
         <source>This computer is already linked to %1. Each connection to the same NAS needs a seperate sync folder.</source>
         <extracomment>310 wizard_setup_repeat_warning</extracomment>
-        <translation>Ten komputer jest już połączony z %1. Każde połączenie z tym samym serwerem NAS wymaga osobnego folderu synchronizacji.</translation>
+        <translation>Ten komputer jest już połączony z serwerem %1. Każde połączenie z tym samym serwerem NAS wymaga osobnego folderu synchronizacji.</translation>
     </message>
     <message>
         <source>Remove [ProductName] from this computer.</source>
@@ -1516,7 +1516,7 @@
     <message>
         <source>Unable to download &quot;%1&quot;.</source>
         <extracomment>322 msg_download_fail</extracomment>
-        <translation>Nie można pobrać „%1”.</translation>
+        <translation>Nie można pobrać pliku „%1”.</translation>
     </message>
     <message>
         <source>Auto Upgrade</source>
@@ -1556,7 +1556,7 @@
     <message>
         <source>The following applications are using files that need to be updated. You can let the Setup Wizard close them, or restart your computer later.</source>
         <extracomment>330 msi_filesinuse_dlg_text2</extracomment>
-        <translation>Następujące aplikacje używają plików, które muszą zostać zaktualizowane. Możesz pozwolić kreatorowi instalacji je zamknąć albo później ponownie uruchomić komputer.</translation>
+        <translation>Następujące aplikacje używają plików, które muszą zostać zaktualizowane. Możesz pozwolić, aby kreator instalacji je zamknął, albo później ponownie uruchomić komputer.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -1791,7 +1791,7 @@
     <message>
         <source>Downloading &quot;%1&quot;...</source>
         <extracomment>385 msg_download_downloading</extracomment>
-        <translation>Pobieranie „%1”...</translation>
+        <translation>Pobieranie pliku „%1”...</translation>
     </message>
     <message>
         <source>Syncing: %1</source>
@@ -1986,7 +1986,7 @@
     <message>
         <source>Choose what you want to do with the installation.</source>
         <extracomment>430 msi_maintenance_dlg_description</extracomment>
-        <translation>Wybierz operację, którą chcesz wykonać na instalacji.</translation>
+        <translation>Wybierz operację, którą chcesz wykonać.</translation>
     </message>
     <message>
         <source>December</source>
@@ -2256,7 +2256,7 @@
     <message>
         <source>Your quota on the NAS is not large enough to upload &quot;%1&quot;.</source>
         <extracomment>494 msg_quotafull</extracomment>
-        <translation>Twój limit miejsca na serwerze NAS nie wystarcza, aby przesłać „%1”.</translation>
+        <translation>Twój limit miejsca na serwerze NAS nie wystarcza, aby przesłać plik „%1”.</translation>
     </message>
     <message>
         <source>%1 minute(s) ago</source>
@@ -2311,7 +2311,7 @@
     <message>
         <source>Are you sure you want to unlink this computer from %1?</source>
         <extracomment>508 msg_confirm_unlink</extracomment>
-        <translation>Czy na pewno chcesz odłączyć ten komputer od %1?</translation>
+        <translation>Czy na pewno chcesz odłączyć ten komputer od serwera %1?</translation>
     </message>
     <message>
         <source>Domain name, IP address or Bridgeway ID</source>
