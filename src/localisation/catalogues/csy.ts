@@ -271,7 +271,7 @@
     <message>
         <source>This computer is already linked to %1. Linking it to the same NAS again may cause file conflicts. Do you want to continue?</source>
         <extracomment>53 wizard_setup_repeat_warning2</extracomment>
-        <translation>Tento počítač je již propojen s %1. Pokud jej se stejným zařízením NAS propojíte znovu, může dojít ke konfliktům souborů. Chcete pokračovat?</translation>
+        <translation>Tento počítač je již propojen se zařízením %1. Pokud jej se stejným zařízením NAS propojíte znovu, může dojít ke konfliktům souborů. Chcete pokračovat?</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -526,7 +526,7 @@
     <message>
         <source>To use selective sync, please update Larkmoor Server on your NAS.</source>
         <extracomment>109 update_pkg_for_selective_sync</extracomment>
-        <translation>Chcete-li používat výběrovou synchronizaci, aktualizujte na zařízení NAS Larkmoor Server.</translation>
+        <translation>Chcete-li používat výběrovou synchronizaci, aktualizujte Larkmoor Server na zařízení NAS.</translation>
     </message>
     <message>
         <source>Files that match the following names or extensions will not be synced.</source>
@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>Počkejte, než průvodce instalací zpracuje produkt [ProductName]. Může to trvat několik minut.</translation>
+        <translation>Počkejte, než průvodce instalací nakonfiguruje produkt [ProductName]. Může to trvat několik minut.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1321,7 +1321,7 @@
     <message>
         <source>has been shared with you.</source>
         <extracomment>279 msg_share_bubble_suffix</extracomment>
-        <translation>– nyní máte sdílený přístup.</translation>
+        <translation>– položka je nyní sdílena s vámi.</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -1366,7 +1366,7 @@
     <message>
         <source>This computer is now linked to %1.</source>
         <extracomment>289 wizard_finish_pairing_desc</extracomment>
-        <translation>Tento počítač je nyní propojen s %1.</translation>
+        <translation>Tento počítač je nyní propojen se zařízením %1.</translation>
     </message>
     <message>
         <source>Setup is complete. Your files are being synced.</source>
@@ -1396,7 +1396,7 @@
     <message>
         <source>A secure connection to %1 could not be established.</source>
         <extracomment>296 msg_ssl_error</extracomment>
-        <translation>Zabezpečené připojení k %1 se nepodařilo navázat.</translation>
+        <translation>Zabezpečené připojení k zařízení %1 se nepodařilo navázat.</translation>
     </message>
     <message>
         <source>Repair</source>
@@ -1421,7 +1421,7 @@
     <message>
         <source>The SSL certificate of %1 has changed. Do you want to trust the new certificate?</source>
         <extracomment>302 msg_ssl_change</extracomment>
-        <translation>Certifikát SSL %1 se změnil. Chcete novému certifikátu důvěřovat?</translation>
+        <translation>Certifikát SSL zařízení %1 se změnil. Chcete novému certifikátu důvěřovat?</translation>
     </message>
     <message>
         <source>Do not sync files larger than %1 MB</source>
@@ -1456,7 +1456,7 @@
     <message>
         <source>This computer is already linked to %1. Each connection to the same NAS needs a seperate sync folder.</source>
         <extracomment>310 wizard_setup_repeat_warning</extracomment>
-        <translation>Tento počítač je již propojen s %1. Každé připojení ke stejnému zařízení NAS vyžaduje samostatnou synchronizovanou složku.</translation>
+        <translation>Tento počítač je již propojen se zařízením %1. Každé připojení ke stejnému zařízení NAS vyžaduje samostatnou synchronizovanou složku.</translation>
     </message>
     <message>
         <source>Remove [ProductName] from this computer.</source>
@@ -2311,7 +2311,7 @@
     <message>
         <source>Are you sure you want to unlink this computer from %1?</source>
         <extracomment>508 msg_confirm_unlink</extracomment>
-        <translation>Opravdu chcete zrušit propojení tohoto počítače s %1?</translation>
+        <translation>Opravdu chcete zrušit propojení tohoto počítače se zařízením %1?</translation>
     </message>
     <message>
         <source>Domain name, IP address or Bridgeway ID</source>
