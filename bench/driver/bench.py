@@ -1,0 +1,125 @@
+#!/usr/bin/env python3
+"""Compares the launcher and its parts with their peers. Started by scripts/bench."""
+
+import argparse
+import contextlib
+import os
+import pathlib
+import subprocess
+import sys
+import time
+
+import inputs
+import measures
+import plan as plans
+import report as reports
+import workspace
+from measure import Runner, compare, in_turn, median
+
+
+class Session:
+    """One run: where, with what, how much, and what came of it."""
+
+    def __init__(self, build, folder, plan, display):
+        self.build = build
+        self.results = build
+        self.folder = folder
+        self.plan = plan
+        self.display = display
+        self.runner = Runner(build / "bench/bench-timed-run")
+        self.packages = inputs.Packages(build / "bench", folder)
+        self.bundle = inputs.Bundle(folder, build, pathlib.Path(os.environ["QT_PLUGINS"]))
+        self.carried = None
+        self.ext4 = None
+        self.report = {"machine": workspace.machine(), "comparisons": [], "memory": [],
+                       "growths": [], "calls": {}, "parts": []}
+
+    def displays(self):
+        """Where to run: never on the display of whoever runs this."""
+        found = [("offscreen", None)]
+        if self.display:
+            found.append(("Xvfb", self.display))
+        return found
+
+    def big_package(self, kind):
+        return self.plan.big_of(self.packages, kind)
+
+    def compare(self, name, contenders, rounds, goal=None):
+        result = {"name": name, **compare(self.runner, contenders, rounds, goal)}
+        self.report["comparisons"].append(result)
+        print(f"   {name}: {result['ratio']:.2f} of {contenders[1].name} "
+              f"{reports.verdict(result)}", flush=True)
+
+    def memory(self, name, against, value, limit):
+        self.report["memory"].append(
+            {"name": name, "against": against, "value": value, "limit": limit})
+        print(f"   {name}: {value / 2**20:.1f} MiB of {limit / 2**20:.1f}", flush=True)
+
+    def add_points(self, lines, x, contenders, rounds):
+        for contender, samples in zip(contenders, in_turn(self.runner, contenders, rounds)):
+            lines.setdefault(contender.name, []).append([x, median(samples, "wall")])
+
+    def growth(self, file, name, work, lines, peers=1):
+        """Lines of points: ours, then that many peers, then the floor."""
+        self.report["growths"].append(
+            {"file": file, "name": name, "work": work, "lines": lines, "peers": peers})
+        print(f"   {name}, by {work}", flush=True)
+
+
+@contextlib.contextmanager
+def xvfb():
+    """A display of our own."""
+    reader, writer = os.pipe()
+    server = subprocess.Popen(
+        ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1024x768x24", "-nolisten", "tcp"],
+        pass_fds=[writer], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    os.close(writer)
+    try:
+        with os.fdopen(reader) as pipe:
+            number = pipe.readline().strip()
+        if not number:
+            raise workspace.Failure("Xvfb doesn't start: run it by hand to see why")
+        yield f":{number}"
+    finally:
+        server.terminate()
+        server.wait()
+
+
+def run(arguments):
+    plan = plans.Short() if arguments.short else plans.Full()
+    with contextlib.ExitStack() as stack:
+        folder = stack.enter_context(workspace.memory(plan.needs))
+        session = Session(arguments.build, folder, plan, stack.enter_context(xvfb()))
+        if workspace.FreshExt4.is_possible():
+            session.ext4 = workspace.FreshExt4(folder, plan.ext4_size)
+            stack.callback(session.ext4.close)
+        else:
+            print("No ext4 of our own without root and loop devices: measured on tmpfs alone.")
+        for name in arguments.measures or measures.ALL:
+            begin = time.monotonic()
+            print(f"== {name}", flush=True)
+            measures.ALL[name](session)
+            print(f"   ({time.monotonic() - begin:.0f} s)", flush=True)
+        session.report["load_at_end"] = workspace.machine()["load"]
+        session.report["short"] = arguments.short
+        return session.report
+
+
+def main():
+    parser = argparse.ArgumentParser(prog="scripts/bench")
+    parser.add_argument("--build", type=pathlib.Path, required=True, help=argparse.SUPPRESS)
+    parser.add_argument("--short", action="store_true")
+    parser.add_argument("measures", nargs="*", metavar="MEASURE")
+    arguments = parser.parse_args()
+    for name in arguments.measures:
+        if name not in measures.ALL:
+            parser.error(f"there is no measure '{name}'; there are {', '.join(measures.ALL)}")
+    try:
+        report = run(arguments)
+    except workspace.Failure as failure:
+        sys.exit(f"bench: {failure}")
+    reports.write(report, arguments.build)
+    print("\n" + reports.text(report))
+
+
+main()

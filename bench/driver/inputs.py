@@ -1,0 +1,176 @@
+"""What is measured with: trees from a fixed seed, packages of them, and the bundle and home that the
+launcher runs in."""
+
+import os
+import pathlib
+import random
+import shutil
+import subprocess
+import sysconfig
+
+SEED = 20140915
+VERSION = 1  # changes with what the trees hold, so that packages of another kind aren't used
+
+EXECUTABLE = "Contents/MacOS/larkmoor-drive-ui"
+INFO = "Contents/Resources/INFO"
+INFO_TEXT = "[Version]\nmajor_version=3\nminor_version=1\nbuild_version={}\nicon_overlay_version=12\n"
+
+ICON = pathlib.Path(__file__).parents[2] / "resources/images/ico_72_larkmoor.png"
+
+# A letter takes four bits when it is packed, as in text.
+_LETTERS = bytes(b"etaoinshrdlucmfw"[value % 16] for value in range(256))
+
+FORMATS = {
+    "tar.gz": ["--format", "gnutar", "--gzip"],
+    "tar.zst": ["--format", "gnutar", "--zstd"],
+    "tar.xz": ["--format", "gnutar", "--xz", "--options", "xz:compression-level=1"],
+    "zip": ["--format", "zip"],
+}
+
+
+def content(source, size):
+    """A third can't be packed, a third is like text, a third repeats itself."""
+    raw = source.randbytes(size)
+    third = size // 3
+    repeated = raw[: third // 8 + 1] * 9
+    return (raw[:third] + raw[third : 2 * third].translate(_LETTERS)
+            + repeated[: size - 2 * third])
+
+
+def _client(folder):
+    """What makes a tree a client: something to start, and its version."""
+    executable = folder / EXECUTABLE
+    executable.parent.mkdir(parents=True, exist_ok=True)
+    executable.write_text("#!/bin/sh\n")
+    executable.chmod(0o755)
+    info = folder / INFO
+    info.parent.mkdir(parents=True, exist_ok=True)
+    info.write_text(INFO_TEXT.format(2))
+
+
+def tree(folder, files, size, folders):
+    """`files` files of about the same size, `size` bytes in all, in `folders` folders."""
+    source = random.Random(SEED)
+    places = [folder / "Contents/Resources" / f"group-{i % 40:02}" / f"folder-{i:05}"
+              for i in range(folders)]
+    for place in places:
+        place.mkdir(parents=True)
+    for i in range(files):
+        share = int(size / files * source.uniform(0.5, 1.5))
+        (places[i % folders] / f"file-{i:06}.dat").write_bytes(content(source, share))
+    _client(folder)
+
+
+def deep_tree(folder, files, depth):
+    """`files` small files at the end of a chain of `depth` folders."""
+    source = random.Random(SEED)
+    place = folder / "Contents/Resources"
+    for level in range(depth):
+        place = place / f"level-{level:03}"
+    place.mkdir(parents=True)
+    for i in range(files):
+        (place / f"file-{i:06}.dat").write_bytes(content(source, 100))
+    _client(folder)
+
+
+def system_tree(folder, size):
+    """The system's own libraries, in the order of their names, until there are `size` bytes."""
+    libraries = pathlib.Path("/usr/lib") / (sysconfig.get_config_var("MULTIARCH") or "")
+    place = folder / "Contents/Frameworks"
+    place.mkdir(parents=True)
+    taken = 0
+    for path in sorted(libraries.rglob("*")):
+        if taken >= size:
+            break
+        if path.is_symlink() or not path.is_file() or not os.access(path, os.R_OK):
+            continue
+        target = place / path.relative_to(libraries)
+        target.parent.mkdir(parents=True, exist_ok=True)
+        shutil.copyfile(path, target)
+        taken += path.stat().st_size
+    _client(folder)
+
+
+def pack(folder, package, kind):
+    """Client and version come last, as in every package."""
+    paths = sorted(str(path.relative_to(folder)) for path in folder.rglob("*"))
+    paths = [path for path in paths if path not in (EXECUTABLE, INFO)] + [EXECUTABLE, INFO]
+    partial = package.with_name(package.name + ".partial")
+    subprocess.run(["bsdtar", "-cf", partial, *FORMATS[kind], "-C", folder, "--null", "-n", "-T", "-"],
+                   input="\0".join(paths).encode(), check=True)
+    partial.rename(package)
+
+
+class Packages:
+    """Packages are kept from one run to the next: packing takes longer than measuring."""
+
+    def __init__(self, cache, scratch):
+        self.cache = cache / f"inputs-{VERSION}"
+        self.cache.mkdir(parents=True, exist_ok=True)
+        self.scratch = scratch
+
+    def get(self, name, kinds, make_tree):
+        """A package of the tree in each of the kinds, on the file system that is measured on."""
+        missing = [kind for kind in kinds if not (self.cache / f"{name}.{kind}").exists()]
+        if missing:
+            folder = self.scratch / "tree"
+            make_tree(folder)
+            for kind in missing:
+                pack(folder, self.cache / f"{name}.{kind}", kind)
+            remove(folder)
+        return {kind: self.cache / f"{name}.{kind}" for kind in kinds}
+
+
+class Bundle:
+    """The application as a user has it, the peers beside the launcher, and a home."""
+
+    def __init__(self, folder, build, qt_plugins):
+        self.root = folder / "Larkmoor.app"
+        self.home = folder / "home"
+        programs = self.root / "Contents/MacOS"
+        platforms = self.root / "Contents/Frameworks/plugins/platforms"
+        self.resources = self.root / "Contents/Resources"
+        self.package = self.resources / "package/larkmoor.lpk"
+        for made in (programs, platforms, self.package.parent, self.home):
+            made.mkdir(parents=True)
+        shutil.copy(build / "src/launcher/launcher", programs)
+        for peer in ("bench-minimal", "bench-minimal-dialog", "bench-notify"):
+            shutil.copy(build / "bench" / peer, programs)
+        for plugin in ("libqoffscreen.so", "libqxcb.so"):
+            (platforms / plugin).symlink_to(qt_plugins / "platforms" / plugin)
+        (self.resources / "INFO").write_text(INFO_TEXT.format(2))
+        (self.resources / "images").mkdir()
+        shutil.copy(ICON, self.resources / "images")
+
+    def program(self, name):
+        return self.root / "Contents/MacOS" / name
+
+    @property
+    def installed(self):
+        return self.home / ".Larkmoor/Larkmoor.app"
+
+    def environment(self, display=None):
+        chosen = {"HOME": str(self.home), "LC_ALL": "C.UTF-8", "PATH": os.environ["PATH"],
+                  "QT_QPA_PLATFORM": "xcb" if display else "offscreen"}
+        if display:
+            chosen["DISPLAY"] = display
+        return chosen
+
+    def carry(self, package):
+        shutil.copyfile(package, self.package)
+
+    def forget_installation(self):
+        remove(self.home / ".Larkmoor")
+
+    def install_same_build(self):
+        """So that a start has nothing to upgrade."""
+        self.forget_installation()
+        _client(self.installed)
+
+    def check_installation(self):
+        if not (self.installed / INFO).exists():
+            raise RuntimeError("the launcher installed nothing")
+
+
+def remove(path):
+    subprocess.run(["rm", "-rf", path], check=True)

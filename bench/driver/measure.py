@@ -1,0 +1,93 @@
+"""Runs programs in turn and compares them."""
+
+import dataclasses
+import statistics
+import subprocess
+
+# A is taken twice: every other run against the rest. What those two medians differ by is noise.
+MAX_DIFFERENCE_OF_A_AND_A = 0.05
+
+
+@dataclasses.dataclass
+class Sample:
+    wall: float  # seconds
+    cpu: float  # seconds, user and system, of all threads and children
+    memory: int  # bytes at the peak
+
+
+class Runner:
+    def __init__(self, timed_run):
+        self.timed_run = timed_run
+
+    def run(self, command, environment=None, folder=None):
+        words = [str(word) for word in command]
+        done = subprocess.run([self.timed_run, *words], env=environment, cwd=folder, text=True,
+                              stdin=subprocess.DEVNULL, capture_output=True)
+        if done.returncode != 0:
+            raise RuntimeError(f"status {done.returncode}: {' '.join(words)}\n{done.stderr}")
+        wall, user, system, memory = map(int, done.stdout.split())
+        return Sample(wall / 1e6, (user + system) / 1e6, memory * 1024)
+
+
+@dataclasses.dataclass
+class Contender:
+    """One side of a comparison. `prepare` runs before each run, outside of the time; `check` after
+    it."""
+
+    name: str
+    command: list
+    environment: dict = None
+    prepare: callable = None
+    check: callable = None
+
+
+def median(samples, of):
+    return statistics.median(getattr(sample, of) for sample in samples)
+
+
+def in_turn(runner, contenders, rounds):
+    """A B A B ...: what changes on the machine meanwhile meets all of them. A list of samples for
+    each contender."""
+    samples = [[] for _ in contenders]
+    for _ in range(rounds):
+        for contender, taken in zip(contenders, samples):
+            if contender.prepare:
+                contender.prepare()
+            taken.append(runner.run(contender.command, contender.environment))
+            if contender.check:
+                contender.check()
+    return samples
+
+
+def noise(samples):
+    """How far two halves of the same measurement lie apart, as a share."""
+    if len(samples) < 2:
+        return None
+    return abs(median(samples[::2], "wall") / median(samples[1::2], "wall") - 1)
+
+
+def compare(runner, contenders, rounds, goal=None):
+    """The first contender is ours, the second the peer, a third one the floor."""
+    samples = in_turn(runner, contenders, rounds)
+    wall = [median(taken, "wall") for taken in samples]
+    cpu = [median(taken, "cpu") for taken in samples]
+    result = {
+        "pairs": rounds,
+        "goal": goal,
+        "noise": noise(samples[0]),
+        "ratio": wall[0] / wall[1],
+        "cpu_ratio": cpu[0] / cpu[1],
+        "contenders": [
+            {"name": contender.name, "wall": wall[i], "cpu": cpu[i],
+             "memory": median(samples[i], "memory"),
+             "samples": [dataclasses.astuple(sample) for sample in samples[i]]}
+            for i, contender in enumerate(contenders)
+        ],
+    }
+    if len(contenders) > 2:
+        result["floor_ratio"] = wall[2] / wall[1]
+    return result
+
+
+def is_noisy(result):
+    return result.get("noise") is not None and result["noise"] > MAX_DIFFERENCE_OF_A_AND_A

@@ -1,0 +1,318 @@
+"""The measures. Each takes a Session and adds to its report."""
+
+import json
+import re
+import subprocess
+
+import inputs
+from measure import Contender, compare, in_turn, median
+
+MIB = 2**20
+
+TWO_PASSES = 'bsdtar -tf "$1" >/dev/null && bsdtar -xf "$1" -C "$2"'
+
+
+# ---- start ----
+
+def _starts(session, display=None):
+    bundle = session.bundle
+    environment = bundle.environment(display)
+    return [
+        Contender("launcher", [bundle.program("launcher")], environment),
+        Contender("minimal with dialog, thread, catalogue", [bundle.program("bench-minimal-dialog")],
+                  environment),
+        Contender("bare minimal", [bundle.program("bench-minimal")], environment),
+    ]
+
+
+def start(session):
+    """A plain start: nothing to upgrade."""
+    session.bundle.install_same_build()
+    for where, display in session.displays():
+        launcher, dialog, bare = _starts(session, display)
+        rounds = session.plan.starts
+        session.compare(f"plain start, {where}", [launcher, dialog], rounds, 1.10)
+        session.compare(f"plain start, {where}", [launcher, bare], rounds, 1.30)
+
+
+def memory(session):
+    """Peaks of a plain start and of an installation."""
+    session.bundle.install_same_build()
+    launcher, dialog, bare = _starts(session)
+    ours, _, least = in_turn(session.runner, [launcher, dialog, bare], session.plan.memory_runs)
+    limit = median(least, "memory") + 4 * MIB
+    session.memory("plain start, offscreen", "bare minimal + 4 MiB", median(ours, "memory"), limit)
+    package = session.big_package("tar.zst")
+    for where, display in session.displays():
+        installing = _install(session, package, display)
+        peak = median(in_turn(session.runner, [installing], session.plan.memory_runs)[0], "memory")
+        session.memory(f"install of tar.zst, {where}", "", peak, (40 if display else 32) * MIB)
+
+
+def notify(session):
+    """Notifications while the window keeps pace: the memory must not grow with them."""
+    few, many = session.plan.notifications
+    peaks = []
+    for count in (few, many):
+        sender = Contender("", [session.bundle.program("bench-notify"), count],
+                           session.bundle.environment())
+        peaks.append(median(in_turn(session.runner, [sender], session.plan.memory_runs)[0],
+                            "memory"))
+    session.memory(f"growth from {few} to {many} notifications", "", max(0, peaks[1] - peaks[0]),
+                   2 * MIB)
+
+
+def calls(session):
+    """The system calls of a plain start, counted."""
+    session.bundle.install_same_build()
+    counts = []
+    for contender in _starts(session)[:2]:
+        log = session.folder / "calls"
+        subprocess.run(["strace", "-f", "-qq", "-o", log, *contender.command], check=True,
+                       env=contender.environment, stdout=subprocess.DEVNULL,
+                       stderr=subprocess.DEVNULL)
+        counts.append(_count_calls(log.read_text(errors="replace").splitlines()))
+        (session.results / f"calls-{contender.command[0].name}.txt").write_bytes(log.read_bytes())
+        log.unlink()
+    names = sorted(set(counts[0]) | set(counts[1]))
+    session.report["calls"] = {name: [count.get(name, 0) for count in counts] for name in names}
+
+
+def _count_calls(lines):
+    """By name, over all threads. What the started client does as a program of its own isn't ours."""
+    count, ours, gone = {}, None, set()
+    for line in lines:
+        call = re.match(r"(\d+) +(\w+)\(", line)
+        if not call or call[1] in gone:
+            continue
+        ours = ours or call[1]
+        count[call[2]] = count.get(call[2], 0) + 1
+        if call[2] == "execve" and call[1] != ours:
+            gone.add(call[1])
+    return count
+
+
+# ---- install ----
+
+def _install(session, package, display=None, name="launcher"):
+    bundle = session.bundle
+
+    def prepare():
+        bundle.forget_installation()
+        if session.carried != package:
+            bundle.carry(package)
+            session.carried = package
+
+    return Contender(name, [bundle.program("launcher")], bundle.environment(display), prepare,
+                     bundle.check_installation)
+
+
+def _into_fresh_folder(session, name, command):
+    """A command that unpacks the carried package."""
+    folder = session.folder / "unpacked"
+
+    def prepare():
+        inputs.remove(folder)
+        folder.mkdir()
+
+    return Contender(name, [*command, session.bundle.package, folder], None, prepare)
+
+
+def _against_bsdtar(session, package):
+    floor = session.build / "bench/bench-install-floor"
+    return [
+        _install(session, package),
+        _into_fresh_folder(session, "bsdtar -tf, -xf", ["sh", "-c", TWO_PASSES, "sh"]),
+        _into_fresh_folder(session, "libarchive alone", [floor]),
+    ]
+
+
+def install(session):
+    plan = session.plan
+    for kind in inputs.FORMATS:
+        session.compare(f"install {plan.big_name}, {kind}",
+                        _against_bsdtar(session, session.big_package(kind)), plan.installs, 1.00)
+    many = session.packages.get(*plan.many)
+    for kind, package in many.items():
+        goal = 0.90 if kind == "tar.xz" else 0.65
+        session.compare(f"install {plan.many_name}, {kind}", _against_bsdtar(session, package),
+                        plan.installs, goal)
+    package = many["tar.gz"]
+    session.compare(f"install {plan.many_name}, tar.gz", [
+        _install(session, package),
+        _into_fresh_folder(session, "bsdtar -xf alone", ["sh", "-c", 'bsdtar -xf "$1" -C "$2"', "sh"]),
+    ], plan.installs, 0.80)
+    for where, display in session.displays()[1:]:
+        session.compare(f"install {plan.many_name}, {where}", [
+            _install(session, package, display), _install(session, package, name="offscreen"),
+        ], plan.installs, 1.10)
+    for kind, package in session.packages.get(*plan.tiny).items():
+        session.compare(f"install {plan.tiny_name}, {kind}", _against_bsdtar(session, package),
+                        plan.installs, 0.75)
+    for kind, package in session.packages.get(*plan.system).items():
+        session.compare(f"install the system's libraries, {kind}",
+                        _against_bsdtar(session, package), plan.installs)
+
+
+def install_growth(session):
+    plan = session.plan
+    for file, name, work, series in plan.install_series:
+        lines = {}
+        for x, tree_name, make_tree in series:
+            package = session.packages.get(tree_name, ["tar.gz"], make_tree)["tar.gz"]
+            session.add_points(lines, x, _against_bsdtar(session, package), plan.growth_rounds)
+        session.growth(file, name, work, lines)
+
+
+# ---- remove and copy ----
+
+def _removals(session, make_tree, renew=None):
+    """Each removes a tree made just before; on ext4 the file system is made anew as well."""
+    target = session.folder / "removed"
+
+    def contender(name, *command):
+        place = {"path": target}
+
+        def prepare():
+            if renew:
+                place["path"] = renew() / "removed"
+            inputs.remove(place["path"])
+            make_tree(place["path"])
+            if renew:
+                subprocess.run(["sync", "-f", place["path"]], check=True)
+
+        path = session.ext4.folder / "removed" if renew else target
+        return Contender(name, [*command, path], None, prepare)
+
+    programs = session.build / "bench"
+    return [contender("FSRemove", programs / "bench-remove"), contender("rm -rf", "rm", "-rf"),
+            contender("each object checked", programs / "bench-remove-floor")]
+
+
+def remove(session):
+    plan = session.plan
+    for name, make_tree in plan.removals:
+        session.compare(f"remove {name}, tmpfs", _removals(session, make_tree), plan.removal_rounds,
+                        1.6)
+        if session.ext4:
+            session.compare(f"remove {name}, ext4",
+                            _removals(session, make_tree, session.ext4.renew),
+                            plan.removal_rounds, 1.25)
+            session.ext4.close()
+
+
+def remove_growth(session):
+    plan = session.plan
+    for file, name, work, series in plan.removal_series:
+        lines = {}
+        for x, make_tree in series:
+            session.add_points(lines, x, _removals(session, make_tree), plan.growth_rounds)
+        session.growth(file, name, work, lines)
+
+
+def _copies(session, source):
+    target = session.folder / "copied"
+
+    def prepare():
+        inputs.remove(target)
+
+    synced = 'cp -r "$1" "$2" && find "$2" -type f -exec sync {} +'
+    return [
+        Contender("FSCopyPath", [session.build / "bench/bench-copy", source, target], None, prepare),
+        Contender("cp, fsync", ["sh", "-c", synced, "sh", source, target], None, prepare),
+    ]
+
+
+def copy(session):
+    plan = session.plan
+    source = session.folder / "source"
+    for name, make, goal in plan.copies:
+        make(source)
+        session.compare(f"copy {name}", _copies(session, source), plan.copy_rounds, goal)
+        inputs.remove(source)
+    inputs.remove(session.folder / "copied")
+
+
+def copy_growth(session):
+    plan = session.plan
+    source = session.folder / "source"
+    for file, name, work, series in plan.copy_series:
+        lines = {}
+        for x, make in series:
+            make(source)
+            session.add_points(lines, x, _copies(session, source), plan.growth_rounds)
+            inputs.remove(source)
+        session.growth(file, name, work, lines)
+    inputs.remove(session.folder / "copied")
+
+
+# ---- parts ----
+
+_PART = re.compile(r"(?P<group>[^/]+)/(?P<operation>[^/]+)/(?P<who>[^/]+?)"
+                   r"(/(?P<size>\d+))?(/real_time)?(/threads:(?P<threads>\d+))?$")
+
+# Ours, then the group's goal against the closest peer, then what the series grows with.
+_GROUPS = {
+    "level file": ("Config", 1.0, "lines"),
+    "log filtered": ("Logger", 1.0, "threads"),
+    "log written": ("Logger", 1.2, "threads"),
+    "ustring": ("ustring", 1.5, "characters"),
+}
+
+
+def parts(session):
+    """Google Benchmark, its benchmarks in random order."""
+    plan = session.plan
+    out = session.folder / "parts.json"
+    subprocess.run(
+        [session.build / "bench/bench-parts", f"--benchmark_repetitions={plan.part_repetitions}",
+         f"--benchmark_min_time={plan.part_seconds}", "--benchmark_enable_random_interleaving=true",
+         f"--benchmark_out={out}", "--benchmark_out_format=json"],
+        check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+        env={"LARKMOOR_BENCH_FOLDER": str(session.folder), "LC_ALL": "C.UTF-8"})
+    runs = [run for run in json.loads(out.read_text())["benchmarks"]
+            if run["run_type"] == "iteration"]
+    for run in runs:
+        if run.get("error_occurred"):
+            raise RuntimeError(f"{run['name']}: {run['error_message']}")
+    series = {}
+    for run in runs:
+        part = _PART.match(run["name"])
+        x = int(part["size"] or part["threads"])
+        key = (part["group"], part["operation"])
+        series.setdefault(key, {}).setdefault(part["who"], {}).setdefault(x, []).append(run)
+    for (group, operation), lines in series.items():
+        _add_part(session, group, operation, lines)
+
+
+def _add_part(session, group, operation, lines):
+    ours, goal, work = _GROUPS[group]
+    # One thread is charged for its own time. Of several the wall time counts, with their waiting.
+    clock = "real_time" if work == "threads" else "cpu_time"
+    scale = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3}
+
+    def seconds(runs):
+        values = sorted(run[clock] * scale[run["time_unit"]] for run in runs)
+        return values[len(values) // 2]
+
+    medians = {who: [[x, seconds(runs)] for x, runs in sorted(points.items())]
+               for who, points in sorted(lines.items())}
+    ordered = {ours: medians.pop(ours), **medians}
+    name = f"{group}: {operation}"
+    session.growth(name.replace(": ", "-").replace(" ", "-"), name, work, ordered,
+                   peers=len(medians))
+    for i, (x, value) in enumerate(ordered[ours]):
+        peer, against = min(((who, points[i][1]) for who, points in medians.items()),
+                            key=lambda pair: pair[1])
+        session.report["parts"].append({
+            "name": name, "work": work, "size": x, "ours": value, "peer": peer, "peer_time": against,
+            "ratio": value / against, "goal": goal,
+            "repetitions": len(lines[ours][x]),
+        })
+
+
+ALL = {
+    "start": start, "memory": memory, "notify": notify, "calls": calls, "install": install,
+    "remove": remove, "copy": copy, "parts": parts, "install-growth": install_growth,
+    "remove-growth": remove_growth, "copy-growth": copy_growth,
+}

@@ -1,0 +1,81 @@
+"""A file system of our own to measure on, and facts about the machine.
+
+Creating files soon after a mass removal on the same ext4 is many times slower, so measuring in an
+ordinary folder would measure the runs before it.
+"""
+
+import contextlib
+import os
+import pathlib
+import platform
+import shutil
+import subprocess
+import tempfile
+
+SHARED_MEMORY = pathlib.Path("/dev/shm")
+
+
+class Failure(Exception):
+    """Says what is wrong and what mends it."""
+
+
+@contextlib.contextmanager
+def memory(size):
+    """A folder on a tmpfs with that many bytes free, removed at the end."""
+    if not SHARED_MEMORY.is_dir() or shutil.disk_usage(SHARED_MEMORY).free < size:
+        raise Failure(
+            f"{SHARED_MEMORY} has less than {size >> 20} MiB free: free some, or run "
+            "scripts/bench --short"
+        )
+    with tempfile.TemporaryDirectory(prefix="larkmoor-bench.", dir=SHARED_MEMORY) as folder:
+        yield pathlib.Path(folder)
+
+
+class FreshExt4:
+    """An ext4 in a file on the tmpfs, made anew as often as wanted. Needs root and a loop device."""
+
+    def __init__(self, memory_folder, size):
+        self.image = memory_folder / "ext4.image"
+        self.folder = memory_folder / "ext4"
+        self.size = size
+        self.mounted = False
+        self.folder.mkdir()
+
+    def renew(self):
+        self.close()
+        with open(self.image, "wb") as image:
+            image.truncate(self.size)
+        quiet = {"check": True, "stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
+        subprocess.run(["mkfs.ext4", "-q", "-F", "-E", "lazy_itable_init=0,nodiscard", self.image],
+                       **quiet)
+        subprocess.run(["mount", "-o", "loop", self.image, self.folder], **quiet)
+        self.mounted = True
+        return self.folder
+
+    def close(self):
+        if self.mounted:
+            subprocess.run(["umount", self.folder], check=True)
+        self.mounted = False
+        self.image.unlink(missing_ok=True)
+
+    @staticmethod
+    def is_possible():
+        return os.geteuid() == 0 and bool(shutil.which("mkfs.ext4")) and (
+            pathlib.Path("/dev/loop-control").exists())
+
+
+def _processor():
+    with contextlib.suppress(OSError):
+        for line in pathlib.Path("/proc/cpuinfo").read_text().splitlines():
+            if line.startswith("model name"):
+                return line.split(":", 1)[1].strip()
+    return platform.processor()
+
+
+def machine():
+    return {
+        "processor": _processor(),
+        "cores": os.cpu_count(),
+        "system": f"{platform.system()} {platform.release()}",
+        "load": [round(load, 2) for load in os.getloadavg()],
+    }
