@@ -12,5 +12,7 @@ endif()
 if(LARKMOOR_SANITIZER)
   add_compile_options(-fsanitize=${LARKMOOR_SANITIZER} -fno-omit-frame-pointer
     -fno-sanitize-recover=all)
+  # The instrumented code makes g++ see uninitialised uses inside the standard library.
+  add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   add_link_options(-fsanitize=${LARKMOOR_SANITIZER})
 endif()

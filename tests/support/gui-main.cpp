@@ -7,6 +7,7 @@
 int main(int argc, char** argv) {
   testing::InitGoogleMock(&argc, argv);
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  Q_INIT_RESOURCE(texts);
   QApplication const app(argc, argv);
   return RUN_ALL_TESTS();
 }

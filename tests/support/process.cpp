@@ -94,6 +94,8 @@ bool Process::Reap(int flags) {
 
 bool Process::Running() { return !Reap(WNOHANG); }
 
+std::string Process::Output() const { return ReadFile(out_path_); }
+
 Outcome Process::Wait(std::chrono::milliseconds limit) {
   if (!WaitUntil([this] { return !Running(); }, limit)) {
     Signal(SIGKILL);

@@ -47,6 +47,8 @@ class Process {
   void Signal(int number) const;
   /// Whether it still runs. A zombie does not.
   bool Running();
+  /// What it has written to standard output so far.
+  std::string Output() const;
   /// Waits for its end and reaps it. Throws, after killing it, when the deadline passes first.
   Outcome Wait(std::chrono::milliseconds limit = kDeadline);
 

@@ -112,6 +112,16 @@ std::vector<Entry> Sandbox::Client(int build) {
   };
 }
 
+std::vector<Entry> Sandbox::ClientWithFiles(int build, int files) {
+  std::vector<Entry> entries;
+  for (int i = 0; i < files; ++i) {
+    entries.push_back(
+        Entry::File("Contents/Files/" + std::to_string(i / 500) + "/" + std::to_string(i), ""));
+  }
+  for (Entry& entry : Client(build)) entries.push_back(std::move(entry));
+  return entries;
+}
+
 void Sandbox::CarryVersion(int build) {
   WriteFile(Bundle() + "/Contents/Resources/INFO", VersionFile(build));
 }

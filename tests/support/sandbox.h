@@ -29,6 +29,9 @@ class Sandbox {
   /// What an installed tree of this build looks like, as entries of a package.
   static std::vector<Entry> Client(int build);
 
+  /// The same, behind this many empty files.
+  static std::vector<Entry> ClientWithFiles(int build, int files);
+
   /// Puts the version file of this build beside the package.
   void CarryVersion(int build);
   void CarryPackage(std::string const& bytes);

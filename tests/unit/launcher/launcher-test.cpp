@@ -1,0 +1,251 @@
+#include "launcher/launcher.h"
+
+#include <gmock/gmock.h>
+#include <stdlib.h>
+#include <sys/stat.h>
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+#include "launcher/notify-adapter.h"
+#include "launcher/progress-dialog.h"
+#include "localisation/str-table.h"
+#include "service/larkmoor-service.h"
+#include "support/archive-builder.h"
+#include "support/files.h"
+#include "support/log-capture.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using test::Entry;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class Home : public test::TempDir {
+ public:
+  Home() { setenv("HOME", path().c_str(), 1); }
+};
+
+/// Notes what the dialog goes through.
+class Watch : public QObject {
+ public:
+  explicit Watch(QProgressDialog* dialog) : dialog_(dialog) {
+    dialog->installEventFilter(this);
+    bar_ = dialog->findChild<QProgressBar*>();
+    QObject::connect(bar_, &QProgressBar::valueChanged, this,
+                     [this](int value) { events.push_back(std::to_string(value)); });
+  }
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (object == dialog_ && event->type() == QEvent::Show) events.emplace_back("show");
+    if (object == dialog_ && event->type() == QEvent::Hide) events.emplace_back("hide");
+    return false;
+  }
+  std::vector<std::string> events;
+
+ private:
+  QProgressDialog* dialog_;
+  QProgressBar* bar_ = nullptr;
+};
+
+class LauncherTest : public testing::Test {
+ protected:
+  LauncherTest() {
+    StrTable::InitStrTable();
+    fs::remove_all(Resources());
+  }
+  ~LauncherTest() override { fs::remove_all(Resources()); }
+
+  static std::string Resources() { return Service::GetRootLarkmoorResourceInstallPath().c_str(); }
+  std::string App() const { return home / ".Larkmoor/Larkmoor.app"; }
+  static Entry Client() {
+    return Entry::File("Contents/MacOS/larkmoor-drive-ui", "#!/bin/sh\ntouch \"$HOME/started\"\n",
+                       0755);
+  }
+  static void Carry(std::vector<Entry> const& entries) {
+    test::WriteFile(Resources() + "/package/larkmoor.lpk", test::MakeArchive(entries));
+  }
+  void Install() {
+    test::WriteFile(App() + "/Contents/MacOS/larkmoor-drive-ui", Client().content);
+    chmod((App() + "/Contents/MacOS/larkmoor-drive-ui").c_str(), 0755);
+  }
+  /// The dialog of the one launcher.
+  static ProcessingProgressDialog* Dialog() {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+      if (auto* dialog = qobject_cast<ProcessingProgressDialog*>(widget)) return dialog;
+    }
+    throw std::runtime_error("there is no dialog");
+  }
+  static void UpdateProgress(Launcher* launcher, int total, int steps) {
+    QMetaObject::invokeMethod(launcher, "UpdateProgress", Q_ARG(int, total), Q_ARG(int, steps));
+  }
+  /// Runs as main does. False when the sequence did not end in time.
+  static bool RunToTheEnd(Launcher* launcher) {
+    QTimer guard;
+    bool ended = true;
+    QObject::connect(&guard, &QTimer::timeout, [&] {
+      ended = false;
+      QCoreApplication::exit(1);
+    });
+    guard.start(60000);
+    launcher->Run();
+    launcher->Start();
+    return QApplication::exec() == 0 && ended;
+  }
+
+  Home home;
+  test::LogCapture log;
+};
+
+TEST_F(LauncherTest, TakesCancelButtonAndResetFromItsDialog) {
+  Launcher launcher;
+  EXPECT_FALSE(Dialog()->autoReset());
+  EXPECT_EQ(Dialog()->findChild<QPushButton*>(), nullptr);
+  EXPECT_FALSE(Dialog()->isVisible());
+}
+
+TEST_F(LauncherTest, MakesAPercentageOfStepsTruncating) {
+  Launcher launcher;
+  UpdateProgress(&launcher, 100, 100);
+  EXPECT_EQ(Dialog()->value(), 100);
+  UpdateProgress(&launcher, 7, 1);
+  EXPECT_EQ(Dialog()->value(), 14);
+  UpdateProgress(&launcher, 3, 2);
+  EXPECT_EQ(Dialog()->value(), 66);
+}
+
+TEST_F(LauncherTest, SetsTheLabelAndShowsTheDialogOnRequest) {
+  Launcher launcher;
+  QMetaObject::invokeMethod(&launcher, "SetLabelText",
+                            Q_ARG(QString, QStringLiteral("another label")));
+  EXPECT_EQ(Dialog()->labelText(), "another label");
+  QMetaObject::invokeMethod(&launcher, "ShowMsgBox");
+  EXPECT_TRUE(Dialog()->isVisible());
+}
+
+TEST_F(LauncherTest, ListensToTheAdapterAsToItsWorker) {
+  Launcher launcher;
+  Notify_Adapter::GetInstance()->UpdateProgress(4, 1);
+  Notify_Adapter::GetInstance()->UpdateDialogText(QStringLiteral("from below"));
+  EXPECT_EQ(Dialog()->value(), 25);
+  EXPECT_EQ(Dialog()->labelText(), "from below");
+}
+
+TEST_F(LauncherTest, ShowsThreeEntriesAsThirdsAndStaysAtTheEndUntilItHides) {
+  Carry({Entry::Folder("Contents"), Entry::Folder("Contents/MacOS"), Client()});
+  Launcher launcher;
+  Watch watch(Dialog());
+  EXPECT_TRUE(RunToTheEnd(&launcher));
+  EXPECT_THAT(watch.events, ElementsAre("show", "33", "66", "100", "hide"));
+  EXPECT_EQ(Dialog()->labelText(), "Larkmoor Drive is ready.");
+}
+
+TEST_F(LauncherTest, NeverShowsTheDialogWhenNothingIsToBeDone) {
+  Install();
+  Launcher launcher;
+  Watch watch(Dialog());
+  auto* const worker = launcher.findChild<Worker*>();
+  EXPECT_EQ(worker, nullptr);  // owned by pointer: a child could not live on another thread
+  EXPECT_TRUE(RunToTheEnd(&launcher));
+  EXPECT_THAT(watch.events, ElementsAre("100"));
+  EXPECT_EQ(Dialog()->labelText(), "Larkmoor Drive is initializing...");
+  EXPECT_THAT(log.OwnLines(), Contains("[DEBUG] launcher(0): no need to upgrade"));
+}
+
+TEST_F(LauncherTest, LeavesBarAndLabelAloneAfterAFailureAndGoesOnToTheEnd) {
+  Carry({Client(), Entry::File("../climbs", "1")});
+  Launcher launcher;
+  Watch watch(Dialog());
+  EXPECT_TRUE(RunToTheEnd(&launcher));
+  EXPECT_THAT(watch.events, ElementsAre("show", "50", "100", "hide"));
+  EXPECT_EQ(Dialog()->labelText(), "Larkmoor Drive is initializing...");
+  std::vector<std::string> const lines = log.OwnLines();
+  auto const failed =
+      std::find(lines.begin(), lines.end(), "[ERROR] launcher(0): Failed to upgrade package");
+  ASSERT_NE(failed, lines.end());
+  EXPECT_THAT(std::vector<std::string>(failed + 1, lines.end()),
+              ElementsAre(HasSubstr("removing aged app folder"), "[DEBUG] launcher(0): done"));
+}
+
+TEST_F(LauncherTest, EndsProperlyWhenTheWorkerIsDoneBeforeTheLoopBegins) {
+  Install();
+  Launcher launcher;
+  launcher.Run();
+  launcher.Start();
+  auto const done = [this] {
+    auto const lines = log.OwnLines();
+    return std::find(lines.begin(), lines.end(), "[DEBUG] launcher(0): done") != lines.end();
+  };
+  while (!done()) QThread::yieldCurrentThread();
+  EXPECT_EQ(QApplication::exec(), 0);
+}
+
+TEST_F(LauncherTest, StartsTheSequenceOnce) {
+  Install();
+  Launcher launcher;
+  QSignalSpy starts(&launcher, SIGNAL(sigStart()));
+  EXPECT_TRUE(RunToTheEnd(&launcher));
+  EXPECT_EQ(starts.size(), 1);
+  auto const lines = log.OwnLines();
+  EXPECT_EQ(std::count(lines.begin(), lines.end(), "[DEBUG] launcher(0): running"), 1);
+}
+
+/// A user who does something to the dialog as soon as the first entry is in.
+class ImpatientUser : public LauncherTest {
+ protected:
+  void RunWith(std::function<void(QWidget*)> const& act) {
+    std::vector<Entry> entries;
+    for (int i = 0; i < 200; ++i) {
+      entries.push_back(Entry::File("Contents/" + std::to_string(i), std::string(1000, 'x')));
+    }
+    entries.push_back(Client());
+    Carry(entries);
+    Launcher launcher;
+    bool acted = false;
+    QObject::connect(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, &launcher,
+                     [&](int, int) {
+                       if (acted) return;
+                       acted = true;
+                       act(Dialog());
+                     });
+    EXPECT_TRUE(RunToTheEnd(&launcher));
+    EXPECT_TRUE(acted);
+    EXPECT_EQ(test::ReadTree(App() + "/Contents").size(), 202U);
+    EXPECT_EQ(log.OwnLines().back(), "[DEBUG] launcher(0): done");
+    EXPECT_THAT(log.OwnLines(), Contains(HasSubstr("user installation is ready")));
+  }
+};
+
+TEST_F(ImpatientUser, ChangesNothingWithTheEscapeKey) {
+  RunWith([](QWidget* dialog) {
+    ASSERT_TRUE(dialog->isVisible());
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible());
+  });
+}
+
+TEST_F(ImpatientUser, ChangesNothingByClosingTheDialog) {
+  RunWith([](QWidget* dialog) {
+    ASSERT_TRUE(dialog->isVisible());
+    EXPECT_TRUE(dialog->close());
+  });
+}
+
+TEST_F(ImpatientUser, ChangesNothingWithReturnSpaceOrAltF4) {
+  RunWith([](QWidget* dialog) {
+    for (Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+      QTest::keyClick(dialog, key);
+    }
+    QTest::keyClick(dialog, Qt::Key_F4, Qt::AltModifier);
+  });
+}
+
+}  // namespace
