@@ -1,4 +1,5 @@
-"""Feeds scripts/check-catalogues broken catalogues and looks for each finding."""
+"""Feeds scripts/check-catalogues broken catalogues and looks for each finding, and has
+scripts/update-catalogues follow a changed table."""
 
 import json
 import os
@@ -39,7 +40,7 @@ GERMAN = {
 }
 
 
-class CheckCatalogues(unittest.TestCase):
+class InAFolder(unittest.TestCase):
     def setUp(self):
         self.folder = tempfile.mkdtemp()
         self.addCleanup(shutil.rmtree, self.folder)
@@ -66,14 +67,23 @@ class CheckCatalogues(unittest.TestCase):
         with open(path, 'w', encoding='utf-8') as file:
             file.write(text.replace(old, new, 1))
 
-    def check(self, *names):
-        command = [sys.executable, os.path.join(ROOT, 'scripts', 'check-catalogues'),
-                   '--localisation', self.folder, *names]
+    def read(self, name):
+        with open(os.path.join(self.folder, name), encoding='utf-8') as file:
+            return file.read()
+
+    def run_script(self, script, *arguments):
+        command = [sys.executable, os.path.join(ROOT, 'scripts', script),
+                   '--localisation', self.folder, *arguments]
         run = subprocess.run(command, capture_output=True, encoding='utf-8', check=False,
                              env=dict(os.environ, PYTHONIOENCODING='utf-8'))
         self.assertEqual(run.stderr, '')
         return run.returncode, run.stdout
 
+    def check(self, *names):
+        return self.run_script('check-catalogues', *names)
+
+
+class CheckCatalogues(InAFolder):
     def assert_finds(self, fault, changes, name='deu', base=None):
         self.write_catalogue(name, changes, base)
         status, output = self.check(name)
@@ -278,6 +288,44 @@ class CheckCatalogues(unittest.TestCase):
         status, output = self.check('-h')
         self.assertEqual(status, 0)
         self.assertIn('usage: scripts/check-catalogues', output)
+
+
+class UpdateCatalogues(InAFolder):
+    def setUp(self):
+        super().setUp()
+        self.write('texts.qrc', '<RCC><qresource><file>enu.qm</file><file>deu.qm</file>'
+                                '</qresource></RCC>')
+        self.write_catalogue('deu')
+        self.run_script('update-catalogues')
+
+    def test_writes_the_english_catalogue(self):
+        self.assertEqual(self.check()[0], 0)
+
+    def test_changes_nothing_that_is_up_to_date(self):
+        before = self.read('catalogues/deu.ts')
+        self.assertEqual(self.run_script('update-catalogues'),
+                         (0, 'enu: 9 texts, 0 of them to be translated\n'
+                             'deu: 9 texts, 0 of them to be translated\n'))
+        self.assertEqual(self.read('catalogues/deu.ts'), before)
+
+    def test_leaves_a_new_text_to_the_translator_and_keeps_the_others(self):
+        self.write('str-table-rows.inc', ROWS + 'ROW(10, "new", "Brand new")\n')
+        _, output = self.run_script('update-catalogues')
+        self.assertIn('deu: 10 texts, 1 of them to be translated', output)
+        _, findings = self.check()
+        self.assertIn('deu: row 10 new: empty', findings)
+        self.assertIn(' 2 findings', findings)
+
+    def test_drops_a_text_that_has_left_the_table_and_says_what_it_read(self):
+        self.write('str-table-rows.inc', ROWS.replace('Open folder', 'Show folder'))
+        _, output = self.run_script('update-catalogues')
+        self.assertIn('deu: dropped "Open folder", which read "Ordner öffnen"', output)
+        self.assertNotIn('Ordner', self.read('catalogues/deu.ts'))
+
+    def test_starts_a_language_that_has_no_catalogue(self):
+        os.remove(os.path.join(self.folder, 'catalogues', 'deu.ts'))
+        _, output = self.run_script('update-catalogues')
+        self.assertIn('deu: 9 texts, 9 of them to be translated', output)
 
 
 if __name__ == '__main__':
