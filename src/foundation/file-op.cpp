@@ -496,9 +496,10 @@ int FSMKDirP(ustring const& path, char** stop, bool replace, unsigned short mode
   if (copy == nullptr) return -1;
 
   bool const has_own_mode = mode != kModeOfUmask;
-  mode_t const old_mask = has_own_mode ? umask(0) : 0;
+  mode_t const old_mask = has_own_mode ? umask(0) : mode_t{0};
   char* end = nullptr;
-  int const result = MakePrefixes(copy.get(), end, replace, has_own_mode ? mode_t{mode} : 0777);
+  int const result =
+      MakePrefixes(copy.get(), end, replace, has_own_mode ? mode_t{mode} : mode_t{0777});
   if (stop != nullptr) *stop = const_cast<char*>(path.c_str()) + (end - copy.get());
   if (has_own_mode) umask(old_mask);
   return result;

@@ -1,0 +1,254 @@
+#include "platform/core-services.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstring>
+#include <filesystem>
+#include <string>
+
+#include "support/files.h"
+#include "support/unprivileged.h"
+
+namespace fs = std::filesystem;
+using test::TempDir;
+using test::WriteFile;
+
+namespace {
+
+enum class Leaf { kFollowed, kItself };
+
+/// The path by both calls in turn, or "status N".
+std::string VolumePath(std::string const& path, Leaf leaf) {
+  auto const* const text = reinterpret_cast<UInt8 const*>(path.c_str());
+  FSRef ref;
+  OSStatus status =
+      leaf == Leaf::kFollowed
+          ? FSPathMakeRef(text, &ref, nullptr)
+          : FSPathMakeRefWithOptions(text, kFSPathMakeRefDoNotFollowLeafSymlink, &ref, nullptr);
+  UInt8 buffer[4096] = {};
+  if (status == noErr) status = FSRefMakePath(&ref, buffer, sizeof(buffer));
+  if (status != noErr) return "status " + std::to_string(status);
+  return reinterpret_cast<char const*>(buffer);
+}
+
+std::string Followed(std::string const& path) { return VolumePath(path, Leaf::kFollowed); }
+std::string Itself(std::string const& path) { return VolumePath(path, Leaf::kItself); }
+
+/// A folder with real/file, real/sub, link -> real, leaf -> real/file and dangling -> nothing.
+struct Places : TempDir {
+  Places() {
+    WriteFile(*this / "real/file", "");
+    fs::create_directory(*this / "real/sub");
+    fs::create_symlink("real", *this / "link");
+    fs::create_symlink("real/file", *this / "leaf");
+    fs::create_symlink("nothing", *this / "dangling");
+  }
+};
+
+class WorkingFolder {
+ public:
+  explicit WorkingFolder(fs::path const& path) : former_(fs::current_path()) {
+    fs::current_path(path);
+  }
+  ~WorkingFolder() { fs::current_path(former_); }
+  WorkingFolder(WorkingFolder const&) = delete;
+  WorkingFolder& operator=(WorkingFolder const&) = delete;
+
+ private:
+  fs::path const former_;
+};
+
+}  // namespace
+
+TEST(VolumePath, OfAResolvedPathIsThePathItself) {
+  Places const places;
+  for (char const* const name : {"real", "real/file", "real/sub"}) {
+    EXPECT_EQ(Followed(places / name), places / name);
+    EXPECT_EQ(Itself(places / name), places / name);
+  }
+}
+
+TEST(VolumePath, HasNoLinksInTheFoldersAbove) {
+  Places const places;
+  EXPECT_EQ(Followed(places / "link/file"), places / "real/file");
+  EXPECT_EQ(Itself(places / "link/file"), places / "real/file");
+  EXPECT_EQ(Itself(places / "link/sub"), places / "real/sub");
+}
+
+TEST(VolumePath, FollowsALastLinkOnlyWhenAsked) {
+  Places const places;
+  EXPECT_EQ(Followed(places / "leaf"), places / "real/file");
+  EXPECT_EQ(Itself(places / "leaf"), places / "leaf");
+  EXPECT_EQ(Followed(places / "link"), places / "real");
+  EXPECT_EQ(Itself(places / "link"), places / "link");
+}
+
+TEST(VolumePath, OfALinkBelowALinkIsInTheRealFolder) {
+  Places const places;
+  fs::create_symlink("file", places / "real/inner");
+  EXPECT_EQ(Itself(places / "link/inner"), places / "real/inner");
+  EXPECT_EQ(Followed(places / "link/inner"), places / "real/file");
+}
+
+TEST(VolumePath, OfADanglingLinkExistsUnlessFollowed) {
+  Places const places;
+  EXPECT_EQ(Itself(places / "dangling"), places / "dangling");
+  EXPECT_EQ(Followed(places / "dangling"), "status -43");
+}
+
+TEST(VolumePath, OfAMissingObjectIsNone) {
+  Places const places;
+  for (char const* const name :
+       {"none", "none/file", "real/file/below", "link/none", "dangling/a"}) {
+    EXPECT_EQ(Itself(places / name), "status -43") << name;
+    EXPECT_EQ(Followed(places / name), "status -43") << name;
+  }
+  EXPECT_EQ(Itself(""), "status -43");
+  EXPECT_EQ(Followed(""), "status -43");
+}
+
+TEST(VolumePath, DropsDotsAndNeedlessSlashes) {
+  Places const places;
+  for (auto const& look : {Followed, Itself}) {
+    EXPECT_EQ(look(places / "real/./file"), places / "real/file");
+    EXPECT_EQ(look(places / "real/sub/../file"), places / "real/file");
+    EXPECT_EQ(look(places / "real//file"), places / "real/file");
+    EXPECT_EQ(look("/" + places / "real/file"), places / "real/file");
+    EXPECT_EQ(look(places / "real/sub/."), places / "real/sub");
+    EXPECT_EQ(look(places / "real/sub/.."), places / "real");
+  }
+}
+
+TEST(VolumePath, KeepsNamesThatOnlyBeginWithDots) {
+  Places const places;
+  for (char const* const name : {".hidden", "..two", "...", "real/.a"}) {
+    WriteFile(places / name, "");
+    EXPECT_EQ(Itself(places / name), places / name);
+    EXPECT_EQ(Followed(places / name), places / name);
+  }
+}
+
+TEST(VolumePath, TakesATrailingSlashForAFolder) {
+  Places const places;
+  EXPECT_EQ(Itself(places / "real/"), places / "real");
+  EXPECT_EQ(Followed(places / "real//"), places / "real");
+  // As lstat does: what the link leads to is meant.
+  EXPECT_EQ(Itself(places / "link/"), places / "real");
+  EXPECT_EQ(Itself(places / "real/file/"), "status -43");
+}
+
+TEST(VolumePath, OfTheRootAndOfWhatIsInIt) {
+  for (auto const& look : {Followed, Itself}) {
+    EXPECT_EQ(look("/"), "/");
+    EXPECT_EQ(look("//"), "/");
+    EXPECT_EQ(look("/.."), "/");
+    EXPECT_EQ(look("/dev"), "/dev");
+    EXPECT_EQ(look("/dev/../dev"), "/dev");
+  }
+}
+
+TEST(VolumePath, OfARelativePathIsAbsolute) {
+  Places const places;
+  WorkingFolder const here(places.path());
+  EXPECT_EQ(Itself("leaf"), places / "leaf");
+  EXPECT_EQ(Followed("leaf"), places / "real/file");
+  EXPECT_EQ(Itself("./link/file"), places / "real/file");
+  EXPECT_EQ(Itself("."), places.path());
+  EXPECT_EQ(Itself(".."), places.path().parent_path());
+}
+
+TEST(VolumePath, ChangesWithALinkAboveFromCallToCall) {
+  Places const places;
+  WriteFile(places / "other/file", "");
+  EXPECT_EQ(Itself(places / "link/file"), places / "real/file");
+  fs::remove(places / "link");
+  fs::create_symlink("other", places / "link");
+  EXPECT_EQ(Itself(places / "link/file"), places / "other/file");
+  fs::rename(places / "real", places / "moved");
+  fs::create_symlink("moved", places / "real");
+  EXPECT_EQ(Itself(places / "real/file"), places / "moved/file");
+}
+
+TEST(VolumePath, TellsWhetherTheObjectIsAFolder) {
+  Places const places;
+  auto const is_folder = [&places](char const* name, OptionBits options) {
+    FSRef ref;
+    Boolean folder = 7;
+    std::string const path = places / name;
+    EXPECT_EQ(FSPathMakeRefWithOptions(reinterpret_cast<UInt8 const*>(path.c_str()), options, &ref,
+                                       &folder),
+              noErr);
+    return folder;
+  };
+  EXPECT_EQ(is_folder("real", 0), 1);
+  EXPECT_EQ(is_folder("real/file", 0), 0);
+  EXPECT_EQ(is_folder("link", 0), 1);
+  EXPECT_EQ(is_folder("link", kFSPathMakeRefDoNotFollowLeafSymlink), 0);
+}
+
+TEST(VolumePath, DoesNotFitIntoABufferThatIsTooSmall) {
+  Places const places;
+  std::string const path = places / "real/file";
+  FSRef ref;
+  ASSERT_EQ(FSPathMakeRef(reinterpret_cast<UInt8 const*>(path.c_str()), &ref, nullptr), noErr);
+  std::string buffer(path.size() + 2, '#');
+  auto* const bytes = reinterpret_cast<UInt8*>(buffer.data());
+  EXPECT_NE(FSRefMakePath(&ref, bytes, static_cast<UInt32>(path.size())), noErr);
+  EXPECT_NE(FSRefMakePath(&ref, bytes, 0), noErr);
+  EXPECT_EQ(buffer.back(), '#');
+  EXPECT_EQ(FSRefMakePath(&ref, bytes, static_cast<UInt32>(path.size() + 1)), noErr);
+  EXPECT_EQ(buffer.c_str(), path);
+  EXPECT_EQ(buffer.back(), '#');
+}
+
+#ifndef __APPLE__
+
+TEST(VolumePath, ThatIsTooLongIsRefused) {
+  Places const places;
+  EXPECT_EQ(Itself("/" + std::string(4096, 'x')), "status -2110");
+  EXPECT_EQ(Itself(places / std::string(300, 'x')), "status -2110");
+
+  // The text fits, its resolution doesn't.
+  std::string deep = places / "real";
+  std::string const part = "/" + std::string(200, 'd');
+  WorkingFolder const here(places / "real");
+  std::string const link = places / "deep";
+  while (deep.size() + part.size() < 4095) {
+    fs::create_directory(part.substr(1));
+    fs::current_path(part.substr(1));
+    deep += part;
+  }
+  fs::create_symlink(deep, link);
+  fs::create_directory(std::string(250, 'e'));
+  EXPECT_EQ(Itself(link), link);
+  EXPECT_EQ(Itself(link + "/" + std::string(250, 'e')), "status -2110");
+}
+
+TEST(VolumePath, FailsWhereTheFolderMayNotBeSearched) {
+  Places const places;
+  test::GiveAway(places.path().c_str());
+  test::RunUnprivileged([&places] {
+    fs::permissions(places.path(), fs::perms(0600));
+    EXPECT_EQ(Itself(places / "real"), "status -36");
+    EXPECT_EQ(Followed(places / "real"), "status -36");
+    fs::permissions(places.path(), fs::perms(0700));
+  });
+}
+
+TEST(VolumePath, IsFoundWithoutADescriptorToSpare) {
+  Places const places;
+  rlimit former;
+  getrlimit(RLIMIT_NOFILE, &former);
+  rlimit const none = {0, former.rlim_max};
+  setrlimit(RLIMIT_NOFILE, &none);
+  std::string const plain = Itself(places / "real/file");
+  std::string const linked = Itself(places / "link/file");
+  setrlimit(RLIMIT_NOFILE, &former);
+  EXPECT_EQ(plain, places / "real/file");
+  EXPECT_EQ(linked, places / "real/file");
+}
+
+#endif
