@@ -21,10 +21,10 @@ bool IsPrivateFolder(QByteArray const& path) {
 /// first, since taking the lock flushes it to its medium.
 QByteArray LockFolder() {
   QByteArray const uid = QByteArray::number(geteuid());
-  QByteArray const runtime = "/run/user/" + uid;
+  QByteArray runtime = "/run/user/" + uid;
   if (IsPrivateFolder(runtime)) return runtime;
   for (char const* shared : {"/dev/shm", "/tmp"}) {
-    QByteArray const own = QByteArray(shared) + "/larkmoor-launcher-" + uid;
+    QByteArray own = QByteArray(shared) + "/larkmoor-launcher-" + uid;
     if (mkdir(own.constData(), S_IRWXU) != 0 && errno != EEXIST) continue;
     if (IsPrivateFolder(own)) return own;
   }

@@ -38,7 +38,7 @@ void ReadVersions(ustring const& path, VersionField const (&fields)[N]) {
 
 /// The name under which the installed tree waits while a new one is unpacked.
 ustring GetAppBackupDir(ustring const& path, int index) {
-  ustring const first = path + "_tmp";
+  ustring first = path + "_tmp";
   if (index == 0) return first;
   char postfix[8] = "";
   if (snprintf(postfix, sizeof postfix, "%d", index) < 0) {
