@@ -154,8 +154,6 @@ TEST_F(Install, InstallsNamesOutsideAsciiInTheCLocale) {
   std::vector<Entry> entries = Sandbox::Client(100);
   std::string const name = "Contents/Resources/\xE6\x97\xA5\xE6\x9C\xAC e\xCC\x81";
   entries.insert(entries.begin(), Entry::File(name, "1"));
-  // An archive that another program made holds the name's raw bytes.
-  fs::create_directories(box.folder() / "raw/Contents/Resources");
   box.CarryVersion(100);
   box.CarryPackage(MakeArchive(entries, "gnutar"));
   test::Process::Options start = box.Start();
@@ -380,8 +378,17 @@ TEST_F(RunningClient, IsNotLookedForWithoutAPidFile) {
                                   "' does not exist, no need to terminate"));
 }
 
-TEST_F(RunningClient, IsLeftAloneWhenThePidFileIsMalformedOrUnreadable) {
+TEST_F(RunningClient, IsLeftAloneWhenThePidFileIsMalformed) {
   test::WriteFile(PidFile(), "[pid]\n");
+  EXPECT_EQ(box.Launch().status, 0);
+  ExpectUpgraded();
+  EXPECT_THAT(box.Log(), Contains("[NOTE] mac/mac-service(0): Failed to read pid file '" +
+                                  PidFile() + "', not exist ?"));
+}
+
+TEST_F(RunningClient, IsLeftAloneWhenThePidFileCannotBeRead) {
+  // It exists, yet nobody can open it, root included.
+  fs::create_symlink("nowhere", PidFile());
   EXPECT_EQ(box.Launch().status, 0);
   ExpectUpgraded();
   EXPECT_THAT(box.Log(), Contains("[NOTE] mac/mac-service(0): Failed to read pid file '" +
