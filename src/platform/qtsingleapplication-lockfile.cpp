@@ -10,6 +10,9 @@
 
 namespace {
 
+/// How long a start may take, at the most, from making the lock file to locking it.
+constexpr int kUnlockedMs = 10000;
+
 bool IsPrivateFolder(QByteArray const& path) {
   struct stat info {};
   return lstat(path.constData(), &info) == 0 && S_ISDIR(info.st_mode) && info.st_uid == geteuid() &&
@@ -51,8 +54,10 @@ bool QtSingleApplication::isRunning() {
     QByteArray const folder = LockFolder();
     if (folder.isEmpty()) return false;
     lock_ = std::make_unique<QLockFile>(QString::fromUtf8(folder) + LockName());
-    // A holder that lives is a holder, however long its upgrade takes.
-    lock_->setStaleLockTime(0);
+    // A living holder's file is locked and stays its own, however old it gets. The age matters
+    // where the file can't tell that its holder is gone: it was killed before it had written its
+    // number, or another process has that number now.
+    lock_->setStaleLockTime(kUnlockedMs);
   }
   return !lock_->isLocked() && !lock_->tryLock(0) && lock_->error() == QLockFile::LockFailedError;
 }

@@ -6,11 +6,14 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <chrono>
 #include <memory>
 #include <vector>
 
 #include "support/files.h"
 #include "support/process.h"
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -64,6 +67,14 @@ class Asker {
     pid_ = -1;
   }
   pid_t pid() const { return pid_; }
+  /// The lock that it holds open.
+  fs::path Lock() const {
+    for (auto const& entry : fs::directory_iterator("/proc/" + std::to_string(pid_) + "/fd")) {
+      fs::path const file = fs::read_symlink(entry.path());
+      if (file.extension() == ".lock") return file;
+    }
+    throw std::runtime_error("no lock is open");
+  }
 
  private:
   pid_t pid_ = -1;
@@ -74,7 +85,10 @@ class Asker {
 class SingleInstance : public testing::Test {
  protected:
   SingleInstance() : program(folder / "guard-holder") {
-    std::filesystem::copy_file(LARKMOOR_TEST_GUARD_HOLDER, program);
+    fs::copy_file(LARKMOOR_TEST_GUARD_HOLDER, program);
+  }
+  static void MakeOld(fs::path const& file) {
+    fs::last_write_time(file, fs::file_time_type::clock::now() - std::chrono::hours(1));
   }
   test::TempDir folder;
   std::string program;
@@ -111,6 +125,32 @@ TEST_F(SingleInstance, IsHeldByAStoppedProcess) {
   EXPECT_EQ(second.Answer(), "second");
 }
 
+TEST_F(SingleInstance, IsFreeAgainWhenItsHolderWasKilledBeforeItSignedTheLock) {
+  fs::path lock;
+  {
+    Asker holder(program);
+    ASSERT_EQ(holder.Answer(), "first");
+    lock = holder.Lock();
+  }
+  fs::resize_file(lock, 0);
+  MakeOld(lock);
+  Asker next(program);
+  EXPECT_EQ(next.Answer(), "first");
+  next.Release();
+}
+
+TEST_F(SingleInstance, IsHeldHoweverOldTheLockIsAndWhateverItSays) {
+  Asker first(program);
+  ASSERT_EQ(first.Answer(), "first");
+  MakeOld(first.Lock());
+  Asker second(program);
+  EXPECT_EQ(second.Answer(), "second");
+  fs::resize_file(first.Lock(), 0);
+  MakeOld(first.Lock());
+  Asker third(program);
+  EXPECT_EQ(third.Answer(), "second");
+}
+
 TEST_F(SingleInstance, LetsOneOfFiftySimultaneousStartsThrough) {
   std::vector<std::unique_ptr<Asker>> askers;
   for (int i = 0; i < 50; ++i) askers.push_back(std::make_unique<Asker>(program));
@@ -134,7 +174,7 @@ TEST_F(SingleInstance, LetsOneOfFiftyThroughOverTheLockOfAKilledHolder) {
 
 TEST_F(SingleInstance, KnowsExecutablesApart) {
   std::string const other = folder / "other";
-  std::filesystem::copy_file(program, other);
+  fs::copy_file(program, other);
   Asker first(program);
   ASSERT_EQ(first.Answer(), "first");
   Asker second(other);
