@@ -28,13 +28,17 @@ class SpawnPlan {
   SpawnPlan(SpawnPlan const&) = delete;
   SpawnPlan& operator=(SpawnPlan const&) = delete;
 
-  /// A session of its own, no signal blocked, nothing open but /dev/null, and "/" as the working
-  /// folder, so that the program holds on to nothing of whoever started us.
+  /// A session of its own, no signal blocked or ignored, nothing open but /dev/null, and "/" as the
+  /// working folder, so that the program holds on to nothing of whoever started us.
   bool Detach() {
     sigset_t none;
+    sigset_t all;
     sigemptyset(&none);
-    if (posix_spawnattr_setsigmask(&attributes_, &none) != 0) return false;
-    if (posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK) != 0) {
+    sigfillset(&all);
+    constexpr short kFlags = POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF;
+    if (posix_spawnattr_setsigmask(&attributes_, &none) != 0 ||
+        posix_spawnattr_setsigdefault(&attributes_, &all) != 0 ||
+        posix_spawnattr_setflags(&attributes_, kFlags) != 0) {
       return false;
     }
     for (int fd : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
+#include <signal.h>
 #include <sys/prctl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -103,6 +104,18 @@ TEST_F(Bundle, HandsNoDescriptorOfOursToItsProgram) {
   EXPECT_EQ(open_files.find(folder.path().string() + "\n"), std::string::npos) << open_files;
   EXPECT_EQ(open_files.find("pipe:"), std::string::npos) << open_files;
   EXPECT_THAT(open_files, testing::HasSubstr("/dev/null"));
+  wait(nullptr);
+}
+
+TEST_F(Bundle, StartsItsProgramHeedingTheSignalsThatWeIgnore) {
+  auto* const former = signal(SIGTERM, SIG_IGN);
+  InstallClient("sed -n 's/^SigIgn:.//p' /proc/$$/status > '" + (folder / "part") + "'; mv '" +
+                (folder / "part") + "' '" + (folder / "ignored") + "'\n");
+  bool const opened = platform::OpenBundle(App());
+  signal(SIGTERM, former);
+  ASSERT_TRUE(opened);
+  // One bit for each signal; those behind the standard ones are the C library's own.
+  EXPECT_EQ(std::stoull(Await("ignored"), nullptr, 16) & 0x7FFFFFFF, 0U);
   wait(nullptr);
 }
 
