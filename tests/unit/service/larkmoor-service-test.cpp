@@ -164,6 +164,13 @@ TEST_F(VersionLoading, LeavesTheFieldsOfAbsentKeysAsTheyWere) {
               ElementsAre("[INFO] larkmoor-service(0): source_version = (, kept, 100, )"));
 }
 
+TEST_F(VersionLoading, LeavesTheOtherFieldsEmptyWhenThereIsOnlyABuild) {
+  WriteFile(UserInfo(), "[Version]\nbuild_version=100\n");
+  service.LoadSourceVersion();
+  EXPECT_THAT(log.OwnLines(),
+              ElementsAre("[INFO] larkmoor-service(0): source_version = (, , 100, )"));
+}
+
 TEST_F(VersionLoading, TakesAnEmptyValueAsItStands) {
   WriteFile(UserInfo(), "[Version]\nbuild_version=\n");
   service.source_build_version = "old";
@@ -344,6 +351,16 @@ TEST_F(PrepareUserEnv, LeavesBackupsAboveItsOwnNumberAlone) {
   service.unpack = [] { return 0; };
   EXPECT_EQ(service.PrepareUserEnv(), 0);
   EXPECT_TRUE(fs::exists(Backup(3) + "/stale"));
+}
+
+TEST_F(PrepareUserEnv, PutsBackThePartialTreeOfACrashedRunAndLeavesTheOldOneAside) {
+  WriteFile(App() + "/partial", "1");
+  WriteFile(Backup(0) + "/old", "1");
+  test::Tree const before = ReadTree(UserRoot());
+  EXPECT_EQ(service.PrepareUserEnv(), -1);
+  EXPECT_EQ(ReadTree(UserRoot()), before);
+  EXPECT_EQ(log.OwnLines().front(), RefusedBackup(0));
+  EXPECT_EQ(log.OwnLines().back(), kRolledBack);
 }
 
 TEST_F(PrepareUserEnv, CountsAnyResultOfUnpackingButZeroAsAFailure) {
