@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QMetaMethod>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -104,6 +105,51 @@ class LauncherTest : public testing::Test {
   Home home;
   test::LogCapture log;
 };
+
+/// What a class itself declares to the meta-object system, in its order.
+std::vector<std::string> Members(QMetaObject const& meta) {
+  std::vector<std::string> members;
+  for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+    QMetaMethod const method = meta.method(i);
+    members.push_back((method.methodType() == QMetaMethod::Signal ? "signal " : "slot ") +
+                      method.methodSignature().toStdString());
+    bool const is_public = method.access() == QMetaMethod::Public;
+    EXPECT_EQ(is_public, method.methodType() == QMetaMethod::Signal) << members.back();
+  }
+  return members;
+}
+
+TEST(MetaObjects, DeclarePublicSignalsAndPrivateSlotsInTheirOrder) {
+  EXPECT_THAT(Members(Launcher::staticMetaObject),
+              ElementsAre("signal sigStart()", "slot LaunchDone()", "slot UpdateProgress(int,int)",
+                          "slot SetLabelText(QString)", "slot ShowMsgBox()"));
+  EXPECT_THAT(Members(Worker::staticMetaObject),
+              ElementsAre("signal sigServiceDone()", "signal sigShowMsg()",
+                          "signal sigUpdateProgress(int,int)", "signal sigSetLabelText(QString)",
+                          "slot HandleServicce()"));
+  EXPECT_THAT(Members(HandlerThread::staticMetaObject), testing::IsEmpty());
+  EXPECT_THAT(Members(ProcessingProgressDialog::staticMetaObject), testing::IsEmpty());
+  EXPECT_THAT(
+      Members(Notify_Adapter::staticMetaObject),
+      ElementsAre("signal sigUpdateProgress(int,int)", "signal sigUpdateDialogText(QString)"));
+}
+
+TEST_F(LauncherTest, RunsTheUpgradeOnTheHandlerThreadAndItsOwnSlotsOnTheMainThread) {
+  Carry({Client()});
+  Launcher launcher;
+  QThread* emitting = nullptr;
+  QObject context;
+  QObject::connect(
+      Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, &context,
+      [&](int, int) { emitting = QThread::currentThread(); }, Qt::DirectConnection);
+  QThread* painting = nullptr;
+  QObject::connect(
+      Dialog()->findChild<QProgressBar*>(), &QProgressBar::valueChanged, &context,
+      [&](int) { painting = QThread::currentThread(); }, Qt::DirectConnection);
+  EXPECT_TRUE(RunToTheEnd(&launcher));
+  EXPECT_NE(qobject_cast<HandlerThread*>(emitting), nullptr);
+  EXPECT_EQ(painting, QCoreApplication::instance()->thread());
+}
 
 TEST_F(LauncherTest, TakesCancelButtonAndResetFromItsDialog) {
   Launcher launcher;
