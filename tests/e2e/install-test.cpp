@@ -59,6 +59,14 @@ TEST_F(Install, LeavesTheInstalledTreeAloneOnAPlainStart) {
   EXPECT_THAT(box.AwaitStarts(1), ElementsAre("100"));
 }
 
+TEST_F(Install, LeavesTheBackupOfACrashedRunAloneOnAPlainStart) {
+  box.Carry(100);
+  box.Install(100);
+  test::WriteFile(box.App() + "_tmp/Contents/old", "1");
+  EXPECT_EQ(box.Launch().status, 0);
+  EXPECT_TRUE(fs::exists(box.App() + "_tmp/Contents/old"));
+}
+
 TEST_F(Install, NeverDowngrades) {
   box.Carry(99);
   box.Install(100);
@@ -109,6 +117,18 @@ TEST_F(Install, RunsFromABundleOfAnyNameAndIgnoresArguments) {
   for (char const* extra : {"--version", "install", "-x"}) start.arguments.emplace_back(extra);
   EXPECT_EQ(test::Run(start).status, 0);
   EXPECT_EQ(ReadTree(box.App()), ClientTree(100));
+}
+
+TEST_F(Install, RunsInEnglishWhenTheCataloguesAreMissing) {
+  Sandbox without(LARKMOOR_TEST_LAUNCHER_WITHOUT_TEXTS);
+  without.Carry(100);
+  test::Process::Options start = without.Start();
+  start.environment["LC_ALL"] = "de_DE.UTF-8";
+  test::Outcome const run = test::Run(start);
+  EXPECT_EQ(run.status, 0);
+  EXPECT_THAT(run.err, HasSubstr("qPrintable(qstrDef)=[enu"));
+  EXPECT_THAT(run.err, Not(HasSubstr("qPrintable(qstrLangFileName)")));
+  EXPECT_EQ(ReadTree(without.App()), ClientTree(100));
 }
 
 TEST_F(Install, TakesThePluginPathFromABareName) {

@@ -40,6 +40,19 @@ TEST_F(Instances, ASecondStartEndsAtOnceAndLeavesOneLine) {
   EXPECT_THAT(box.AwaitStarts(1), testing::ElementsAre("100"));
 }
 
+TEST_F(Instances, ASecondStartLeavesNothingAtTheFirstThresholds) {
+  fs::remove(box.Bundle() + "/log/launcher.debug");
+  test::FifoPackage package(box);
+  test::Process first(box.Start());
+  package.FeedUntilHalfWritten(first.pid());
+  test::Outcome const second = test::Run(box.Start());
+  EXPECT_EQ(second.status, 0);
+  EXPECT_EQ(second.err.find("[DEBUG] main"), std::string::npos);
+  EXPECT_EQ(box.RawLog(), "");
+  package.FeedTheRest();
+  EXPECT_EQ(first.Wait().status, 0);
+}
+
 TEST_F(Instances, OneOfFiftySimultaneousStartsInstalls) {
   test::FifoPackage package(box);
   std::vector<std::unique_ptr<test::Process>> starts;
