@@ -98,9 +98,10 @@ TEST_F(Bundle, HandsNoDescriptorOfOursToItsProgram) {
   int const leaked = open(".", O_RDONLY);  // without close-on-exec, as a careless library would
   InstallClient("cd /proc/$$/fd; for f in *; do readlink $f; done > '" + (folder / "part") +
                 "'; mv '" + (folder / "part") + "' '" + (folder / "open") + "'\n");
-  ASSERT_TRUE(platform::OpenBundle(App()));
-  std::string const open_files = Await("open");
+  bool const opened = platform::OpenBundle(App());
   close(leaked);
+  ASSERT_TRUE(opened);
+  std::string const open_files = Await("open");
   EXPECT_EQ(open_files.find(folder.path().string() + "\n"), std::string::npos) << open_files;
   EXPECT_EQ(open_files.find("pipe:"), std::string::npos) << open_files;
   EXPECT_THAT(open_files, testing::HasSubstr("/dev/null"));
