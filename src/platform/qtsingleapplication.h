@@ -20,8 +20,9 @@ class QtSingleApplication : public QApplication {
   ~QtSingleApplication() override;
 
   /// False in the one process that holds the guard, which is the first that asked, until it ends by
-  /// whatever cause; true in all others. Doesn't wait. Where no folder for the lock can be had, the
-  /// answer is false: two launchers at once are less likely than a user without any.
+  /// whatever cause; true in all others. Doesn't wait. Where no lock can be had, for want of a folder
+  /// or of space, the answer is false: two launchers at once are less likely than a user without
+  /// any. A holder that was killed within its first moments may count as one for ten seconds.
   bool isRunning();
 
  private:

@@ -147,6 +147,23 @@ TEST_F(WholeLog, OfARunWithoutLevelFileHoldsNothing) {
   EXPECT_EQ(box.RawLog(), "");
 }
 
+TEST_F(WholeLog, KeepsFortyNineOldFilesBesideTheLiveOne) {
+  box.Carry(200);
+  box.Install(100);
+  // Each object that is removed leaves its path twice: enough of them fill a file.
+  for (int i = 0; i < 2500; ++i) {
+    test::WriteFile(box.App() + "/Contents/" + std::string(200, 'n') + std::to_string(i), "");
+  }
+  test::WriteFile(box.LogFile() + "_47", "47");
+  test::WriteFile(box.LogFile() + "_48", "48");
+
+  EXPECT_EQ(box.Launch().status, 0);
+
+  EXPECT_TRUE(fs::exists(box.LogFile() + "_0"));
+  EXPECT_EQ(test::ReadFile(box.LogFile() + "_48"), "47");
+  EXPECT_FALSE(fs::exists(box.LogFile() + "_49"));
+}
+
 TEST_F(WholeLog, BeginsEachRecordWithAStamp) {
   box.Carry(100);
   box.Launch();
