@@ -1,0 +1,211 @@
+// Kills the launcher at every system call that changes the disk, in turn.
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <algorithm>
+#include <random>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "faults/sweep.h"
+
+namespace {
+
+using test::Beginning;
+using test::Injection;
+using test::SweepSandbox;
+using test::TracedRun;
+
+struct Scenario {
+  char const* name;
+  Beginning beginning;
+  bool is_sound;
+  std::set<std::string> states;  ///< those that a kill may leave
+};
+
+Scenario const kScenarios[] = {
+    {"first installation",
+     Beginning::kNothing,
+     true,
+     {"nothing installed", "extracting, first installation", "stable, new tree"}},
+    {"upgrade",
+     Beginning::kFormer,
+     true,
+     {"stable, old tree", "moved aside", "extracting", "committing", "stable, new tree"}},
+    {"upgrade over a stale backup",
+     Beginning::kFormerAndStaleBackup,
+     true,
+     {"stable, old tree beside stale backups", "moved aside", "extracting", "committing",
+      "stable, new tree"}},
+    {"rollback", Beginning::kFormer, false, {"stable, old tree", "moved aside", "extracting"}},
+    {"rollback over a stale backup",
+     Beginning::kFormerAndStaleBackup,
+     false,
+     {"stable, old tree beside stale backups", "moved aside", "extracting"}},
+};
+
+struct Point {
+  Scenario const* scenario;
+  unsigned call;
+  bool after;
+};
+
+Injection KillAt(unsigned call, bool after) {
+  Injection injection;
+  injection.action = after ? Injection::Action::kKillAfter : Injection::Action::kKillBefore;
+  injection.at = call;
+  injection.changes_only = true;
+  return injection;
+}
+
+Injection OnlyCount() {
+  Injection injection;
+  injection.changes_only = true;
+  return injection;
+}
+
+std::string Describe(Point const& point, TracedRun const& run) {
+  std::ostringstream text;
+  text << point.scenario->name << ", killed " << (point.after ? "after" : "before") << " call "
+       << point.call << ", " << run.hit.name << " of " << run.hit.path;
+  return text.str();
+}
+
+class CrashSweep : public testing::Test {
+ protected:
+  void SetUp() override {
+    std::string reason;
+    if (!test::CanTrace(reason)) GTEST_SKIP() << reason;
+  }
+
+  std::string const& PackageOf(Scenario const& scenario) const {
+    return scenario.is_sound ? material_.sound : material_.damaged;
+  }
+
+  /// Each call of a run that nobody disturbs, and after them one more that must not be there.
+  void CollectPoints(Scenario const& scenario) {
+    SweepSandbox box(material_);
+    box.Begin(scenario.beginning);
+    TracedRun const run = box.Launch(PackageOf(scenario), OnlyCount());
+    ASSERT_EQ(run.outcome.status, 0);
+    ASSERT_EQ(box.HoldsCarried(), scenario.is_sound) << box.State();
+    auto const calls = static_cast<unsigned>(run.calls.size());
+    for (unsigned call = 1; call <= calls; ++call) {
+      for (bool after : {false, true}) points_.push_back({&scenario, call, after});
+    }
+    box.Begin(scenario.beginning);
+    EXPECT_EQ(box.Launch(PackageOf(scenario), KillAt(calls + 1, false)).hits, 0U);
+  }
+
+  /// Starts the launcher and lets it be killed; false when it wasn't, which fails the test.
+  bool Kill(SweepSandbox& box, std::string const& package, Point const& point, std::string& what) {
+    TracedRun const run = box.Launch(package, KillAt(point.call, point.after));
+    what += (what.empty() ? "" : "; then ") + Describe(point, run);
+    bool const killed = run.hits == 1 && run.outcome.signal == SIGKILL;
+    EXPECT_TRUE(killed) << what << ": ended with " << run.outcome.status;
+    return killed;
+  }
+
+  /// One start with a sound package. Returns how many changing calls it made.
+  unsigned ExpectMended(SweepSandbox& box, std::string const& what) {
+    size_t const starts = box.Starts();
+    TracedRun const run = box.Launch(material_.sound, OnlyCount());
+    EXPECT_EQ(run.outcome.status, 0) << what;
+    EXPECT_TRUE(box.HoldsCarried()) << what << ": then a sound start left " << box.State();
+    EXPECT_EQ(box.Starts(), starts + 1) << what;
+    return static_cast<unsigned>(run.calls.size());
+  }
+
+  /// One start with a damaged package.
+  unsigned ExpectKept(SweepSandbox& box, Scenario const& scenario, bool new_is_enough,
+                      std::string const& what) {
+    TracedRun const run = box.Launch(material_.damaged, OnlyCount());
+    EXPECT_EQ(run.outcome.status, 0) << what;
+    ExpectATree(box, scenario, new_is_enough, what + ": then a damaged start");
+    return static_cast<unsigned>(run.calls.size());
+  }
+
+  /// The old tree is there under one of its names. Where a sound package was at hand, the new tree
+  /// may have taken its place.
+  static void ExpectATree(SweepSandbox const& box, Scenario const& scenario, bool new_is_enough,
+                          std::string const& what) {
+    if (scenario.beginning == Beginning::kNothing) return;
+    EXPECT_TRUE(box.HoldsFormer() || (new_is_enough && box.HoldsCarried()))
+        << what << " left " << box.State();
+  }
+
+  void ExpectState(SweepSandbox const& box, std::string const& what, test::Tally& tally) {
+    std::string const state = box.State();
+    EXPECT_NE(state.rfind("no state", 0), 0U) << what << ": " << state;
+    tally.Add(state);
+  }
+
+  /// A second kill at some call of the second start, then a third start.
+  void KillOnceMore(SweepSandbox& box, Point const& first, std::string const& what, bool sound,
+                    unsigned calls) {
+    if (calls == 0) return;
+    std::string const& package = sound ? material_.sound : material_.damaged;
+    std::mt19937 random(first.call * 4 + (first.after ? 2 : 0) + (sound ? 1 : 0));
+    Point const second = {first.scenario, 1 + static_cast<unsigned>(random() % calls),
+                          random() % 2 == 0};
+    box.PutBack();
+    std::string both = what;
+    if (!Kill(box, package, second, both)) return;
+    ExpectState(box, both, twice_);
+    bool const new_is_enough = sound || first.scenario->is_sound;
+    ExpectATree(box, *first.scenario, new_is_enough, both);
+    if (!sound) ExpectKept(box, *first.scenario, new_is_enough, both);
+    ExpectMended(box, both);
+  }
+
+  void Check(SweepSandbox& box, Point const& point) {
+    Scenario const& scenario = *point.scenario;
+    std::string what;
+    box.Begin(scenario.beginning);
+    if (!Kill(box, PackageOf(scenario), point, what)) return;
+    std::string const state = box.State();
+    EXPECT_EQ(scenario.states.count(state), 1U) << what << ": " << state;
+    once_[static_cast<size_t>(&scenario - kScenarios)].Add(state);
+    ExpectATree(box, scenario, scenario.is_sound, what);
+    box.Keep();
+
+    unsigned const sound_calls = ExpectMended(box, what);
+    box.PutBack();
+    unsigned const damaged_calls = ExpectKept(box, scenario, scenario.is_sound, what);
+    // In turn with the one package and the other: the places of the second kill differ anyway.
+    bool const sound = (point.call + (point.after ? 1 : 0)) % 2 == 0;
+    KillOnceMore(box, point, what, sound, sound ? sound_calls : damaged_calls);
+  }
+
+  test::SweepMaterial const material_{test::SweepMaterial::Size::kSmall};
+  std::vector<Point> points_;
+  test::Tally once_[std::size(kScenarios)];
+  test::Tally twice_;
+};
+
+TEST_F(CrashSweep, LeavesANamedStateAtEveryCallThatTheNextStartMends) {
+  for (Scenario const& scenario : kScenarios) CollectPoints(scenario);
+  test::ForEachPoint(points_.size(), material_,
+                     [&](SweepSandbox& box, size_t i) { Check(box, points_[i]); });
+
+  size_t sum = 0;
+  for (size_t i = 0; i < std::size(kScenarios); ++i) {
+    sum += once_[i].Sum();
+    test::Report(std::string(kScenarios[i].name) + ": " + std::to_string(once_[i].Sum()) +
+                 " points");
+    for (auto const& [state, count] : once_[i].counts()) {
+      test::Report("  " + state + ": " + std::to_string(count));
+    }
+    EXPECT_EQ(once_[i].counts().size(), kScenarios[i].states.size()) << "a state was never met";
+  }
+  test::Report("killed once more in the next start: " + std::to_string(twice_.Sum()) + " points");
+  for (auto const& [state, count] : twice_.counts()) {
+    test::Report("  " + state + ": " + std::to_string(count));
+  }
+  test::Report("all points of one kill: " + std::to_string(sum));
+  EXPECT_GE(sum, 1000U);
+}
+
+}  // namespace

@@ -1,0 +1,222 @@
+// Lets every system call of an upgrade fail, in turn.
+#include <errno.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <regex>
+#include <string>
+#include <vector>
+
+#include "faults/sweep.h"
+
+namespace {
+
+using test::Injection;
+using test::SweepSandbox;
+using test::TracedRun;
+
+struct Fault {
+  char const* name;
+  Injection::Action action;
+  int error;
+};
+
+constexpr Fault kFaults[] = {
+    {"ENOSPC", Injection::Action::kFail, ENOSPC}, {"EDQUOT", Injection::Action::kFail, EDQUOT},
+    {"EACCES", Injection::Action::kFail, EACCES}, {"EROFS", Injection::Action::kFail, EROFS},
+    {"EIO", Injection::Action::kFail, EIO},       {"EMFILE", Injection::Action::kFail, EMFILE},
+    {"EINTR", Injection::Action::kFail, EINTR},   {"short", Injection::Action::kShorten, 0},
+};
+
+/// Calls that are made again after EINTR would be for ever if it never ended.
+constexpr unsigned kInterruptions = 25;
+
+struct Point {
+  bool sound;
+  test::SystemCall call;
+  unsigned number;
+  Fault const* fault;
+  bool onwards;
+};
+
+/// What a call that fails once has to leave in the log. Where `lines` is empty nothing is logged,
+/// for the reason given; otherwise one of them is, but for the `unless` where there is one. The
+/// first rule that fits holds.
+struct Rule {
+  char const* calls;
+  char const* path;
+  std::vector<std::string> lines;
+  char const* unless;
+};
+
+constexpr char kLog[] = "the log can't tell of its own failure";
+constexpr char kIcon[] = "the dialog goes without its icon";
+constexpr char kTarget[] = "an unreadable carried version counts as 0, so there is no upgrade";
+constexpr char kSource[] = "an unreadable installed version counts as 0, so there is an upgrade";
+constexpr char kPid[] = "an unreadable pid file counts as absent";
+constexpr char kBackup[] = "the results of removing a backup are ignored";
+constexpr char kRollback[] = "the results of a rollback are ignored";
+constexpr char kAged[] = "the results of removing the aged folder are ignored";
+constexpr char kClose[] = "the archive library ignores the result of close";
+constexpr char kAgain[] = "made again after EINTR, or behind the last entry";
+constexpr char kNotThere[] = "an application folder that can't be looked at counts as absent";
+constexpr char kFirstLook[] = "mkdir decides, not the look ahead of it";
+
+Rule const kRules[] = {
+    {".*", "\\.Larkmoor/log.*", {}, kLog},
+    {"mkdir", "\\.Larkmoor", {}, kLog},
+    {".*", "Resources/images/.*", {}, kIcon},
+    {".*", "Resources/INFO", {}, kTarget},
+    {".*", "\\.Larkmoor/ui\\.pid", {}, kPid},
+    {"rename", ".*app_tmp", {"failed to backup app from"}, nullptr},
+    {"rename", ".*app", {}, kRollback},
+    {".*", ".*app_tmp.*", {}, kBackup},
+    {".*", "\\.Larkmoor/app", {}, kAged},
+    {"read",
+     ".*lpk",
+     {"archive_read_open_filename failed", "Failed to read file", "next_header failed: 'Error"},
+     kAgain},
+    {".*", ".*lpk", {"archive_read_open_filename failed", "Failed to read file"}, nullptr},
+    {"mkdir", ".*app", {"failed to create folder"}, nullptr},
+    {"access|stat|open|read", ".*INFO", {"archive_read_extract2 failed"}, kSource},
+    {"access", ".*larkmoor-drive-ui", {}, kSource},
+    {"close", ".*", {}, kClose},
+    {"stat|open", ".*app", {"failed to backup app from", "failed to create folder"}, kNotThere},
+    {"stat", "\\.Larkmoor", {"failed to create folder"}, kFirstLook},
+    {"mkdir|symlink|write|chmod", ".*app/.*", {"archive_read_extract2 failed"}, nullptr},
+    {"open|unlink|stat", ".*app/.*", {"archive_read_extract2 failed"}, kRollback},
+    {"readdir|rmdir|unlink", ".*app.*", {}, kRollback},
+};
+
+Rule const* RuleFor(test::SystemCall const& call) {
+  auto const* const found =
+      std::find_if(std::begin(kRules), std::end(kRules), [&](Rule const& rule) {
+        return std::regex_match(call.name, std::regex(rule.calls)) &&
+               std::regex_match(call.path, std::regex(rule.path));
+      });
+  return found == std::end(kRules) ? nullptr : found;
+}
+
+std::string Describe(Point const& point) {
+  return std::string(point.sound ? "upgrade" : "rollback") + ": " + point.call.name + " " +
+         point.call.path + " [" + point.fault->name + (point.onwards ? " onwards" : "") + "]";
+}
+
+class FaultSweep : public testing::Test {
+ protected:
+  void SetUp() override {
+    std::string reason;
+    if (!test::CanTrace(reason)) GTEST_SKIP() << reason;
+  }
+  std::string const& Package(bool sound) const {
+    return sound ? material_.sound : material_.damaged;
+  }
+
+  void CollectPoints(bool sound) {
+    SweepSandbox box(material_);
+    box.Begin(test::Beginning::kFormer);
+    TracedRun const run = box.Launch(Package(sound), {});
+    ASSERT_EQ(run.outcome.status, 0);
+    for (unsigned i = 0; i < run.calls.size(); ++i) {
+      for (Fault const& fault : kFaults) {
+        if (fault.action == Injection::Action::kShorten && run.calls[i].name != "write") continue;
+        for (bool onwards : {false, true}) {
+          points_.push_back({sound, run.calls[i], i + 1, &fault, onwards});
+        }
+      }
+    }
+  }
+
+  static Injection InjectionOf(Point const& point) {
+    Injection injection;
+    injection.action = point.fault->action;
+    injection.error = point.fault->error;
+    injection.at = point.number;
+    if (point.onwards) {
+      injection.count = point.fault->error == EINTR ? kInterruptions : Injection::kOnwards;
+    }
+    return injection;
+  }
+
+  void Check(SweepSandbox& box, Point const& point) {
+    box.Begin(test::Beginning::kFormer);
+    TracedRun const run = box.Launch(Package(point.sound), InjectionOf(point));
+    std::string const what = Describe(point);
+    EXPECT_GE(run.hits, 1U) << what;
+    EXPECT_EQ(run.outcome.status, 0) << what << ", signal " << run.outcome.signal;
+    ExpectATree(box, point, what);
+    ExpectStarted(box, what);
+    if (point.onwards) {
+      onwards_.Add(box.State());
+    } else {
+      std::string const log = box.sandbox().RawLog() + run.outcome.err;
+      ExpectLine(box, point, log, what);
+    }
+  }
+
+  void ExpectATree(SweepSandbox const& box, Point const& point, std::string const& what) {
+    if (box.HoldsFormer() || box.HoldsCarried()) return;
+    // The one way to lose the old tree: it can't be looked at just when it is to be moved aside,
+    // the package turns out to be damaged, and it has been unpacked into the old tree.
+    bool const known = !point.sound && !point.onwards && point.call.name == "stat" &&
+                       point.call.path == ".Larkmoor/Larkmoor.app";
+    EXPECT_TRUE(known) << what << ": " << box.State();
+    lost_.Add(kNotThere);
+  }
+
+  static void ExpectStarted(SweepSandbox const& box, std::string const& what) {
+    std::string const client = box.sandbox().App() + "/Contents/MacOS/larkmoor-drive-ui";
+    // What the fault has left empty can't run.
+    bool const stands = std::filesystem::exists(client) && !test::ReadFile(client).empty();
+    EXPECT_EQ(box.Starts(), stands ? 1U : 0U) << what;
+  }
+
+  void ExpectLine(SweepSandbox const& box, Point const& point, std::string const& log,
+                  std::string const& what) {
+    Rule const* const rule = RuleFor(point.call);
+    ASSERT_NE(rule, nullptr) << what << ": nothing says what this call has to log; it logged "
+                             << log;
+    auto const has = [&](std::string const& line) { return log.find(line) != std::string::npos; };
+    bool const told = std::any_of(rule->lines.begin(), rule->lines.end(), has);
+    bool const shortened = point.fault->action == Injection::Action::kShorten;
+    bool const undone = point.sound && !box.HoldsCarried();
+    if (undone && rule->unless != kTarget && rule->unless != kLog) {
+      EXPECT_TRUE(has("Failed to upgrade package")) << what << ": " << log;
+    }
+    if (told) {
+      once_.Add("told in the log");
+    } else if (shortened) {
+      EXPECT_FALSE(undone) << what << ": " << log;
+      once_.Add("not told: the rest of a short write is written");
+    } else if (rule->unless != nullptr) {
+      once_.Add(std::string("not told: ") + rule->unless);
+    } else {
+      ADD_FAILURE() << what << " logged " << log;
+    }
+  }
+
+  test::SweepMaterial const material_{test::SweepMaterial::Size::kTiny};
+  std::vector<Point> points_;
+  test::Tally once_;
+  test::Tally onwards_;
+  test::Tally lost_;
+};
+
+TEST_F(FaultSweep, EndsWithATreeAndALineAtEveryCall) {
+  for (bool sound : {true, false}) CollectPoints(sound);
+  test::ForEachPoint(points_.size(), material_,
+                     [&](SweepSandbox& box, size_t i) { Check(box, points_[i]); });
+  auto const report = [](char const* title, test::Tally const& tally) {
+    test::Report(std::string(title) + ": " + std::to_string(tally.Sum()) + " points");
+    for (auto const& [name, count] : tally.counts()) {
+      test::Report("  " + name + ": " + std::to_string(count));
+    }
+  };
+  report("failing once", once_);
+  report("failing from then on, by what is left", onwards_);
+  report("the old tree spoilt", lost_);
+  EXPECT_EQ(lost_.Sum(), 7U);
+}
+
+}  // namespace

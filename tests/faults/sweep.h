@@ -1,0 +1,82 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <mutex>
+#include <string>
+
+#include "faults/tracer.h"
+#include "faults/upgrade-states.h"
+#include "support/sandbox.h"
+
+/// What the sweeps share: clients small enough to be installed thousands of times, homes that can
+/// be put back, and the cores' use.
+namespace test {
+
+constexpr int kStaleBuild = 90;
+constexpr int kFormerBuild = 100;
+constexpr int kCarriedBuild = 200;
+
+/// A package that scripts/make-package made of a small client, once whole and once cut short behind
+/// its first half, and the trees that a sweep compares with.
+struct SweepMaterial {
+  /// A tiny client holds one thing of each kind, for sweeps with many runs at each point.
+  enum class Size { kTiny, kSmall };
+  explicit SweepMaterial(Size size_of_client);
+
+  Size const size;
+
+  std::string sound;
+  std::string damaged;
+  UpgradeTrees trees;
+};
+
+/// Where a sweep begins.
+enum class Beginning { kNothing, kFormer, kFormerAndStaleBackup };
+
+/// A sandbox whose home is put back again and again. One thread at a time.
+class SweepSandbox {
+ public:
+  explicit SweepSandbox(SweepMaterial const& material);
+
+  void Begin(Beginning beginning);
+  /// Keeps the home as it is, and puts it back.
+  void Keep();
+  void PutBack();
+  /// Starts the launcher with this package in its bundle.
+  TracedRun Launch(std::string const& package, Injection const& injection);
+
+  Sandbox const& sandbox() const { return sandbox_; }
+  std::string State() const { return StateOf(sandbox_.UserRoot(), material_.trees); }
+  bool HoldsFormer() const { return HoldsFormerTree(sandbox_.UserRoot(), material_.trees); }
+  bool HoldsCarried() const { return HoldsCarriedTree(sandbox_.UserRoot(), material_.trees); }
+  /// How often the client was started since Begin().
+  size_t Starts() const;
+
+ private:
+  SweepMaterial const& material_;
+  Sandbox sandbox_;
+  TempDir kept_;
+};
+
+/// Calls `job` with 0 to `count` - 1, each once, on as many threads as there are cores. Each thread
+/// has a sandbox of its own.
+void ForEachPoint(size_t count, SweepMaterial const& material,
+                  std::function<void(SweepSandbox&, size_t)> const& job);
+
+/// Counts by name, for any thread.
+class Tally {
+ public:
+  void Add(std::string const& name);
+  size_t Sum() const;
+  std::map<std::string, size_t> const& counts() const { return counts_; }
+
+ private:
+  std::mutex lock_;
+  std::map<std::string, size_t> counts_;
+};
+
+/// Prints a line and adds it to the figures of this test program, which scripts/test shows.
+void Report(std::string const& line);
+
+}  // namespace test
