@@ -1,0 +1,342 @@
+// Upgrades on real file systems: full, read-only, limited by quota, split in two, blind to case.
+#include <gtest/gtest.h>
+#include <linux/quota.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "faults/mount.h"
+#include "foundation/file-op.h"
+#include "support/sandbox.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using test::Entry;
+using test::Mount;
+using test::Sandbox;
+using test::Tree;
+
+constexpr size_t kPayload = 200000;
+
+/// A client that needs some room, under names of its own.
+std::vector<Entry> BigClient(int build) {
+  std::vector<Entry> entries = Sandbox::Client(build);
+  std::string const name = "Contents/Resources/big-" + std::to_string(build);
+  entries.insert(entries.end() - 2, Entry::File(name, std::string(kPayload, 'b')));
+  return entries;
+}
+
+class Volume : public testing::Test {
+ protected:
+  void Carry(std::vector<Entry> const& entries) {
+    sandbox_.CarryVersion(200);
+    sandbox_.CarryPackage(test::MakeArchive(entries, "gnutar", "gzip"));
+  }
+  bool LogHas(std::string const& text) const {
+    return sandbox_.RawLog().find(text) != std::string::npos;
+  }
+  static std::string Size(size_t kib) { return "size=" + std::to_string(kib) + "k"; }
+  bool HasBuild(int build) const {
+    std::string const info = sandbox_.App() + "/Contents/Resources/INFO";
+    return fs::exists(info) &&
+           test::ReadFile(info).find("build_version=" + std::to_string(build)) != std::string::npos;
+  }
+
+  Sandbox sandbox_;
+};
+
+TEST_F(Volume, FullInTheMiddleOfAnUpgradeGivesTheOldTreeBack) {
+  Mount home("none", sandbox_.Home(), "tmpfs", Size(256));
+  if (!home.ok()) GTEST_SKIP() << home.reason();
+  sandbox_.Install(100);
+  Tree const old = test::ReadTree(sandbox_.App());
+  Carry(BigClient(200));
+  ASSERT_TRUE(sandbox_.Launch().status == 0);
+  // The log lies on the same disk: what is logged before the rollback has made room is lost.
+  EXPECT_TRUE(LogHas("Failed to upgrade package")) << sandbox_.RawLog();
+  EXPECT_EQ(test::ReadTree(sandbox_.App()), old);
+  EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp"));
+  EXPECT_EQ(sandbox_.AwaitStarts(1).back(), "100");
+}
+
+TEST_F(Volume, EverySizeOfDiskLeavesOneWholeTree) {
+  Mount home("none", sandbox_.Home(), "tmpfs", Size(64));
+  if (!home.ok()) GTEST_SKIP() << home.reason();
+  Carry(BigClient(200));
+  int rollbacks = 0;
+  int upgrades = 0;
+  for (size_t kib = 64; kib <= 420; kib += 16) {
+    home.Remount(0, Size(1024));
+    fs::remove_all(sandbox_.UserRoot());
+    sandbox_.Install(100);
+    Tree const old = test::ReadTree(sandbox_.App());
+    home.Remount(0, Size(kib));
+    EXPECT_EQ(test::Run(sandbox_.Start()).status, 0);
+    bool const upgraded = HasBuild(200);
+    (upgraded ? upgrades : rollbacks)++;
+    EXPECT_TRUE(upgraded || test::ReadTree(sandbox_.App()) == old) << kib << " KiB";
+    EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp")) << kib << " KiB";
+  }
+  EXPECT_GT(rollbacks, 5);
+  EXPECT_GT(upgrades, 1);
+}
+
+TEST_F(Volume, OutOfInodesGivesTheOldTreeBack) {
+  Mount home("none", sandbox_.Home(), "tmpfs", "nr_inodes=24");
+  if (!home.ok()) GTEST_SKIP() << home.reason();
+  sandbox_.Install(100);
+  Tree const old = test::ReadTree(sandbox_.App());
+  Carry(BigClient(200));
+  ASSERT_EQ(test::Run(sandbox_.Start()).status, 0);
+  EXPECT_TRUE(LogHas("archive_read_extract2 failed")) << sandbox_.RawLog();
+  EXPECT_EQ(test::ReadTree(sandbox_.App()), old);
+}
+
+TEST_F(Volume, FullDuringAFirstInstallationLeavesAPartThatTheNextStartReplaces) {
+  Mount home("none", sandbox_.Home(), "tmpfs", Size(96));
+  if (!home.ok()) GTEST_SKIP() << home.reason();
+  Carry(BigClient(200));
+  ASSERT_EQ(test::Run(sandbox_.Start()).status, 0);
+  // No room for a line in the log either.
+  EXPECT_EQ(sandbox_.RawLog(), "");
+  EXPECT_TRUE(fs::exists(sandbox_.App()));
+  EXPECT_FALSE(fs::exists(sandbox_.App() + "/Contents/MacOS/larkmoor-drive-ui"));
+  home.Remount(0, Size(1024));
+  ASSERT_EQ(sandbox_.Launch().status, 0);
+  EXPECT_TRUE(HasBuild(200));
+  EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp"));
+}
+
+TEST_F(Volume, AReadOnlyHomeStartsTheOldTree) {
+  Mount home("none", sandbox_.Home(), "tmpfs", "");
+  if (!home.ok()) GTEST_SKIP() << home.reason();
+  sandbox_.Install(100);
+  std::string const started = sandbox_.folder() / "started";
+  test::WriteFile(sandbox_.App() + "/Contents/MacOS/larkmoor-drive-ui",
+                  "#!/bin/sh\n: > '" + started + "'\n");
+  Carry(BigClient(200));
+  home.Remount(MS_RDONLY, "");
+  test::Outcome const outcome = test::Run(sandbox_.Start());
+  home.Remount(0, "");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_NE(outcome.err.find("at max retries, exiting"), std::string::npos) << outcome.err;
+  EXPECT_TRUE(HasBuild(100));
+  EXPECT_TRUE(test::WaitUntil([&] { return fs::exists(started); }));
+}
+
+/// Restricts a user of the file system on `device` to some KiB.
+bool LimitUser(std::string const& device, unsigned user, unsigned kib) {
+  if_dqblk limit = {};
+  limit.dqb_bhardlimit = kib;
+  limit.dqb_bsoftlimit = kib;
+  limit.dqb_valid = QIF_BLIMITS;
+  return syscall(SYS_quotactl, QCMD(Q_SETQUOTA, USRQUOTA), device.c_str(), user, &limit) == 0;
+}
+
+TEST_F(Volume, AQuotaThatRunsOutGivesTheOldTreeBack) {
+  constexpr unsigned kNobody = 65534;
+  test::LoopDevice device(sandbox_.folder() / "disk", 16, "-O quota -E quotatype=usrquota");
+  if (!device.ok()) GTEST_SKIP() << device.reason();
+  Mount home(device.path(), sandbox_.Home(), "ext4", "");
+  if (!home.ok()) GTEST_SKIP() << home.reason();
+  if (!LimitUser(device.path(), kNobody, 160)) {
+    GTEST_SKIP() << "this kernel has no quota: " << strerror(errno);
+  }
+  sandbox_.Install(100);
+  Carry(BigClient(200));
+  Tree const old = test::ReadTree(sandbox_.App());
+  ASSERT_EQ(chown(sandbox_.folder().path().c_str(), kNobody, kNobody), 0);
+  for (auto const& entry : fs::recursive_directory_iterator(sandbox_.folder().path())) {
+    if (entry.path().filename() != "lost+found") {
+      ASSERT_EQ(lchown(entry.path().c_str(), kNobody, kNobody), 0);
+    }
+  }
+  ASSERT_EQ(chown(sandbox_.Home().c_str(), kNobody, kNobody), 0);
+  test::Process::Options options = sandbox_.Start();
+  options.program = "/usr/bin/setpriv";
+  options.arguments.insert(options.arguments.begin(),
+                           {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"});
+  ASSERT_EQ(test::Run(options).status, 0);
+  EXPECT_TRUE(LogHas("archive_read_extract2 failed")) << sandbox_.RawLog();
+  EXPECT_TRUE(LogHas("rollback to old installation"));
+  EXPECT_EQ(test::ReadTree(sandbox_.App()), old);
+}
+
+// An overlay refuses to rename a folder of its lower layer with EXDEV, as two volumes would.
+class SplitVolume : public Volume {
+ protected:
+  void Install(std::vector<Entry> const& entries) {
+    std::string const layers = sandbox_.folder() / "layers";
+    fs::create_directories(layers);
+    tmpfs_ = std::make_unique<Mount>("none", layers, "tmpfs", "");
+    if (!tmpfs_->ok()) return Refuse(*tmpfs_);
+    for (char const* folder : {"/lower", "/upper", "/work"}) fs::create_directory(layers + folder);
+    std::string const app = layers + "/lower/.Larkmoor/Larkmoor.app/";
+    for (Entry const& entry : entries) Make(app + entry.path, entry);
+    overlay_ = std::make_unique<Mount>("overlay", sandbox_.Home(), "overlay",
+                                       "redirect_dir=off,lowerdir=" + layers + "/lower,upperdir=" +
+                                           layers + "/upper,workdir=" + layers + "/work");
+    if (!overlay_->ok()) return Refuse(*overlay_);
+    std::string const probe = sandbox_.UserRoot() + "/probe";
+    if (rename(sandbox_.App().c_str(), probe.c_str()) == 0 || errno != EXDEV) {
+      reason_ = "this overlay renames folders of its lower layer";
+    }
+  }
+  void Refuse(Mount const& mount) { reason_ = mount.reason(); }
+
+  static void Make(std::string const& path, Entry const& entry) {
+    if (entry.kind == Entry::Kind::kFolder) fs::create_directories(path);
+    if (entry.kind == Entry::Kind::kLink) fs::create_symlink(entry.content, path);
+    if (entry.kind != Entry::Kind::kFile) return;
+    test::WriteFile(path, entry.content);
+    fs::permissions(path, static_cast<fs::perms>(entry.mode));
+  }
+  std::unique_ptr<Mount> tmpfs_;
+  std::unique_ptr<Mount> overlay_;
+  std::string reason_;
+};
+
+TEST_F(SplitVolume, TheBackupIsMadeFolderByFolderAndTheUpgradeGoesOn) {
+  Install(Sandbox::Client(100));
+  if (!reason_.empty()) GTEST_SKIP() << reason_;
+  Carry(BigClient(200));
+  ASSERT_EQ(sandbox_.Launch().status, 0);
+  EXPECT_TRUE(HasBuild(200)) << sandbox_.RawLog();
+  EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp"));
+  EXPECT_EQ(sandbox_.AwaitStarts(1).back(), "200");
+}
+
+TEST_F(SplitVolume, ARollbackBringsTheOldTreeBack) {
+  Install(Sandbox::Client(100));
+  if (!reason_.empty()) GTEST_SKIP() << reason_;
+  Tree const old = test::ReadTree(sandbox_.App());
+  Carry(BigClient(200));
+  sandbox_.CarryPackage("no archive");
+  ASSERT_EQ(sandbox_.Launch().status, 0);
+  EXPECT_EQ(test::ReadTree(sandbox_.App()), old) << sandbox_.RawLog();
+}
+
+class CrossDevice : public testing::Test {
+ protected:
+  void SetUp() override {
+    fs::create_directory(folder_ / "other");
+    other_ = std::make_unique<Mount>("none", folder_ / "other", "tmpfs", "size=256k");
+    if (!other_->ok()) GTEST_SKIP() << other_->reason();
+  }
+  int Move() { return FSRename(ustring(folder_ / "app"), ustring(folder_ / "other/app"), false); }
+
+  test::TempDir folder_;
+  std::unique_ptr<Mount> other_;
+};
+
+TEST_F(CrossDevice, FSRenameMovesAFolderButNotTheModesInIt) {
+  test::WriteFile(folder_ / "app/Contents/tool", "bytes");
+  fs::permissions(folder_ / "app/Contents/tool", fs::perms(0755));
+  EXPECT_EQ(Move(), 0);
+  EXPECT_FALSE(fs::exists(folder_ / "app"));
+  Tree const moved = test::ReadTree(folder_ / "other/app");
+  EXPECT_EQ(moved.at("Contents/tool"), (test::Node{'f', 0644, "bytes"}));
+}
+
+TEST_F(CrossDevice, FSRenameOfAFolderWithALinkFailsAndLeavesTheLinkBehind) {
+  test::WriteFile(folder_ / "app/Contents/tool", "bytes");
+  fs::create_symlink("tool", folder_ / "app/Contents/link");
+  EXPECT_EQ(Move(), -3);
+  EXPECT_EQ(test::ReadTree(folder_ / "app").size(), 2U);
+  EXPECT_TRUE(fs::is_symlink(folder_ / "app/Contents/link"));
+  EXPECT_EQ(test::ReadFile(folder_ / "other/app/Contents/tool"), "bytes");
+}
+
+TEST_F(CrossDevice, FSRenameOntoAFullVolumeFailsAndKeepsTheSource) {
+  std::string const bytes(1000000, 'x');
+  test::WriteFile(folder_ / "app/big", bytes);
+  EXPECT_EQ(FSCopy(ustring(folder_ / "app/big"), ustring(folder_ / "other/copy"), false), -2);
+  EXPECT_EQ(Move(), -3);
+  EXPECT_EQ(test::ReadFile(folder_ / "app/big"), bytes);
+}
+
+#ifdef LARKMOOR_TEST_FOLD_CASE_FS
+class CaseBlindVolume : public Volume {
+ protected:
+  void SetUp() override {
+    fs::create_directories(Behind());
+    test::Process::Options options;
+    options.arguments = {LARKMOOR_TEST_FOLD_CASE_FS, Behind(), sandbox_.Home()};
+    server_ = std::make_unique<test::Process>(options);
+    struct stat behind;
+    ASSERT_EQ(stat(Behind().c_str(), &behind), 0);
+    bool const up = test::WaitUntil([&] {
+      struct stat shown;
+      return !server_->Running() ||
+             (stat(sandbox_.Home().c_str(), &shown) == 0 && shown.st_dev != behind.st_dev);
+    });
+    if (!up || !server_->Running()) {
+      GTEST_SKIP() << "no FUSE here: " << server_->Wait(std::chrono::seconds(5)).err;
+    }
+  }
+  void TearDown() override { umount2(sandbox_.Home().c_str(), MNT_DETACH); }
+  /// What the volume keeps.
+  std::string Behind() const { return sandbox_.folder() / "behind"; }
+
+  std::unique_ptr<test::Process> server_;
+};
+
+TEST_F(CaseBlindVolume, IsUpgradedLikeAnyOther) {
+  sandbox_.Install(100);
+  sandbox_.Carry(200);
+  ASSERT_EQ(sandbox_.Launch().status, 0);
+  EXPECT_TRUE(HasBuild(200)) << sandbox_.RawLog();
+  EXPECT_EQ(test::ReadTree(sandbox_.App()).size(), Sandbox::Client(200).size());
+  EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp"));
+}
+
+TEST_F(CaseBlindVolume, AnOldTreeInAnotherSpellingIsReplacedByOneInOurs) {
+  sandbox_.Install(100);
+  fs::rename(Behind() + "/.Larkmoor/Larkmoor.app", Behind() + "/.Larkmoor/LARKMOOR.APP");
+  sandbox_.Carry(200);
+  ASSERT_EQ(sandbox_.Launch().status, 0);
+  EXPECT_TRUE(HasBuild(200)) << sandbox_.RawLog();
+  EXPECT_TRUE(fs::exists(Behind() + "/.Larkmoor/Larkmoor.app"));
+  EXPECT_FALSE(fs::exists(Behind() + "/.Larkmoor/LARKMOOR.APP"));
+}
+
+TEST_F(CaseBlindVolume, ADamagedPackageGivesTheOldTreeBack) {
+  sandbox_.Install(100);
+  Tree const old = test::ReadTree(sandbox_.App());
+  sandbox_.Carry(200);
+  std::string const package = test::ReadFile(sandbox_.Package());
+  sandbox_.CarryPackage(package.substr(0, package.size() / 2));
+  ASSERT_EQ(sandbox_.Launch().status, 0);
+  EXPECT_EQ(test::ReadTree(sandbox_.App()), old) << sandbox_.RawLog();
+}
+
+TEST_F(CaseBlindVolume, OfTwoEntriesThatDifferInCaseTheLaterOneStays) {
+  std::vector<Entry> entries = Sandbox::Client(200);
+  entries.insert(entries.begin() + 3, {Entry::File("Contents/Resources/TWIN", "first"),
+                                       Entry::File("Contents/Resources/twin", "second")});
+  Carry(entries);
+  ASSERT_EQ(sandbox_.Launch().status, 0);
+  EXPECT_EQ(test::ReadFile(sandbox_.App() + "/Contents/Resources/TWIN"), "second");
+  EXPECT_TRUE(fs::exists(Behind() + "/.Larkmoor/Larkmoor.app/Contents/Resources/twin"));
+  EXPECT_FALSE(fs::exists(Behind() + "/.Larkmoor/Larkmoor.app/Contents/Resources/TWIN"));
+}
+
+TEST_F(CaseBlindVolume, FSRenameChangesNothingButTheCase) {
+  test::WriteFile(sandbox_.Home() + "/name", "bytes");
+  std::string const home = sandbox_.Home();
+  EXPECT_EQ(FSRename(ustring(home + "/name"), ustring(home + "/NAME"), false), 0);
+  EXPECT_TRUE(fs::exists(Behind() + "/NAME"));
+  EXPECT_FALSE(fs::exists(Behind() + "/name"));
+}
+#endif
+
+}  // namespace
