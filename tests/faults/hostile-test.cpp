@@ -1,0 +1,429 @@
+// Packages that nobody honest would make: what is refused, what is installed, and that nothing
+// lands outside the per-user root but where the table says so.
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <functional>
+#include <iostream>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "faults/mount.h"
+#include "service/extractor.h"
+#include "support/sandbox.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using test::Entry;
+using test::Sandbox;
+using test::Tree;
+
+/// Writes a tar header by hand, for what no library writes.
+std::string TarHeader(std::string const& name, char type, size_t size, std::string const& link = "",
+                      unsigned mode = 0644) {
+  std::string header(512, '\0');
+  auto const put = [&](size_t at, std::string const& text) {
+    header.replace(at, text.size(), text);
+  };
+  char octal[16];
+  auto const number = [&](unsigned long value, int width) {
+    snprintf(octal, sizeof(octal), "%0*lo", width, value);
+    return std::string(octal);
+  };
+  put(0, name.substr(0, 100));
+  put(100, number(mode, 7));
+  put(108, number(0, 7));
+  put(116, number(0, 7));
+  put(124, number(size, 11));
+  put(136, number(0, 11));
+  put(148, "        ");
+  header[156] = type;
+  put(157, link.substr(0, 100));
+  put(257, std::string("ustar\0"
+                       "00",
+                       8));
+  put(329, number(1, 7));
+  put(337, number(3, 7));
+  unsigned sum = 0;
+  for (char byte : header) sum += static_cast<unsigned char>(byte);
+  put(148, number(sum, 6) + std::string("\0 ", 2));
+  return header;
+}
+
+std::string Padded(std::string bytes) {
+  bytes.resize((bytes.size() + 511) / 512 * 512);
+  return bytes;
+}
+
+std::string TarFile(std::string const& name, std::string const& bytes, unsigned mode = 0644) {
+  return TarHeader(name, '0', bytes.size(), "", mode) + Padded(bytes);
+}
+
+/// A name of any length, the way GNU tar stores one.
+std::string LongName(std::string const& name) {
+  return TarHeader("././@LongLink", 'L', name.size() + 1) + Padded(name + '\0');
+}
+
+enum class Verdict {
+  kRefused,    ///< the extraction fails and the old tree is back
+  kInstalled,  ///< the new tree stands, the hostile entry has become harmless or is as told
+  kEscapes,    ///< installed, and something outside the per-user root has changed
+};
+
+struct Case {
+  char const* name;
+  Verdict verdict;
+  /// Entries ahead of a sound client. `outside` is a folder beside the home.
+  std::function<std::string(std::string const& outside)> entries;
+  /// Looks at the application folder afterwards.
+  std::function<void(std::string const& app)> check = [](std::string const&) {};
+};
+
+std::string Repeat(std::string const& text, int times) {
+  std::string all;
+  for (int i = 0; i < times; ++i) all += text;
+  return all;
+}
+
+bool Stands(std::string const& path) { return fs::exists(fs::symlink_status(path)); }
+
+std::vector<Case> const& Cases() {
+  using S = std::string const&;
+  static std::vector<Case> const cases = {
+      {"dot-dot at the beginning", Verdict::kRefused, [](S) { return TarFile("../evil", "x"); }},
+      {"dot-dot in the middle", Verdict::kRefused,
+       [](S) { return TarFile("Contents/../../evil", "x"); }},
+      {"dot-dot at the end", Verdict::kRefused, [](S) { return TarHeader("Contents/..", '5', 0); }},
+      {"dot-dot alone", Verdict::kRefused, [](S) { return TarHeader("..", '5', 0); }},
+      {"dot-dot behind many slashes", Verdict::kRefused,
+       [](S) { return TarFile("Contents////..//evil", "x"); }},
+      {"dots that are a name", Verdict::kInstalled, [](S) { return TarFile(".../..a", "x"); },
+       [](S app) { EXPECT_TRUE(Stands(app + "/.../..a")); }},
+      {"an absolute name lands below the application folder", Verdict::kInstalled,
+       [](S outside) { return TarFile(outside + "/evil", "x"); },
+       [](S app) { EXPECT_FALSE(fs::is_empty(app)); }},
+      {"a link out of the tree alone", Verdict::kInstalled,
+       [](S outside) { return TarHeader("way-out", '2', 0, outside); },
+       [](S app) { EXPECT_TRUE(fs::is_symlink(app + "/way-out")); }},
+      {"a link out of the tree and a file through it", Verdict::kEscapes,
+       [](S outside) {
+         return TarHeader("way-out", '2', 0, outside) + TarFile("way-out/evil", "x");
+       }},
+      {"a link out of the tree and a folder through it", Verdict::kEscapes,
+       [](S outside) {
+         return TarHeader("way-out", '2', 0, outside) + TarHeader("way-out/evil", '5', 0, "", 0755);
+       }},
+      {"a link over a link out of the tree replaces it", Verdict::kInstalled,
+       [](S outside) {
+         return TarHeader("way", '2', 0, outside + "/victim") + TarFile("way", "x");
+       },
+       [](S app) { EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(app + "/way"))); }},
+      {"a hard link with an absolute target gives a file outside a second name",
+       Verdict::kInstalled,
+       [](S outside) { return TarHeader("twin", '1', 0, outside + "/victim"); },
+       [](S app) { EXPECT_EQ(fs::hard_link_count(app + "/twin"), 2U); }},
+      {"a hard link with dot-dot in its target", Verdict::kRefused,
+       [](S) { return TarHeader("twin", '1', 0, "../../victim"); }},
+      {"a hard link with a relative target isn't found", Verdict::kRefused,
+       [](S) { return TarFile("file", "x") + TarHeader("twin", '1', 0, "file"); }},
+      {"set-user-id and set-group-id bits are dropped", Verdict::kInstalled,
+       [](S) { return TarFile("suid", "x", 06755); },
+       [](S app) {
+         struct stat info {};
+         ASSERT_EQ(stat((app + "/suid").c_str(), &info), 0);
+         EXPECT_EQ(info.st_mode & 07777U, 0755U);
+       }},
+      {"a sticky folder that anybody may write", Verdict::kInstalled,
+       [](S) { return TarHeader("open", '5', 0, "", 01777); },
+       [](S app) {
+         struct stat info {};
+         ASSERT_EQ(stat((app + "/open").c_str(), &info), 0);
+         EXPECT_EQ(info.st_mode & 07022U, 0U);
+       }},
+      {"a named pipe", Verdict::kInstalled, [](S) { return TarHeader("pipe", '6', 0); },
+       [](S app) { EXPECT_TRUE(fs::is_fifo(app + "/pipe")); }},
+      {"a line break in a name", Verdict::kInstalled, [](S) { return TarFile("a\nb", "x"); },
+       [](S app) { EXPECT_TRUE(Stands(app + "/a\nb")); }},
+      {"a NUL in a name ends it", Verdict::kInstalled,
+       [](S) { return TarFile(std::string("cut\0off", 7), "x"); },
+       [](S app) {
+         EXPECT_TRUE(Stands(app + "/cut"));
+         EXPECT_FALSE(Stands(app + "/cutoff"));
+       }},
+      {"a name of 255 bytes", Verdict::kInstalled,
+       [](S) { return LongName(std::string(255, 'n')) + TarFile("short", "x"); },
+       [](S app) { EXPECT_TRUE(Stands(app + "/" + std::string(255, 'n'))); }},
+      {"a name of 256 bytes", Verdict::kRefused,
+       [](S) { return LongName(std::string(256, 'n')) + TarFile("short", "x"); }},
+      {"invalid UTF-8 in a name", Verdict::kInstalled,
+       [](S) { return TarFile("bad-\xff\xfe", "x"); },
+       [](S app) { EXPECT_TRUE(Stands(app + "/bad-\xff\xfe")); }},
+      {"a path of more than 4,096 bytes", Verdict::kInstalled,
+       [](S) { return LongName(Repeat("folder/", 600) + "file") + TarFile("short", "x"); }},
+      {"an empty name", Verdict::kInstalled, [](S) { return TarFile("", "x"); }},
+      {"the folder itself as an entry", Verdict::kInstalled,
+       [](S) { return TarHeader("./", '5', 0, "", 0755); }},
+      {"the folder itself as a file, which the next entry makes a folder again",
+       Verdict::kInstalled, [](S) { return TarFile(".", "x"); }},
+      {"an entry that is its own parent", Verdict::kRefused,
+       [](S) { return TarFile("own", "x") + TarFile("own/own", "y"); },
+       [](S app) { EXPECT_TRUE(Stands(app + "/own/own")); }},
+      {"a file, then a folder of its name", Verdict::kInstalled,
+       [](S) { return TarFile("turns", "x") + TarHeader("turns", '5', 0, "", 0755); },
+       [](S app) { EXPECT_TRUE(fs::is_directory(app + "/turns")); }},
+      {"an empty folder, then a file of its name", Verdict::kInstalled,
+       [](S) { return TarHeader("turns", '5', 0, "", 0755) + TarFile("turns", "x"); },
+       [](S app) { EXPECT_TRUE(fs::is_regular_file(app + "/turns")); }},
+      {"a full folder, then a file of its name", Verdict::kRefused,
+       [](S) { return TarFile("turns/in", "x") + TarFile("turns", "x"); }},
+      {"a size that is larger than the archive", Verdict::kRefused,
+       [](S) { return TarHeader("large", '0', 07777777777); }},
+  };
+  return cases;
+}
+
+class HostilePackage : public testing::Test {
+ protected:
+  HostilePackage() {
+    sandbox_.Install(100);
+    sandbox_.CarryVersion(200);
+    fs::create_directories(Outside());
+    test::WriteFile(Outside() + "/victim", "mine");
+    old_ = test::ReadTree(sandbox_.App());
+  }
+
+  std::string Outside() const { return sandbox_.folder() / "outside"; }
+  static std::string SoundClient() { return test::MakeArchive(Sandbox::Client(200), "gnutar"); }
+
+  /// Everything beside the per-user root, but for what the client itself leaves in its home.
+  Tree Beside() const {
+    Tree all = test::ReadTree(Outside());
+    for (auto const& entry : fs::directory_iterator(sandbox_.folder().path())) {
+      all["/" + entry.path().filename().string()] = {};
+    }
+    return all;
+  }
+  bool IsInstalled() const {
+    std::string const info = sandbox_.App() + "/Contents/Resources/INFO";
+    return fs::exists(info) && test::ReadFile(info).find("=200") != std::string::npos &&
+           !fs::exists(sandbox_.App() + "_tmp");
+  }
+  bool IsRolledBack() const {
+    return test::ReadTree(sandbox_.App()) == old_ && !fs::exists(sandbox_.App() + "_tmp");
+  }
+  void Restore() {
+    fs::remove_all(sandbox_.UserRoot());
+    sandbox_.Install(100);
+  }
+
+  Sandbox sandbox_;
+  Tree old_;
+};
+
+class HostileEntry : public HostilePackage, public testing::WithParamInterface<size_t> {};
+
+TEST_P(HostileEntry, IsRefusedOrInstalledAsTold) {
+  Case const& hostile = Cases()[GetParam()];
+  SCOPED_TRACE(hostile.name);
+  sandbox_.CarryPackage(hostile.entries(Outside()) + SoundClient());
+  Tree const beside = Beside();
+  ASSERT_EQ(sandbox_.Launch().status, 0);
+  if (hostile.verdict == Verdict::kRefused) {
+    EXPECT_TRUE(IsRolledBack()) << sandbox_.RawLog();
+  } else {
+    EXPECT_TRUE(IsInstalled()) << sandbox_.RawLog();
+    hostile.check(sandbox_.App());
+  }
+  EXPECT_EQ(Beside() != beside, hostile.verdict == Verdict::kEscapes);
+}
+
+/// The case's name as a test's.
+std::string TestName(testing::TestParamInfo<size_t> const& parameter) {
+  std::string name;
+  bool upper = true;
+  for (char const* c = Cases()[parameter.param].name; *c != '\0'; ++c) {
+    if (isalnum(*c) != 0) name += upper ? static_cast<char>(toupper(*c)) : *c;
+    upper = isalnum(*c) == 0;
+  }
+  return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, HostileEntry, testing::Range(size_t{0}, Cases().size()), TestName);
+
+TEST_F(HostilePackage, ADeviceNodeIsMadeOnlyForRootAndRefusedToOthers) {
+  sandbox_.CarryPackage(TarHeader("device", '3', 0) + SoundClient());
+  ASSERT_EQ(sandbox_.Launch().status, 0);
+  bool const made = fs::is_character_file(sandbox_.App() + "/device");
+  EXPECT_EQ(made, geteuid() == 0) << sandbox_.RawLog();
+  EXPECT_TRUE(made ? IsInstalled() : IsRolledBack());
+}
+
+TEST_F(HostilePackage, AHundredThousandEmptyEntriesAreInstalled) {
+  std::string bytes;
+  for (int i = 0; i < 100000; ++i) {
+    bytes += TarHeader("many/" + std::to_string(i % 100) + "/" + std::to_string(i), '0', 0);
+  }
+  sandbox_.CarryPackage(bytes + SoundClient());
+  test::Outcome const outcome = sandbox_.Launch();
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_TRUE(IsInstalled()) << sandbox_.RawLog();
+  EXPECT_LT(outcome.peak_kib, 200L * 1024) << "memory grows with the number of entries";
+  size_t files = 0;
+  for (auto const& entry : fs::recursive_directory_iterator(sandbox_.App() + "/many")) {
+    if (entry.is_regular_file()) ++files;
+  }
+  EXPECT_EQ(files, 100000U);
+}
+
+/// GNU tar's old sparse form: one byte at the end of 4 GiB.
+std::string SparseFile() {
+  constexpr unsigned long long kSize = 1ULL << 32;
+  std::string header = TarHeader("sparse", 'S', 512);
+  char number[16];
+  auto const put = [&](size_t at, unsigned long long value) {
+    snprintf(number, sizeof(number), "%011llo", value);
+    header.replace(at, 11, number);
+  };
+  header.replace(257, 8, std::string("ustar  \0", 8));
+  put(386, kSize - 512);
+  put(398, 512);
+  put(483, kSize);
+  header.replace(148, 8, "        ");
+  unsigned sum = 0;
+  for (char byte : header) sum += static_cast<unsigned char>(byte);
+  snprintf(number, sizeof(number), "%06o", sum);
+  header.replace(148, 8, std::string(number) + std::string("\0 ", 2));
+  return header + std::string(512, 's');
+}
+
+TEST_F(HostilePackage, ASparseFileOfFourGibibytesTakesNextToNoRoom) {
+  sandbox_.CarryPackage(SparseFile() + SoundClient());
+  ASSERT_EQ(sandbox_.Launch().status, 0);
+  EXPECT_TRUE(IsInstalled()) << sandbox_.RawLog();
+  struct stat info {};
+  ASSERT_EQ(stat((sandbox_.App() + "/sparse").c_str(), &info), 0);
+  EXPECT_EQ(info.st_size, off_t{1} << 32);
+  EXPECT_LT(info.st_blocks, 2048);
+}
+
+TEST_F(HostilePackage, AGzipBombFillsASmallDiskAndTheOldTreeComesBack) {
+  test::Mount home("none", sandbox_.Home(), "tmpfs", "size=2m");
+  if (!home.ok()) GTEST_SKIP() << home.reason();
+  sandbox_.Install(100);
+  std::vector<Entry> entries = {Entry::File("bomb", std::string(64 << 20, '\0') + "x")};
+  for (Entry const& entry : Sandbox::Client(200)) entries.push_back(entry);
+  // Zeros would become a hole.
+  entries[0].content.assign(entries[0].content.size(), 'b');
+  sandbox_.CarryPackage(test::MakeArchive(entries, "gnutar", "gzip"));
+  ASSERT_LT(fs::file_size(sandbox_.Package()), 200000U);
+  test::Outcome const outcome = sandbox_.Launch();
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_TRUE(IsRolledBack()) << sandbox_.RawLog();
+  EXPECT_EQ(sandbox_.AwaitStarts(1).back(), "100");
+}
+
+class DamagedPackage : public HostilePackage {
+ protected:
+  /// Unpacks in this process, which is a hundred times faster than a start.
+  int Extract(std::string const& bytes) {
+    sandbox_.CarryPackage(bytes);
+    fs::remove_all(folder_ / "tree");
+    fs::create_directories(folder_ / "tree");
+    Extractor extractor;
+    extractor.package_path = ustring(sandbox_.Package());
+    extractor.dest_path = ustring(folder_ / "tree");
+    return extractor.Extract();
+  }
+  Tree Extracted() const { return test::ReadTree(folder_ / "tree"); }
+
+  test::TempDir folder_;
+};
+
+TEST_F(DamagedPackage, CompressedAndCutAtAnyBlockIsRefused) {
+  std::mt19937 random(1);
+  std::vector<Entry> entries = Sandbox::Client(200);
+  for (char& byte : entries[3].content) byte = static_cast<char>(random());
+  std::string const whole = test::MakeArchive(entries, "gnutar", "gzip");
+  for (size_t size = 0; size < whole.size(); size += 512) {
+    EXPECT_EQ(Extract(whole.substr(0, size)), -1) << "cut at " << size;
+  }
+  EXPECT_EQ(Extract(whole), 0);
+}
+
+TEST_F(DamagedPackage, PlainTarCutBetweenTwoEntriesPassesForWhole) {
+  std::string const whole = SoundClient();
+  size_t passed = 0;
+  size_t refused = 0;
+  Extract(whole);
+  Tree const tree = Extracted();
+  for (size_t size = 0; size < whole.size(); size += 512) {
+    int const result = Extract(whole.substr(0, size));
+    (result == 0 ? passed : refused)++;
+    // Whatever passes is made of whole entries, the last ones are missing: INFO among them, so
+    // that the next start unpacks again.
+    Tree const part = Extracted();
+    if (result != 0 || part.size() == tree.size()) continue;
+    EXPECT_EQ(part.count("Contents/Resources/INFO"), 0U) << "cut at " << size;
+  }
+  EXPECT_GT(passed, 0U);
+  EXPECT_GT(refused, 0U);
+}
+
+/// What became of a thousand packages with one flipped bit each.
+struct Flips {
+  int refused = 0;
+  int same = 0;   ///< the whole tree, byte for byte
+  int other = 0;  ///< accepted, and something differs
+};
+
+class FlippedBit : public DamagedPackage, public testing::WithParamInterface<char const*> {
+ protected:
+  Flips FlipAThousand(std::string const& whole) {
+    std::mt19937 random(20);
+    EXPECT_EQ(Extract(whole), 0);
+    Tree const tree = Extracted();
+    Flips flips;
+    for (int i = 0; i < 1000; ++i) {
+      std::string bytes = whole;
+      size_t const at = random() % bytes.size();
+      bytes[at] = static_cast<char>(bytes[at] ^ (1 << random() % 8));
+      if (Extract(bytes) != 0) {
+        ++flips.refused;
+      } else {
+        (Extracted() == tree ? flips.same : flips.other)++;
+      }
+    }
+    return flips;
+  }
+};
+
+TEST_P(FlippedBit, NeverWritesOutsideAndPassesUnnoticedOnlyWhereNoChecksumIsLookedAt) {
+  Tree const beside = Beside();
+  std::string const filter = GetParam();
+  Flips const flips = FlipAThousand(test::MakeArchive(Sandbox::Client(200), "gnutar", filter));
+  EXPECT_EQ(Beside(), beside);
+  EXPECT_GT(flips.refused, 0);
+  // libarchive doesn't look at gzip's checksum; plain tar has one for headers alone.
+  EXPECT_EQ(flips.other != 0, filter != "xz");
+  std::cout << filter << ": " << flips.refused << " refused, " << flips.same << " whole, "
+            << flips.other << " with other bytes" << std::endl;
+}
+
+INSTANTIATE_TEST_SUITE_P(Filters, FlippedBit, testing::Values("none", "gzip", "xz"),
+                         [](auto const& parameter) { return std::string(parameter.param); });
+
+TEST_F(HostilePackage, AnyDamageGivesTheOldTreeBack) {
+  std::string const whole = test::MakeArchive(Sandbox::Client(200), "gnutar", "gzip");
+  for (size_t size : {size_t{0}, size_t{1}, size_t{17}, whole.size() / 2, whole.size() - 1}) {
+    sandbox_.CarryPackage(whole.substr(0, size));
+    ASSERT_EQ(sandbox_.Launch().status, 0);
+    EXPECT_TRUE(IsRolledBack()) << "cut at " << size << ": " << sandbox_.RawLog();
+  }
+}
+
+}  // namespace
