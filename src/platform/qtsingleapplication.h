@@ -20,9 +20,10 @@ class QtSingleApplication : public QApplication {
   ~QtSingleApplication() override;
 
   /// False in the one process that holds the guard, which is the first that asked, until it ends by
-  /// whatever cause; true in all others. Doesn't wait. Where no lock can be had, for want of a folder
-  /// or of space, the answer is false: two launchers at once are less likely than a user without
-  /// any. A holder that was killed within its first moments may count as one for ten seconds.
+  /// whatever cause; true in all others. Doesn't wait. Where no lock can be had, for want of a
+  /// folder or of space, the answer is false: two launchers at once are less likely than a user
+  /// without any. A holder that was killed within its first moments may count as one for ten
+  /// seconds.
   bool isRunning();
 
  private:
