@@ -531,15 +531,6 @@ int ustring::compare(ustring const& a, ustring const& b, bool ignore_case) {
   return ignore_case ? Difference(a.data, b.data, npos, Fold) : a.compare(b);
 }
 
-bool operator<(ustring const& a, ustring const& b) { return std::strcmp(a.c_str(), b.c_str()) < 0; }
-bool operator>(ustring const& a, ustring const& b) { return b < a; }
-bool operator==(ustring const& a, ustring const& b) {
-  return std::strcmp(a.c_str(), b.c_str()) == 0;
-}
-bool operator!=(ustring const& a, ustring const& b) { return !(a == b); }
-bool operator<=(ustring const& a, ustring const& b) { return a < b; }
-bool operator>=(ustring const& a, ustring const& b) { return b < a; }
-
 // ---- streams ----
 
 std::ostream& operator<<(std::ostream& out, ustring const& s) { return out << s.c_str(); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstring>
 #include <iosfwd>
 #include <string>
 #include <string_view>
@@ -239,12 +240,16 @@ ustring operator+(ustring const& a, unsigned short b);
 void swap(ustring& a, ustring& b) noexcept;
 
 /// By bytes. `<=` and `>=` are as strict as `<` and `>`: both are false for equal texts.
-bool operator<(ustring const& a, ustring const& b);
-bool operator>(ustring const& a, ustring const& b);
-bool operator==(ustring const& a, ustring const& b);
-bool operator!=(ustring const& a, ustring const& b);
-bool operator<=(ustring const& a, ustring const& b);
-bool operator>=(ustring const& a, ustring const& b);
+inline bool operator<(ustring const& a, ustring const& b) {
+  return std::strcmp(a.c_str(), b.c_str()) < 0;
+}
+inline bool operator==(ustring const& a, ustring const& b) {
+  return std::strcmp(a.c_str(), b.c_str()) == 0;
+}
+inline bool operator>(ustring const& a, ustring const& b) { return b < a; }
+inline bool operator!=(ustring const& a, ustring const& b) { return !(a == b); }
+inline bool operator<=(ustring const& a, ustring const& b) { return a < b; }
+inline bool operator>=(ustring const& a, ustring const& b) { return b < a; }
 
 std::ostream& operator<<(std::ostream& out, ustring const& s);
 /// Reads one word.
