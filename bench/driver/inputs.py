@@ -9,16 +9,13 @@ import subprocess
 import sysconfig
 
 SEED = 20140915
-VERSION = 1  # changes with what the trees hold, so that packages of another kind aren't used
+VERSION = 2  # changes with what the trees hold, so that packages of another kind aren't used
 
 EXECUTABLE = "Contents/MacOS/larkmoor-drive-ui"
 INFO = "Contents/Resources/INFO"
 INFO_TEXT = "[Version]\nmajor_version=3\nminor_version=1\nbuild_version={}\nicon_overlay_version=12\n"
 
 ICON = pathlib.Path(__file__).parents[2] / "resources/images/ico_72_larkmoor.png"
-
-# A letter takes four bits when it is packed, as in text.
-_LETTERS = bytes(b"etaoinshrdlucmfw"[value % 16] for value in range(256))
 
 FORMATS = {
     "tar.gz": ["--format", "gnutar", "--gzip"],
@@ -28,13 +25,24 @@ FORMATS = {
 }
 
 
+def _vocabulary():
+    """Words as short and as often repeated as those of a program's texts."""
+    source = random.Random(SEED)
+    return [bytes(source.choices(b"etaoinshrdlucmfw_.", k=source.randint(2, 10))) + b" "
+            for _ in range(4000)]
+
+
+_WORDS = _vocabulary()
+
+
 def content(source, size):
-    """A third can't be packed, a third is like text, a third repeats itself."""
-    raw = source.randbytes(size)
-    third = size // 3
-    repeated = raw[: third // 8 + 1] * 9
-    return (raw[:third] + raw[third : 2 * third].translate(_LETTERS)
-            + repeated[: size - 2 * third])
+    """A quarter can't be packed, as in pictures, half is words, a quarter repeats what stood
+    before: about half is left by gzip."""
+    quarter = size // 4
+    words = b"".join(source.choices(_WORDS, k=size // 14 + 1))[: 2 * quarter]
+    start = source.randbytes(quarter) + words
+    repeated = start[-4096:]
+    return (start + repeated * (size // max(1, len(repeated)) + 1))[:size]
 
 
 def _client(folder):

@@ -166,39 +166,53 @@ def install_growth(session):
 
 # ---- remove and copy ----
 
-def _removals(session, make_tree, renew=None):
-    """Each removes a tree made just before; on ext4 the file system is made anew as well."""
-    target = session.folder / "removed"
+class _Source:
+    """A tree or file made once, to be copied before each run."""
 
-    def contender(name, *command):
-        place = {"path": target}
+    def __init__(self, session, make):
+        self.path = session.folder / "source"
+        self.make = make
 
-        def prepare():
-            if renew:
-                place["path"] = renew() / "removed"
-            inputs.remove(place["path"])
-            make_tree(place["path"])
-            if renew:
-                subprocess.run(["sync", "-f", place["path"]], check=True)
+    def __enter__(self):
+        inputs.remove(self.path)
+        self.make(self.path)
+        return self.path
 
-        path = session.ext4.folder / "removed" if renew else target
-        return Contender(name, [*command, path], None, prepare)
+    def __exit__(self, *_):
+        inputs.remove(self.path)
+
+
+def _removals(session, source, ext4=None):
+    """Each removes a copy of the tree; on ext4 the file system is made anew as well."""
+    target = (ext4.folder if ext4 else session.folder) / "removed"
+
+    def prepare():
+        if ext4:
+            ext4.renew()
+        else:
+            inputs.remove(target)
+        subprocess.run(["cp", "-r", source, target], check=True)
+        if ext4:
+            subprocess.run(["sync", "-f", target], check=True)
 
     programs = session.build / "bench"
-    return [contender("FSRemove", programs / "bench-remove"), contender("rm -rf", "rm", "-rf"),
-            contender("each object checked", programs / "bench-remove-floor")]
+    return [
+        Contender("FSRemove", [programs / "bench-remove", target], None, prepare),
+        Contender("rm -rf", ["rm", "-rf", target], None, prepare),
+        Contender("each object checked", [programs / "bench-remove-floor", target], None, prepare),
+    ]
 
 
 def remove(session):
     plan = session.plan
     for name, make_tree in plan.removals:
-        session.compare(f"remove {name}, tmpfs", _removals(session, make_tree), plan.removal_rounds,
-                        1.6)
-        if session.ext4:
-            session.compare(f"remove {name}, ext4",
-                            _removals(session, make_tree, session.ext4.renew),
-                            plan.removal_rounds, 1.25)
-            session.ext4.close()
+        with _Source(session, make_tree) as source:
+            session.compare(f"remove {name}, tmpfs", _removals(session, source),
+                            plan.removal_rounds, 1.6)
+            if session.ext4:
+                session.compare(f"remove {name}, ext4", _removals(session, source, session.ext4),
+                                plan.removal_rounds, 1.25)
+                session.ext4.close()
 
 
 def remove_growth(session):
@@ -206,15 +220,19 @@ def remove_growth(session):
     for file, name, work, series in plan.removal_series:
         lines = {}
         for x, make_tree in series:
-            session.add_points(lines, x, _removals(session, make_tree), plan.growth_rounds)
+            with _Source(session, make_tree) as source:
+                session.add_points(lines, x, _removals(session, source), plan.growth_rounds)
         session.growth(file, name, work, lines)
 
 
-def _copies(session, source):
-    target = session.folder / "copied"
+def _copies(session, source, ext4=None):
+    target = (ext4.folder if ext4 else session.folder) / "copied"
 
     def prepare():
-        inputs.remove(target)
+        if ext4:
+            ext4.renew()
+        else:
+            inputs.remove(target)
 
     synced = 'cp -r "$1" "$2" && find "$2" -type f -exec sync {} +'
     return [
@@ -225,23 +243,23 @@ def _copies(session, source):
 
 def copy(session):
     plan = session.plan
-    source = session.folder / "source"
     for name, make, goal in plan.copies:
-        make(source)
-        session.compare(f"copy {name}", _copies(session, source), plan.copy_rounds, goal)
-        inputs.remove(source)
+        with _Source(session, make) as source:
+            session.compare(f"copy {name}, tmpfs", _copies(session, source), plan.copy_rounds, goal)
+            if session.ext4:
+                session.compare(f"copy {name}, ext4", _copies(session, source, session.ext4),
+                                plan.copy_rounds, goal)
+                session.ext4.close()
     inputs.remove(session.folder / "copied")
 
 
 def copy_growth(session):
     plan = session.plan
-    source = session.folder / "source"
     for file, name, work, series in plan.copy_series:
         lines = {}
         for x, make in series:
-            make(source)
-            session.add_points(lines, x, _copies(session, source), plan.growth_rounds)
-            inputs.remove(source)
+            with _Source(session, make) as source:
+                session.add_points(lines, x, _copies(session, source), plan.growth_rounds)
         session.growth(file, name, work, lines)
     inputs.remove(session.folder / "copied")
 

@@ -37,11 +37,11 @@ class Full:
     starts = 40
     memory_runs = 5
     notifications = (1000, 1000000)
-    installs = 9
-    removal_rounds = 9
-    copy_rounds = 11
-    growth_rounds = 5
-    part_repetitions = 7
+    installs = 5
+    removal_rounds = 5
+    copy_rounds = 7
+    growth_rounds = 3
+    part_repetitions = 5
     part_seconds = 0.05
     needs = 6 * GIB
     ext4_size = 2 * GIB

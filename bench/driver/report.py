@@ -7,6 +7,8 @@ import subprocess
 
 from measure import is_noisy
 
+MEANINGFUL_PAIRS = 3  # with less nothing is said of goals
+
 
 def _time(seconds):
     for unit, scale in (("s", 1), ("ms", 1e3), ("us", 1e6)):
@@ -16,7 +18,7 @@ def _time(seconds):
 
 
 def verdict(result):
-    if result.get("goal") is None:
+    if result.get("goal") is None or result["pairs"] < MEANINGFUL_PAIRS:
         return ""
     if is_noisy(result):
         return "noisy"
