@@ -80,6 +80,10 @@ Launcher::Launcher() : QObject(nullptr), worker(nullptr), dialog(nullptr) {
 }
 
 Launcher::~Launcher() {
+  // LaunchDone has joined the thread already, unless the system ended the event loop in the middle
+  // of the work: then the work goes on to its end here, without a window.
+  worker->QuitThread();
+  worker->JoinThread();
   delete worker;
   delete dialog;
 }

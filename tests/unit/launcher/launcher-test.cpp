@@ -294,4 +294,22 @@ TEST_F(ImpatientUser, ChangesNothingWithReturnSpaceOrAltF4) {
   });
 }
 
+TEST_F(LauncherTest, FinishesTheInstallationWhenTheSystemEndsTheLoopInItsMiddle) {
+  std::vector<Entry> entries;
+  for (int i = 0; i < 200; ++i) {
+    entries.push_back(Entry::File("Contents/" + std::to_string(i), std::string(1000, 'x')));
+  }
+  entries.push_back(Client());
+  Carry(entries);
+  {
+    Launcher launcher;
+    // As a session that ends, or the application menu's Quit, does.
+    QObject::connect(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, &launcher,
+                     [](int, int) { QCoreApplication::quit(); });
+    EXPECT_TRUE(RunToTheEnd(&launcher));
+  }
+  EXPECT_EQ(test::ReadTree(App() + "/Contents").size(), 202U);
+  EXPECT_EQ(log.OwnLines().back(), "[DEBUG] launcher(0): done");
+}
+
 }  // namespace
