@@ -16,3 +16,8 @@ if(LARKMOOR_SANITIZER)
   add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   add_link_options(-fsanitize=${LARKMOOR_SANITIZER})
 endif()
+if(LARKMOOR_COVERAGE)
+  # Two threads count in the same places.
+  add_compile_options(--coverage -fprofile-update=atomic)
+  add_link_options(--coverage)
+endif()

@@ -15,7 +15,7 @@ namespace StrTable {
 void InitStrTable();
 
 /// The text of row `id` in the language of the translator installed right now, in English where
-/// that has no translation. The two-character escapes \n and \t become a line break and a tab.
+/// that has no translation. The two-character escapes `\n` and `\t` become a line break and a tab.
 /// `id` is not checked: one outside the table is a programming error.
 QString LoadStr(int id);
 

@@ -192,4 +192,22 @@ TestArchiveForDownloadHoldsTheBundle() {
   expect_success check_bundle unpacked/Larkmoor.app
 }
 
+# What the copying itself does can be seen on a Mac alone.
+TestOnAMacTheLibrariesOfThePluginsAreCopiedToo() {
+  mkdir bin build
+  printf '#!/bin/sh\necho Darwin\n' >bin/uname
+  # shellcheck disable=SC2016  # for the stand-ins themselves
+  printf '#!/bin/sh\nprintf "%%s\\n" "$@" >>"%s/arguments"\n' "$PWD" >bin/macdeployqt
+  # shellcheck disable=SC2016
+  printf '#!/bin/sh\nplugins=$4/Larkmoor.app/Contents/Frameworks/plugins\n%s\n' \
+    'mkdir -p "$plugins/platforms" && touch "$plugins/platforms/libqcocoa.dylib"' >bin/cmake
+  touch build/cmake_install.cmake
+  chmod +x bin/*
+  PATH=$PWD/bin:$PATH expect_success "$SCRIPTS/make-bundle" --launcher build dist/Larkmoor.app
+  grep -q '/Larkmoor.app$' arguments || fail "not given the bundle: $(cat arguments)"
+  grep -qx -e -no-plugins arguments || fail "it would bring plug-ins of its own"
+  grep -q -e '-executable=.*/plugins/platforms/libqcocoa.dylib$' arguments ||
+    fail "not given the plug-in: $(cat arguments)"
+}
+
 run_tests

@@ -1,10 +1,13 @@
 #!/usr/bin/env bash
 # What the documents promise is there: commands, files, pictures, presets and log lines.
+#
+# usage: documents-test.sh BUILD
 
 # shellcheck source=tests/scripts/harness.sh
 . "$(dirname "$0")/harness.sh"
 
 PROJECT=$(dirname "$SCRIPTS")
+BUILD=$(cd "$1" && pwd -P)
 
 documents() { ls "$PROJECT"/*.md "$PROJECT"/docs/*.md "$PROJECT"/src/*/README.md 2>/dev/null; }
 
@@ -45,10 +48,10 @@ TestGroupsOfTheSetupScriptExist() {
 
 TestPresetsThatAreNamedExist() {
   # shellcheck disable=SC2046
-  grep -ohE -e '--preset [a-z]+' $(documents) | awk '{ print $2 }' | sort -u |
+  grep -ohE -e '--preset [a-z-]+' $(documents) | awk '{ print $2 }' | sort -u |
     expect_found "no such preset" is_preset
   # shellcheck disable=SC2016  # these are Markdown's
-  sed -n '/^| Preset/,/^$/s/^| `\([a-z]*\)`.*/\1/p' "$PROJECT/CONTRIBUTING.md" |
+  sed -n '/^| Preset/,/^$/s/^| `\([a-z-]*\)`.*/\1/p' "$PROJECT/CONTRIBUTING.md" |
     expect_found "no such preset" is_preset
 }
 
@@ -82,6 +85,71 @@ TestFilesOfTheSourcesThatAreNamedExist() {
   # shellcheck disable=SC2046,SC2016
   grep -ohE '`(src|tests|cmake|resources|docs)/[A-Za-z0-9/._-]+`' $(documents) | tr -d '`' | sort -u |
     expect_found "named but missing" is_in_project
+}
+
+TestTheLogsDocumentListsEveryFormatUnderItsComponentAndNoOther() {
+  python3 "$PROJECT/tests/scripts/log-formats.py" "$PROJECT/src" | sort -u >logged
+  [ "$(wc -l <logged)" -gt 50 ] || fail "hardly any format found in the sources"
+  # shellcheck disable=SC2016
+  sed -n -e '/^### Component/{s/.*`\(.*\)_debug`.*/\1/;h;}' \
+    -e '/^| `\[/{s/^| `\(\[\([A-Z]*\)\][^`]*\)`.*/\2\t\1/;G;s/\(.*\)\n\(.*\)/\2\t\1/;p;}' \
+    "$PROJECT/docs/log-file.md" | sort >documented
+  diff logged documented >difference || fail "< only logged, > only documented:" "$(cat difference)"
+}
+
+# Every block of commands runs, in a folder that looks like the project from outside. What would
+# take long is asked for its help there, which shows that it is there and takes its options.
+TestCommandLinesRun() {
+  local document count=0
+  make_stand_ins
+  for document in $(documents); do
+    # shellcheck disable=SC2016
+    sed -n '/^```sh$/,/^```$/{/^```/!p;}' "$document" >commands
+    [ -s commands ] || continue
+    count=$((count + 1))
+    PATH=$PWD/bin:$PATH bash -e commands >out 2>&1 </dev/null ||
+      fail "a command of ${document#"$PROJECT"/} fails:" "$(cat out)"
+  done
+  [ $count -gt 1 ] || fail "the documents hold no commands: the test looks in vain"
+}
+
+make_stand_ins() {
+  local name
+  mkdir -p scripts bin build path/to/client
+  ln -s "$BUILD" build/release
+  make_client path/to/client/Larkmoor.app 100
+  for name in "$SCRIPTS"/*; do
+    name=$(basename "$name")
+    case $name in
+      make-package | check-bundle | check-catalogues) write_stand_in "scripts/$name" '"$@"' ;;
+      make-bundle) write_stand_in "scripts/$name" "--launcher '$BUILD' \"\$@\"" ;;
+      *) write_stand_in "scripts/$name" -h ;;
+    esac
+  done
+  for name in cmake ctest; do
+    printf '#!/usr/bin/env bash\nexec bash %s %s "$@"\n' \
+      "'$PROJECT/tests/scripts/preset-stand-in.sh'" "'$(command -v $name)'" >"bin/$name"
+    chmod +x "bin/$name"
+  done
+}
+
+# write_stand_in FILE ARGUMENTS
+write_stand_in() {
+  printf '#!/usr/bin/env bash\nexec %s %s\n' "'$SCRIPTS/$(basename "$1")'" "$2" >"$1"
+  chmod +x "$1"
+}
+
+# Those for a Mac are only read: a shell says whether they are well formed.
+TestCommandLinesForAMacAreWellFormed() {
+  local document count=0
+  for document in $(documents); do
+    # shellcheck disable=SC2016
+    sed -n '/^```sh mac$/,/^```$/{/^```/!p;}' "$document" >commands
+    [ -s commands ] || continue
+    count=$((count + 1))
+    expect_success bash -n commands
+  done
+  [ $count -gt 0 ] || fail "the documents hold no commands for a Mac: the test looks in vain"
 }
 
 run_tests

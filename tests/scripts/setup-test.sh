@@ -26,7 +26,7 @@ TestDoesNothingWhenAllIsThere() {
   fake dpkg-query 'echo installed'
   fake apt-get 'echo called >>calls'
   expect_success setup all
-  expect_said "Everything for build test lint fuzz bench docs is installed"
+  expect_said "Everything for build test lint fuzz coverage bench docs is installed"
   [ ! -e calls ] || fail "apt-get was called"
 }
 
