@@ -47,6 +47,17 @@ foreach(plugin IN LISTS plugins)
   endif()
 endforeach()
 
+if(APPLE)
+  get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
+  get_filename_component(qt_programs ${qmake} DIRECTORY)
+  find_program(LARKMOOR_MACDEPLOYQT macdeployqt HINTS ${qt_programs})
+  install(CODE "
+    set(macdeployqt \"${LARKMOOR_MACDEPLOYQT}\")
+    set(bundle \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${LARKMOOR_BUNDLE}\")
+    include(\"${CMAKE_CURRENT_LIST_DIR}/CopyLibraries.cmake\")"
+    COMPONENT bundle)
+endif()
+
 configure_file(${CMAKE_CURRENT_LIST_DIR}/InstallPackage.cmake.in
   ${PROJECT_BINARY_DIR}/InstallPackage.cmake @ONLY)
 install(SCRIPT ${PROJECT_BINARY_DIR}/InstallPackage.cmake COMPONENT bundle)

@@ -192,22 +192,36 @@ TestArchiveForDownloadHoldsTheBundle() {
   expect_success check_bundle unpacked/Larkmoor.app
 }
 
-# What the copying itself does can be seen on a Mac alone.
+# copy_libraries TOOL: as the installation of a Mac's bundle does. What the tool itself does can be
+# seen on a Mac alone.
+copy_libraries() {
+  cmake -Dbundle="$PWD/Larkmoor.app" -Dmacdeployqt="$1" -P "$PROJECT/cmake/CopyLibraries.cmake"
+}
+
+make_mac_bundle() {
+  mkdir -p Larkmoor.app/Contents/Frameworks/plugins/platforms
+  touch Larkmoor.app/Contents/Frameworks/plugins/platforms/libqcocoa.dylib
+}
+
 TestOnAMacTheLibrariesOfThePluginsAreCopiedToo() {
-  mkdir bin build
-  printf '#!/bin/sh\necho Darwin\n' >bin/uname
-  # shellcheck disable=SC2016  # for the stand-ins themselves
-  printf '#!/bin/sh\nprintf "%%s\\n" "$@" >>"%s/arguments"\n' "$PWD" >bin/macdeployqt
-  # shellcheck disable=SC2016
-  printf '#!/bin/sh\nplugins=$4/Larkmoor.app/Contents/Frameworks/plugins\n%s\n' \
-    'mkdir -p "$plugins/platforms" && touch "$plugins/platforms/libqcocoa.dylib"' >bin/cmake
-  touch build/cmake_install.cmake
-  chmod +x bin/*
-  PATH=$PWD/bin:$PATH expect_success "$SCRIPTS/make-bundle" --launcher build dist/Larkmoor.app
-  grep -q '/Larkmoor.app$' arguments || fail "not given the bundle: $(cat arguments)"
-  grep -qx -e -no-plugins arguments || fail "it would bring plug-ins of its own"
-  grep -q -e '-executable=.*/plugins/platforms/libqcocoa.dylib$' arguments ||
-    fail "not given the plug-in: $(cat arguments)"
+  make_mac_bundle
+  # shellcheck disable=SC2016  # for the stand-in itself
+  printf '#!/bin/sh\nprintf "%%s\\n" "$@" >"%s/arguments"\n' "$PWD" >tool
+  chmod +x tool
+  expect_success copy_libraries "$PWD/tool"
+  expect_equal "$PWD/Larkmoor.app
+-no-plugins
+-always-overwrite
+-executable=$PWD/Larkmoor.app/Contents/Frameworks/plugins/platforms/libqcocoa.dylib" \
+    "$(cat arguments)"
+}
+
+TestOnAMacAFailureToCopyLibrariesIsOne() {
+  make_mac_bundle
+  printf '#!/bin/sh\nexit 1\n' >tool
+  chmod +x tool
+  expect_failure "can't copy the libraries" copy_libraries "$PWD/tool"
+  expect_failure "macdeployqt is missing" copy_libraries "$PWD/no-tool"
 }
 
 run_tests
