@@ -1,0 +1,123 @@
+// A worker thread and the main thread change one number that is no atomic. The argument says what
+// puts the two in order; the ways that begin with "no-" leave a race.
+#include <QCoreApplication>
+#include <QMutex>
+#include <QObject>
+#include <QThread>
+#include <QWaitCondition>
+#include <atomic>
+#include <string>
+
+namespace {
+
+int count = 0;
+QMutex mutex;
+QWaitCondition condition;
+bool counted = false;  // under the mutex
+/// Relaxed, so that it makes no order: it only sees to it that both threads are at it.
+std::atomic<bool> main_is_done{false};
+
+void AwaitMain() {
+  while (!main_is_done.load(std::memory_order_relaxed)) QThread::yieldCurrentThread();
+}
+
+}  // namespace
+
+/// Counts on the main thread, whichever way it is told to.
+class Counter : public QObject {
+  Q_OBJECT
+
+ public:
+  bool event(QEvent* event) override {
+    if (event->type() != QEvent::User) return QObject::event(event);
+    Count();
+    return true;
+  }
+
+ public slots:
+  void Count() {
+    ++count;
+    main_is_done.store(true, std::memory_order_relaxed);
+    QCoreApplication::quit();
+  }
+};
+
+class Worker : public QThread {
+  Q_OBJECT
+
+ public:
+  Worker(std::string way, Counter* counter) : way_(std::move(way)), counter_(counter) {}
+
+ signals:
+  void Counted();
+
+ protected:
+  void run() override {
+    if (way_ == "signal") {
+      ++count;
+      emit Counted();
+    } else if (way_ == "event") {
+      ++count;
+      QCoreApplication::postEvent(counter_, new QEvent(QEvent::User));
+    } else if (way_ == "no-order-after-signal") {
+      emit Counted();
+      AwaitMain();
+      ++count;
+    } else if (way_ == "no-order-after-event") {
+      QCoreApplication::postEvent(counter_, new QEvent(QEvent::User));
+      AwaitMain();
+      ++count;
+    } else if (way_ == "mutex" || way_ == "condition") {
+      QMutexLocker const locker(&mutex);
+      ++count;
+      counted = true;
+      condition.wakeAll();
+    } else {  // "start-and-end", "no-lock-on-main"
+      ++count;
+    }
+  }
+
+ private:
+  std::string way_;
+  Counter* counter_;
+};
+
+namespace {
+
+bool CountUnderMutex() {
+  QMutexLocker const locker(&mutex);
+  if (counted) ++count;
+  return counted;
+}
+
+void CountWhenWoken() {
+  QMutexLocker const locker(&mutex);
+  while (!counted) condition.wait(&mutex);
+  ++count;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QCoreApplication app(argc, argv);
+  std::string const way = argc > 1 ? argv[1] : "";
+  Counter counter;
+  Worker worker(way, &counter);
+  QObject::connect(&worker, SIGNAL(Counted()), &counter, SLOT(Count()));
+  ++count;
+  worker.start();
+  if (way == "mutex") {
+    while (!CountUnderMutex()) QThread::yieldCurrentThread();
+  } else if (way == "condition") {
+    CountWhenWoken();
+  } else if (way == "no-lock-on-main") {
+    ++count;
+  } else if (way != "start-and-end") {
+    QCoreApplication::exec();
+  }
+  worker.wait();
+  ++count;
+  return count >= 3 ? 0 : 1;
+}
+
+#include "shared-count.moc"
