@@ -13,6 +13,8 @@ constexpr int kReported = 66;
 test::Outcome Count(std::string const& way) {
   test::Process::Options options;
   options.arguments = {SHARED_COUNT, way};
+  // With GLib each event is written to a descriptor, an order that is seen without our help.
+  options.environment = {{"QT_NO_GLIB", "1"}};
   return test::Run(options);
 }
 
