@@ -177,13 +177,15 @@ TEST_F(ConfigTest, LeavesNoFileOpen) {
   EXPECT_EQ(after, before);
 }
 
-/// The descriptor that is open for reading a file, waited for; -1 when it doesn't come.
+/// The descriptor that is open for reading a file, waited for; -1 when it doesn't come. Descriptors
+/// of another thread are looked at by name: by number they are used in no order with that thread.
 int ReadingDescriptor(struct stat const& wanted) {
   auto const deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
   while (std::chrono::steady_clock::now() < deadline) {
     for (int descriptor = 0; descriptor < 256; ++descriptor) {
       struct stat found = {};
-      if (fstat(descriptor, &found) != 0 || found.st_ino != wanted.st_ino) continue;
+      std::string const name = "/dev/fd/" + std::to_string(descriptor);
+      if (stat(name.c_str(), &found) != 0 || found.st_ino != wanted.st_ino) continue;
       if (found.st_dev != wanted.st_dev) continue;
       if ((fcntl(descriptor, F_GETFL) & O_ACCMODE) == O_RDONLY) return descriptor;
     }
