@@ -606,6 +606,7 @@ int FSRemove(ustring const& path, [[maybe_unused]] bool ignored) {
 
 int FSMktemp(ustring const& directory, ustring& path) {
   char name[kPathBufferSize];
+  // A text that is cut has lost its XXXXXX and is refused.
   std::snprintf(name, sizeof(name), "%s/XXXXXX", directory.c_str());
   int const descriptor = mkostemp(name, O_CLOEXEC);
   if (descriptor < 0) {

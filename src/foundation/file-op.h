@@ -25,9 +25,9 @@ enum FileType {
 };
 
 /// What is known of an object. A link is described itself, not its target.
-struct _FILE_INFO_tag {  // NOLINT(bugprone-reserved-identifier)
-  ustring path;          ///< as the volume spells it, absolute and in NFC
-  ustring name;          ///< the last component of `path`
+struct _FILE_INFO_tag {
+  ustring path;  ///< as the volume spells it, absolute and in NFC
+  ustring name;  ///< the last component of `path`
   int type = FILE_TYPE_NONE;
   long mtime = 0;         ///< seconds since the epoch
   std::int64_t size = 0;  ///< bytes

@@ -123,7 +123,7 @@ int Logger::Initialize(Type type, ustring const& log_file, ustring const& level_
 void Logger::Destroy() {
   log_initialized = false;
   if (log_type == TYPE_FILE) {
-    if (FILE* const stream = log_fp) std::fclose(stream);
+    CloseLogFile();
     log_fp = stdout;
     log_type = TYPE_STDERR;
     log_path.clear();
@@ -155,7 +155,7 @@ void Logger::LogMsg2(Level level, ustring const& component, char const* format, 
 
 void Logger::ReloadLogFile() {
   if (IsStandardType()) return;
-  if (FILE* const stream = log_fp) std::fclose(stream);
+  CloseLogFile();
   if (!OpenLogFile(log_path)) log_fp = nullptr;
 }
 
@@ -165,7 +165,7 @@ int Logger::Rotate() {
   }
   std::remove(GenerationName(log_path, rotate_cnt - 1).text);
 
-  if (FILE* const stream = log_fp) std::fclose(stream);
+  CloseLogFile();
   // Only a failure may be seen as a null stream: a thread that looks meanwhile, ahead of the lock,
   // would drop its record.
   bool const is_renamed = std::rename(log_path.c_str(), GenerationName(log_path, 0).text) == 0;
@@ -225,6 +225,10 @@ bool Logger::OpenLogFile(ustring const& path) {
   log_fp = stream;
   *log_size = 0;
   return true;
+}
+
+void Logger::CloseLogFile() {
+  if (FILE* const stream = log_fp) std::fclose(stream);
 }
 
 void Logger::FollowRotation() {

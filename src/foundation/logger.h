@@ -113,6 +113,7 @@ class Logger {
   static bool IsStandardType();
   static bool IsPassing(Level level, ustring const& component);
   static bool OpenLogFile(ustring const& path);
+  static void CloseLogFile();
   static void FollowRotation();
   static int WriteRecord(char const* format, va_list args) __attribute__((format(printf, 1, 0)));
   static void CountWritten(int written);
