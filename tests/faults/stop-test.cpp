@@ -11,6 +11,7 @@
 #include <string>
 #include <thread>
 
+#include "faults/nobody.h"
 #include "support/sandbox.h"
 
 namespace {
@@ -168,19 +169,10 @@ TEST_F(StopMatrix, AStalePidCostsNoWaitAndNoLine) {
 }
 
 TEST_F(StopMatrix, TheProcessOfAnotherUserIsRefusedLoggedAndWaitedFor) {
-  if (geteuid() != 0) GTEST_SKIP() << "only root can start a launcher as another user";
-  constexpr unsigned kNobody = 65534;
+  if (!test::CanBecomeNobody()) GTEST_SKIP() << "only root can start a launcher as another user";
   Client client(kObedient, NotesFile());
   WritePidFile(std::to_string(client.pid()));
-  for (auto const& entry :
-       std::filesystem::recursive_directory_iterator(sandbox_.folder().path())) {
-    ASSERT_EQ(lchown(entry.path().c_str(), kNobody, kNobody), 0);
-  }
-  ASSERT_EQ(chown(sandbox_.folder().path().c_str(), kNobody, kNobody), 0);
-  test::Process::Options options = sandbox_.Start();
-  options.program = "/usr/bin/setpriv";
-  options.arguments.insert(options.arguments.begin(),
-                           {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"});
+  test::Process::Options const options = test::StartAsNobody(sandbox_);
   auto const begin = steady_clock::now();
   outcome_ = test::Process(options).Wait();
   auto const took = duration_cast<milliseconds>(steady_clock::now() - begin);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -170,6 +171,8 @@ size_t Tally::Sum() const {
   for (auto const& [name, count] : counts_) sum += count;
   return sum;
 }
+
+bool IsShort() { return getenv("LARKMOOR_SHORT_SWEEPS") != nullptr; }
 
 void Report(std::string const& line) {
   static std::ofstream figures = [] {

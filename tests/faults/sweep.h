@@ -76,6 +76,9 @@ class Tally {
   std::map<std::string, size_t> counts_;
 };
 
+/// Whether LARKMOOR_SHORT_SWEEPS asks for the same places with fewer runs at each.
+bool IsShort();
+
 /// Prints a line and adds it to the figures of this test program, which scripts/test shows.
 void Report(std::string const& line);
 

@@ -13,6 +13,7 @@
 #include <string>
 
 #include "faults/mount.h"
+#include "faults/nobody.h"
 #include "foundation/file-op.h"
 #include "support/sandbox.h"
 
@@ -143,29 +144,18 @@ bool LimitUser(std::string const& device, unsigned user, unsigned kib) {
 }
 
 TEST_F(Volume, AQuotaThatRunsOutGivesTheOldTreeBack) {
-  constexpr unsigned kNobody = 65534;
+  if (!test::CanBecomeNobody()) GTEST_SKIP() << "only root has no quota of its own";
   test::LoopDevice device(sandbox_.folder() / "disk", 16, "-O quota -E quotatype=usrquota");
   if (!device.ok()) GTEST_SKIP() << device.reason();
   Mount home(device.path(), sandbox_.Home(), "ext4", "");
   if (!home.ok()) GTEST_SKIP() << home.reason();
-  if (!LimitUser(device.path(), kNobody, 160)) {
+  if (!LimitUser(device.path(), test::kNobody, 160)) {
     GTEST_SKIP() << "this kernel has no quota: " << strerror(errno);
   }
   sandbox_.Install(100);
   Carry(BigClient(200));
   Tree const old = test::ReadTree(sandbox_.App());
-  ASSERT_EQ(chown(sandbox_.folder().path().c_str(), kNobody, kNobody), 0);
-  for (auto const& entry : fs::recursive_directory_iterator(sandbox_.folder().path())) {
-    if (entry.path().filename() != "lost+found") {
-      ASSERT_EQ(lchown(entry.path().c_str(), kNobody, kNobody), 0);
-    }
-  }
-  ASSERT_EQ(chown(sandbox_.Home().c_str(), kNobody, kNobody), 0);
-  test::Process::Options options = sandbox_.Start();
-  options.program = "/usr/bin/setpriv";
-  options.arguments.insert(options.arguments.begin(),
-                           {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"});
-  ASSERT_EQ(test::Run(options).status, 0);
+  ASSERT_EQ(test::Run(test::StartAsNobody(sandbox_)).status, 0);
   EXPECT_TRUE(LogHas("archive_read_extract2 failed")) << sandbox_.RawLog();
   EXPECT_TRUE(LogHas("rollback to old installation"));
   EXPECT_EQ(test::ReadTree(sandbox_.App()), old);
