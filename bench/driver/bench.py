@@ -20,9 +20,9 @@ from measure import Runner, compare, in_turn, median
 class Session:
     """One run: where, with what, how much, and what came of it."""
 
-    def __init__(self, build, folder, plan, display):
+    def __init__(self, build, results, folder, plan, display):
         self.build = build
-        self.results = build
+        self.results = results
         self.folder = folder
         self.plan = plan
         self.display = display
@@ -31,8 +31,7 @@ class Session:
         self.bundle = inputs.Bundle(folder, build, pathlib.Path(os.environ["QT_PLUGINS"]))
         self.carried = None
         self.ext4 = None
-        self.report = {"machine": workspace.machine(), "comparisons": [], "memory": [],
-                       "growths": [], "calls": {}, "parts": []}
+        self.report = reports.empty()
 
     def displays(self):
         """Where to run: never on the display of whoever runs this."""
@@ -85,41 +84,57 @@ def xvfb():
         server.wait()
 
 
+def results(arguments):
+    """Where the report goes: what a short run finds means nothing and is kept apart."""
+    folder = arguments.build / "short" if arguments.short else arguments.build
+    folder.mkdir(exist_ok=True)
+    return folder
+
+
 def run(arguments):
     plan = plans.Short() if arguments.short else plans.Full()
+    plan.limit(arguments.pairs)
     with contextlib.ExitStack() as stack:
         folder = stack.enter_context(workspace.memory(plan.needs))
-        session = Session(arguments.build, folder, plan, stack.enter_context(xvfb()))
+        session = Session(arguments.build, results(arguments), folder, plan, stack.enter_context(xvfb()))
         if workspace.FreshExt4.is_possible():
             session.ext4 = workspace.FreshExt4(folder, plan.ext4_size)
             stack.callback(session.ext4.close)
         else:
             print("No ext4 of our own without root and loop devices: measured on tmpfs alone.")
         for name in arguments.measures or measures.ALL:
-            begin = time.monotonic()
-            print(f"== {name}", flush=True)
-            measures.ALL[name](session)
-            print(f"   ({time.monotonic() - begin:.0f} s)", flush=True)
-        session.report["load_at_end"] = workspace.machine()["load"]
-        session.report["short"] = arguments.short
-        return session.report
+            measure(session, name)
+
+
+def measure(session, name):
+    """Its results take the place of earlier ones in the report."""
+    begin, load = time.monotonic(), workspace.load()
+    print(f"== {name}", flush=True)
+    session.report = reports.empty()
+    measures.ALL[name](session)
+    taken = round(time.monotonic() - begin)
+    print(f"   ({taken} s)", flush=True)
+    reports.keep(session.results, name, {
+        **session.report, "date": time.strftime("%Y-%m-%d %H:%M"), "seconds": taken,
+        "load": [load, workspace.load()], "machine": workspace.machine(),
+    })
 
 
 def main():
     parser = argparse.ArgumentParser(prog="scripts/bench")
     parser.add_argument("--build", type=pathlib.Path, required=True, help=argparse.SUPPRESS)
     parser.add_argument("--short", action="store_true")
+    parser.add_argument("--pairs", type=int, default=None)
     parser.add_argument("measures", nargs="*", metavar="MEASURE")
     arguments = parser.parse_args()
     for name in arguments.measures:
         if name not in measures.ALL:
             parser.error(f"there is no measure '{name}'; there are {', '.join(measures.ALL)}")
     try:
-        report = run(arguments)
+        run(arguments)
     except workspace.Failure as failure:
         sys.exit(f"bench: {failure}")
-    reports.write(report, arguments.build)
-    print("\n" + reports.text(report))
+    print("\n" + reports.write_text(results(arguments)))
 
 
 main()

@@ -79,6 +79,13 @@ class Full:
          [(n, _tree(n, n * 4000, n // 25)) for n in _doublings(250, 8000)]),
     ]
 
+    def limit(self, pairs):
+        """No measure takes more pairs than that."""
+        if pairs:
+            for name in ("starts", "memory_runs", "installs", "removal_rounds", "copy_rounds",
+                         "growth_rounds", "part_repetitions"):
+                setattr(self, name, min(pairs, getattr(self, name)))
+
     def __init__(self):
         name, make_tree = self.big
         self.big_of = lambda packages, kind: packages.get(name, [kind], make_tree)[kind]

@@ -47,7 +47,32 @@ def table(rows, heads):
     return "\n".join(lines)
 
 
-def text(report):
+def empty():
+    """What one measure may find."""
+    return {"comparisons": [], "memory": [], "growths": [], "calls": {}, "parts": []}
+
+
+def keep(folder, name, found):
+    """Puts what a measure found into the report, in place of what it found earlier."""
+    path = folder / "report.json"
+    report = json.loads(path.read_text()) if path.exists() else {}
+    report[name] = found
+    path.write_text(json.dumps(report, indent=1) + "\n")
+    for growth in found["growths"]:
+        draw(growth, folder)
+
+
+def write_text(folder):
+    content = text(json.loads((folder / "report.json").read_text()))
+    (folder / "report.txt").write_text(content + "\n")
+    return content
+
+
+def text(measures):
+    report = empty()
+    for found in measures.values():
+        for kind, results in report.items():
+            results.update(found[kind]) if kind == "calls" else results.extend(found[kind])
     parts = []
     if report["comparisons"]:
         parts.append(table([_row(result) for result in report["comparisons"]],
@@ -59,14 +84,28 @@ def text(report):
                  "met" if entry["value"] <= entry["limit"] else "missed"]
                 for entry in report["memory"]]
         parts.append(table(rows, ["peak memory", "against", "ours", "goal", ""]))
+    if report["parts"]:
+        parts.append(_parts_text(report["parts"]))
     for growth in report["growths"]:
         parts.append(_growth_text(growth))
     if report["calls"]:
         rows = [[call, str(counts[0]), str(counts[1]), f"{counts[0] - counts[1]:+d}"]
                 for call, counts in report["calls"].items() if counts[0] != counts[1]]
         parts.append(table(rows, ["system call", "launcher", "minimal", "difference"]))
-    parts.append(_believable(report))
+    parts.append(_conditions(measures))
     return "\n\n".join(parts)
+
+
+def _parts_text(parts):
+    """One line for each operation: how it stands to the closest peer over its series."""
+    rows = []
+    for name in dict.fromkeys(part["name"] for part in parts):
+        ratios = sorted(part["ratio"] for part in parts if part["name"] == name)
+        goal = next(part["goal"] for part in parts if part["name"] == name)
+        middle = ratios[len(ratios) // 2]
+        rows.append([name, "the closest", f"{ratios[0]:.2f}", f"{middle:.2f}", f"{ratios[-1]:.2f}",
+                     f"{goal:.2f}", "met" if ratios[-1] <= goal else "missed"])
+    return table(rows, ["part", "against", "least", "median", "most", "goal", ""])
 
 
 def exponent(points):
@@ -89,21 +128,17 @@ def _growth_text(growth):
     return f"{growth['name']}\n" + table(rows, [growth["work"], "", *names, "ratio"])
 
 
-def _believable(report):
-    noisy = [result["name"] for result in report["comparisons"] if is_noisy(result)]
-    before, after = report["machine"]["load"][0], report["load_at_end"][0]
-    line = f"Load of the machine: {before} at the start, {after} at the end."
-    if noisy:
-        return line + (" Too noisy to believe (A against A differs by more than 5%): "
-                       + "; ".join(noisy) + ".")
-    return line + " A against A differs by 5% at most throughout."
-
-
-def write(report, folder):
-    (folder / "report.json").write_text(json.dumps(report, indent=1) + "\n")
-    (folder / "report.txt").write_text(text(report) + "\n")
-    for growth in report["growths"]:
-        draw(growth, folder)
+def _conditions(measures):
+    """When each measure ran, and whether the machine was quiet enough to believe it."""
+    rows = []
+    for name, found in measures.items():
+        noisy = sum(is_noisy(result) for result in found["comparisons"])
+        of = len(found["comparisons"])
+        rows.append([name, found["date"], f"{found['load'][0]}, {found['load'][1]}",
+                     f"{found['seconds']} s", f"{noisy} of {of}" if of else ""])
+    lines = table(rows, ["measure", "run at", "load before, after", "took", "noisy"])
+    return lines + ("\n\nNoisy: two halves of the same measurement, A against A, differ by more than "
+                    "5 %: not to be believed. The cpu ratio bears more than the ratio of wall times.")
 
 
 def draw(growth, folder):

@@ -77,5 +77,9 @@ def machine():
         "processor": _processor(),
         "cores": os.cpu_count(),
         "system": f"{platform.system()} {platform.release()}",
-        "load": [round(load, 2) for load in os.getloadavg()],
     }
+
+
+def load():
+    """Processes that want to run, over the last minute."""
+    return round(os.getloadavg()[0], 1)
