@@ -5,6 +5,7 @@ import argparse
 import contextlib
 import os
 import pathlib
+import signal
 import subprocess
 import sys
 import time
@@ -55,8 +56,9 @@ class Session:
         print(f"   {name}: {value / 2**20:.1f} MiB of {limit / 2**20:.1f}", flush=True)
 
     def add_points(self, lines, x, contenders, rounds):
+        """Processor time: a line of a few points bears no noise."""
         for contender, samples in zip(contenders, in_turn(self.runner, contenders, rounds)):
-            lines.setdefault(contender.name, []).append([x, median(samples, "wall")])
+            lines.setdefault(contender.name, []).append([x, median(samples, "cpu")])
 
     def growth(self, file, name, work, lines, peers=1):
         """Lines of points: ours, then that many peers, then the floor."""
@@ -130,6 +132,8 @@ def main():
     for name in arguments.measures:
         if name not in measures.ALL:
             parser.error(f"there is no measure '{name}'; there are {', '.join(measures.ALL)}")
+    # So that the file systems are taken down when the run is cut short.
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit("bench: ended by a signal"))
     try:
         run(arguments)
     except workspace.Failure as failure:

@@ -149,7 +149,7 @@ def draw(growth, folder):
         "set terminal svg size 640,420 font 'sans-serif,13' background 'white'",
         f"set output '{folder / (growth['file'] + '.svg')}'",
         f"set title \"{growth['name']}\"", f"set xlabel \"{growth['work']}\"",
-        "set ylabel 'time'", "set logscale xy 2", "set key left top", "set grid",
+        "set ylabel 'processor time'", "set logscale xy 2", "set key left top", "set grid",
         "set format x '%.0s%c'", "set format y '%.1s %cs'",
     ]
     blocks, plots = [], []
