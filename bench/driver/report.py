@@ -142,15 +142,15 @@ def _conditions(measures):
 
 
 def draw(growth, folder):
-    """Both axes double from tick to tick: a cost that grows with its work is a straight line."""
+    """Both axes are logarithmic: a cost in proportion to its work is a straight line."""
     if not shutil.which("gnuplot"):
         return
     commands = [
         "set terminal svg size 640,420 font 'sans-serif,13' background 'white'",
         f"set output '{folder / (growth['file'] + '.svg')}'",
         f"set title \"{growth['name']}\"", f"set xlabel \"{growth['work']}\"",
-        "set ylabel 'processor time'", "set logscale xy 2", "set key left top", "set grid",
-        "set format x '%.0s%c'", "set format y '%.1s %cs'",
+        "set ylabel 'processor time'", "set logscale x 2", "set logscale y 10", "set key left top", "set grid",
+        "set format x '%.0s%c'", "set format y '%.0s %cs'",
     ]
     blocks, plots = [], []
     for i, (name, points) in enumerate(growth["lines"].items()):
