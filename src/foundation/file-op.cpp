@@ -342,9 +342,10 @@ int GetFileInfo(ustring const& path, _FILE_INFO_tag& info) {
   struct stat found;
   if (lstat(path.c_str(), &found) != 0) {
     if (errno != ENOENT) return -1;
-    info = _FILE_INFO_tag();
-    info.path = path;
-    info.name = FSBaseName(path);
+    _FILE_INFO_tag missing;
+    missing.path = path;  // which may be that of `info`
+    missing.name = FSBaseName(path);
+    info = missing;
     return 0;
   }
   FillFromStat(path, found, info);

@@ -227,6 +227,23 @@ TEST(GetFileInfo, SucceedsForAMissingFileWithAllNumbersZero) {
   EXPECT_EQ(info.dev, 0);
 }
 
+TEST(GetFileInfo, LooksAgainAtThePathThatItFilledInItself) {
+  TempDir folder;
+  std::string const path = folder / "file";
+  WriteFile(path, "");
+  _FILE_INFO_tag info;
+  EXPECT_EQ(GetFileInfo(path, info), 0);
+  EXPECT_EQ(GetFileInfo(info.path, info), 0);
+  EXPECT_TRUE(info.exists);
+  EXPECT_EQ(Text(info.path), path);
+
+  fs::remove(path);
+  EXPECT_EQ(GetFileInfo(info.path, info), 0);
+  EXPECT_FALSE(info.exists);
+  EXPECT_EQ(Text(info.path), path);
+  EXPECT_EQ(Text(info.name), "file");
+}
+
 TEST(GetFileInfo, FailsBelowARegularFile) {
   TempDir folder;
   WriteFile(folder / "file", "");
