@@ -91,6 +91,20 @@ TEST(GetFileInfoFault, SignExtendsTheDeviceNumberFrom32Bits) {
   EXPECT_EQ(info.dev, -2);
 }
 
+TEST(IsFileExistFault, AsksTheSystemNothingForAnEmptyPath) {
+  SystemCalls calls;
+  int looks = 0;
+  calls.lstat = [&looks](char const* path, struct stat* info) {
+    ++looks;
+    return test::LibraryLstat(path, info);
+  };
+  EXPECT_FALSE(IsFileExist("", false));
+  EXPECT_FALSE(IsFileExist("", true));
+  EXPECT_EQ(looks, 0);
+  EXPECT_TRUE(IsFileExist("/", false));
+  EXPECT_EQ(looks, 1);
+}
+
 TEST(FSStatFault, TellsALookThatFailsTheSecondTime) {
   TempDir folder;
   WriteFile(folder / "file", "");
