@@ -115,7 +115,7 @@ int FSChown(ustring const& path, unsigned int uid, unsigned int gid);
 /// mode is applied as it is, by way of the process's umask, and is not for a process in which
 /// other threads make files. `replace` removes what stands in the way. `stop`, when given, is set
 /// to the place in the text of `path` behind the last component that was tried. Returns 0, or -1
-/// with `errno` set.
+/// with `errno` set; an empty path gives -1 and sets neither.
 int FSMKDirP(ustring const& path, char** stop, bool replace, unsigned short mode);
 /// 0 when a directory stands there, -1 for a bad path or when something else stands in the way (a
 /// link to a directory is something else), -2 when it can't be made.

@@ -69,8 +69,8 @@ class Logger {
 
   /// Sets up output and thresholds; may be called again. `level_file` names a Config file of
   /// component=threshold lines, or is empty; when it is missing or malformed the thresholds stay
-  /// as they are. `rotate_count` is the number of generations, the live file included, and counts
-  /// for a log file only.
+  /// as they are. A log file keeps `rotate_count` - 1 old generations, and one also for a count of
+  /// 1; for the standard streams and syslog the count is ignored.
   /// Returns 0, or -1 when memory is short or the log file has no name or can't be opened; the
   /// type is then set already and the stream is still the earlier one. An earlier log file is not
   /// closed.
