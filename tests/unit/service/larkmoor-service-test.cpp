@@ -210,7 +210,7 @@ TEST_F(VersionLoading, TakesAMalformedFileAsEmptyAndDoesNotWriteToIt) {
   std::string const noise = std::string(
       "\x7F"
       "ELF[[[\0\xFF=\n]",
-      14);
+      12);
   WriteFile(UserInfo(), noise);
   service.LoadSourceVersion();
   EXPECT_THAT(log.OwnLines(), ElementsAre("[INFO] larkmoor-service(0): source_version = (, , , )"));
