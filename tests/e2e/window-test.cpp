@@ -109,7 +109,7 @@ TEST_F(Window, GoesOnWorkingAfterTheEscapeKey) {
     Tool({"xdotool", "windowfocus", "--sync", dialog, "key", "Escape"}, display);
     return FindDialog().empty();
   }));
-  EXPECT_TRUE(launcher.Running());
+  ASSERT_TRUE(launcher.Running()) << launcher.Wait().err;
   package.FeedTheRest();
   EXPECT_EQ(launcher.Wait().status, 0);
   EXPECT_THAT(box.AwaitStarts(1), testing::ElementsAre("100"));
@@ -122,7 +122,7 @@ TEST_F(Window, GoesOnWorkingWhenTheWindowManagerClosesIt) {
   std::string const dialog = AwaitDialog();
   Tool({LARKMOOR_TEST_CLOSE_WINDOW, dialog}, display);
   EXPECT_TRUE(test::WaitUntil([this] { return FindDialog().empty(); }));
-  EXPECT_TRUE(launcher.Running());
+  ASSERT_TRUE(launcher.Running()) << launcher.Wait().err;
   package.FeedTheRest();
   EXPECT_EQ(launcher.Wait().status, 0);
   EXPECT_THAT(box.AwaitStarts(1), testing::ElementsAre("100"));
