@@ -73,6 +73,15 @@ version_value() {
     END { print found }' "$1"
 }
 
+# Builds are compared as numbers of 32 bits.
+readonly GREATEST_BUILD=2147483647
+
+# is_build TEXT: whether the launcher reads the text as the number that it shows.
+is_build() {
+  case $1 in "" | *[!0-9]* | ???????????*) return 1 ;; esac
+  [ $((10#$1)) -le $GREATEST_BUILD ]
+}
+
 # The tar of libarchive: "bsdtar" on Debian, both names on a Mac.
 bsdtar_name() {
   if have bsdtar; then

@@ -28,6 +28,14 @@ repack() {
   (cd unpacked && "$@" && bsdtar -czf "../$package" --format gnutar ./*) || fail "can't repack"
 }
 
+# repack_in_order: packs the unpacked package as scripts/make-package orders it, but with "./" before
+# each name.
+repack_in_order() {
+  (cd unpacked && bsdtar -czn --format gnutar -f "../good/Larkmoor.app/Contents/Resources/package/larkmoor.lpk" \
+    ./Contents ./Contents/MacOS ./Contents/Resources ./Contents/Resources/über \
+    ./Contents/MacOS/larkmoor-drive-ui ./Contents/Resources/INFO) || fail "can't repack"
+}
+
 in_bundle() { (cd good/Larkmoor.app/Contents && "$@"); }
 
 TestBundleIsWhole() {
@@ -112,8 +120,24 @@ TestCheckFindsLauncherThatCannotBeExecuted() {
 
 TestCheckFindsMissingPlugins() {
   make_good_bundle
+  in_bundle mv Frameworks/plugins/platforms/libqxcb.so saved
+  expect_failure "can't open a window" check_bundle good/Larkmoor.app
+  in_bundle mv saved Frameworks/plugins/platforms/libqcocoa.dylib
+  expect_success check_bundle good/Larkmoor.app
   in_bundle rm -r Frameworks/plugins/platforms
   expect_failure "can't open a window" check_bundle good/Larkmoor.app
+}
+
+TestCheckFindsLibrariesThatAUsersMacWouldLack() {
+  make_good_bundle
+  mkdir bin
+  printf '#!/bin/sh\ncat libraries\n' >bin/otool
+  chmod +x bin/otool
+  printf '%s:\n\t@rpath/QtCore.framework/QtCore (x)\n\t/usr/lib/libSystem.B.dylib (x)\n' launcher >libraries
+  expect_success env PATH="$PWD/bin:$PATH" "$SCRIPTS/check-bundle" good/Larkmoor.app
+  printf '\t/opt/homebrew/opt/icu4c/lib/libicuuc.dylib (x)\n' >>libraries
+  expect_failure "libraries outside the bundle" \
+    env PATH="$PWD/bin:$PATH" "$SCRIPTS/check-bundle" good/Larkmoor.app
 }
 
 TestCheckFindsGlIntegrations() {
@@ -132,6 +156,8 @@ TestCheckFindsBuildThatIsNoNumber() {
   make_good_bundle
   in_bundle sed -i.bak 's/build_version=7/build_version=7b/' Resources/INFO
   expect_failure "'7b'" check_bundle good/Larkmoor.app
+  in_bundle sed -i.bak 's/build_version=7b/build_version=2147483648/' Resources/INFO
+  expect_failure "no number from 0 to 2147483647" check_bundle good/Larkmoor.app
   in_bundle sed -i.bak '/build_version/d' Resources/INFO
   expect_failure "has no build_version" check_bundle good/Larkmoor.app
 }
@@ -147,6 +173,36 @@ TestCheckFindsTruncatedAndDamagedPackages() {
   expect_failure "missing or empty" check_bundle good/Larkmoor.app
 }
 
+TestCheckFindsOneFlippedBitInAPackage() {
+  local package=good/Larkmoor.app/Contents/Resources/package/larkmoor.lpk
+  make_client client 7
+  head -c 20000 /dev/urandom >client/Contents/Resources/noise
+  expect_success "$SCRIPTS/make-package" client client.lpk
+  expect_success make_bundle --package client.lpk good/Larkmoor.app
+  # What can't be compressed is stored as it is, so that the middle of the package is noise.
+  python3 - $package <<'END'
+import sys
+
+with open(sys.argv[1], "r+b") as package:
+    package.seek(10000)
+    byte = package.read(1)[0]
+    package.seek(10000)
+    package.write(bytes([byte ^ 1]))
+END
+  bsdtar -xOf $package >/dev/null || fail "libarchive notices the bit: the test shows nothing"
+  expect_failure "the package is damaged" check_bundle good/Larkmoor.app
+}
+
+TestCheckFindsClientInThePackageThatCannotBeExecuted() {
+  make_good_bundle
+  repack chmod -x Contents/MacOS/larkmoor-drive-ui
+  repack_in_order
+  expect_failure "can't be executed" check_bundle good/Larkmoor.app
+  chmod +x unpacked/Contents/MacOS/larkmoor-drive-ui
+  repack_in_order
+  expect_success check_bundle good/Larkmoor.app
+}
+
 TestCheckFindsPackageThatIsNotFromTheInsideOfAClient() {
   make_good_bundle
   repack mv Contents/MacOS/larkmoor-drive-ui Contents/MacOS/client
@@ -157,6 +213,7 @@ TestCheckFindsWrongOrderAndHardLinks() {
   make_good_bundle
   repack mkdir Contents/Zoo
   expect_failure "doesn't end with" check_bundle good/Larkmoor.app
+  expect_not_said "has no Contents/Resources/INFO"
   repack ln Contents/Resources/INFO Contents/Resources/twin
   expect_failure "hard links" check_bundle good/Larkmoor.app
 }

@@ -176,8 +176,39 @@ TestRefusesNamesThatAMacCannotUnpack() {
   echo x >client/Contents/READ
   expect_failure "differ in nothing but case" pack client out.lpk
   rm client/Contents/READ
+  echo x >client/Contents/Über
+  echo x >client/Contents/über
+  expect_failure "differ in nothing but case" pack client out.lpk
+  rm client/Contents/Über
+  echo x >client/Contents/$'u\xcc\x88ber'
+  expect_failure "differ in nothing but case" pack client out.lpk
+  rm client/Contents/*ber
   echo x >client/Contents/._Read
   expect_failure "metadata of another file" pack client out.lpk
+}
+
+TestRefusesAFolderAsThePackagesName() {
+  make_client client 7
+  mkdir folder
+  expect_failure "is no name for the package" pack client folder
+  expect_failure "is no name for the package" pack client ""
+  expect_equal "" "$(ls -A folder)"
+}
+
+TestRefusesAFolderThatCannotBeRead() {
+  make_client client 7
+  mkdir client/Contents/closed
+  chmod 0 client/Contents/closed
+  if [ "$(id -u)" = 0 ]; then
+    skip_without setpriv
+    cp -R "$SCRIPTS" scripts
+    chmod 755 . && mkdir -m 777 place
+    expect_failure "change the mode or remove" setpriv --reuid 65534 --clear-groups \
+      env TMPDIR="$PWD/place" scripts/make-package client place/out.lpk
+  else
+    expect_failure "change the mode or remove" pack client out.lpk
+    chmod 755 client/Contents/closed
+  fi
 }
 
 TestRefusesWhatIsNoFileFolderOrLink() {
@@ -204,7 +235,13 @@ TestFailureLeavesAnOlderPackageAlone() {
 TestBuildThatIsNoNumberWarns() {
   make_client client seven
   expect_success pack client out.lpk
-  expect_said "holds no number as build_version"
+  expect_said "as build_version under [Version]: the launcher takes"
+  make_client client 2147483648
+  expect_success pack client out.lpk
+  expect_said "holds no number from 0 to 2147483647"
+  make_client client 2147483647
+  expect_success pack client out.lpk
+  expect_not_said "warning"
 }
 
 TestDrawsABarOnATerminal() {
