@@ -5,7 +5,6 @@
 
 #include <cstdlib>
 #include <ctime>
-#include <new>
 
 #include "service/config.h"
 

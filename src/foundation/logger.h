@@ -1,7 +1,7 @@
 #pragma once
 
 #include <atomic>
-#include <cstdarg>
+#include <cstdarg>  // IWYU pragma: keep
 #include <cstdint>
 #include <cstdio>
 #include <map>

@@ -1,7 +1,6 @@
 #include <QDesktopServices>
 #include <QProcess>
 #include <QString>
-#include <QStringList>
 #include <QUrl>
 
 #include "platform/bundle.h"

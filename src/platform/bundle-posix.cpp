@@ -7,7 +7,6 @@
 #include <QFile>
 #include <QProcess>
 #include <QString>
-#include <QStringList>
 
 #include "platform/bundle.h"
 

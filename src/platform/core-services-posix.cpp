@@ -1,7 +1,7 @@
 #include <fcntl.h>
 #include <linux/openat2.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
+#include <sys/syscall.h>  // IWYU pragma: keep
 #include <unistd.h>
 
 #include <cerrno>

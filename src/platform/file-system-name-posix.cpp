@@ -1,5 +1,5 @@
 #include <linux/magic.h>
-#include <sys/vfs.h>
+#include <sys/statfs.h>
 
 #include "platform/file-system-name.h"
 

@@ -2,7 +2,7 @@
 #include <unistd.h>
 
 #include <QByteArray>
-#include <QCryptographicHash>
+#include <QCryptographicHash>  // IWYU pragma: keep
 #include <QString>
 #include <cerrno>
 

@@ -3,7 +3,6 @@
 #include <signal.h>
 #include <unistd.h>
 
-#include <fstream>
 #include <regex>
 #include <sstream>
 #include <stdexcept>

@@ -5,7 +5,6 @@
 #include <sstream>
 #include <stdexcept>
 #include <utility>
-#include <vector>
 
 #include "foundation/ustring.h"
 #include "support/captured-cerr.h"

@@ -5,14 +5,12 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
 #include <filesystem>
 #include <set>
 #include <string>
-#include <vector>
 
 #include "foundation/file-op.h"
 #include "foundation/tmp-name-gen.h"

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include <QString>
-#include <QVector>
 #include <map>
 #include <random>
 #include <sstream>
@@ -11,7 +10,6 @@
 #include <string>
 #include <type_traits>
 #include <utility>
-#include <vector>
 
 #include "support/captured-cerr.h"
 #include "support/ustring-model.h"

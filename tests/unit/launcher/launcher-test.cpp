@@ -5,8 +5,6 @@
 #include <sys/stat.h>
 
 #include <QApplication>
-#include <QCloseEvent>
-#include <QLabel>
 #include <QMetaMethod>
 #include <QProgressBar>
 #include <QPushButton>

@@ -6,7 +6,6 @@
 #include <QProcessEnvironment>
 #include <QSet>
 #include <QStringList>
-#include <map>
 #include <string>
 #include <vector>
 

@@ -4,8 +4,6 @@
 //
 // usage: language-probe [RESOURCE-FILE]: with one, its catalogues instead of the compiled-in ones
 
-#include <QFile>
-#include <QLocale>
 #include <QResource>
 #include <QTextStream>
 #include <cstdio>

@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QSet>
-#include <QStringList>
 #include <QTranslator>
 #include <algorithm>
 #include <iterator>

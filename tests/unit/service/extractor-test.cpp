@@ -5,7 +5,6 @@
 #include <gmock/gmock.h>
 
 #include <QObject>
-#include <memory>
 
 #include "launcher/notify-adapter.h"
 #include "localisation/str-table.h"
