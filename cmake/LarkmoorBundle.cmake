@@ -7,10 +7,6 @@
 # Both are read when installing, from the environment first, so that one build serves many packages.
 set(LARKMOOR_PACKAGE "" CACHE FILEPATH "Package of the client that the bundle carries")
 set(LARKMOOR_INFO "" CACHE FILEPATH "INFO of the bundle; empty for the one inside the package")
-set(LARKMOOR_MACOS_MINIMUM 10.13)
-if(CMAKE_OSX_DEPLOYMENT_TARGET)
-  set(LARKMOOR_MACOS_MINIMUM ${CMAKE_OSX_DEPLOYMENT_TARGET})
-endif()
 
 set(LARKMOOR_BUNDLE Larkmoor.app)
 set(contents ${LARKMOOR_BUNDLE}/Contents)

@@ -70,6 +70,15 @@ TestVersionOfTheBundleIsTheProjects() {
   expect_said "version $version, build 7, 6 entries, no fault"
 }
 
+TestPropertyListAsksForTheMacOSThatTheLauncherIsCompiledFor() {
+  make_good_bundle
+  local target
+  target=$(sed -n 's/^CMAKE_OSX_DEPLOYMENT_TARGET:[A-Z]*=//p' "$BUILD/CMakeCache.txt")
+  [ -n "$target" ] || fail "the build leaves it to the Mac that it runs on"
+  expect_equal "  <string>$target</string>" \
+    "$(grep -A 1 LSMinimumSystemVersion good/Larkmoor.app/Contents/Info.plist | tail -n 1)"
+}
+
 TestInfoCanBeGivenByItself() {
   make_client client 7
   expect_success "$SCRIPTS/make-package" client client.lpk
@@ -93,6 +102,11 @@ TestRefusesToReplaceWhatIsNoBundle() {
   mkdir photos
   expect_failure "is no bundle" make_bundle photos
   [ -d photos ] || fail "the folder is gone"
+}
+
+TestRefusesAPlaceThatCannotBeWritten() {
+  echo text >file
+  expect_failure "give another place for the bundle" make_bundle file/Larkmoor.app
 }
 
 TestRefusesMissingPackageAndBuild() {
