@@ -22,6 +22,19 @@ have() { command -v "$1" >/dev/null 2>&1; }
 
 on_mac() { [ "$(uname -s)" = Darwin ]; }
 
+# wait_until SECONDS COMPLAINT COMMAND...: polls until the command succeeds.
+wait_until() {
+  local deadline=$((SECONDS + $1)) complaint=$2
+  shift 2
+  until "$@"; do
+    [ $SECONDS -lt $deadline ] || die "$complaint"
+    sleep 0.1
+  done
+}
+
+# Whether a window manager is at work on $DISPLAY.
+manager_runs() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
+
 # Number of parallel jobs: LARKMOOR_JOBS, else one for each core.
 jobs_wanted() {
   if [ -n "${LARKMOOR_JOBS:-}" ]; then

@@ -2,10 +2,12 @@
 
 #include <gmock/gmock.h>
 
+#include <QCoreApplication>
 #include <QSignalSpy>
 #include <QThread>
+#include <algorithm>
 #include <memory>
-#include <set>
+#include <vector>
 
 namespace {
 
@@ -24,6 +26,12 @@ TEST(NotifyAdapter, IsOneObjectAlsoForOtherThreads) {
 TEST(NotifyAdapter, DoesNothingWhenNobodyListens) {
   Notify_Adapter::GetInstance()->UpdateProgress(3, 1);
   Notify_Adapter::GetInstance()->UpdateDialogText(QStringLiteral("nobody reads this"));
+  // Nothing is kept for who comes later.
+  QSignalSpy const progress(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateProgress(int, int)));
+  QSignalSpy const text(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateDialogText(QString)));
+  QCoreApplication::sendPostedEvents();
+  EXPECT_TRUE(progress.isEmpty());
+  EXPECT_TRUE(text.isEmpty());
 }
 
 TEST(NotifyAdapter, HandsOnItsArgumentsInTheirOrder) {
