@@ -43,8 +43,10 @@ is_mode() { "$SCRIPTS/test" -h | grep -qE "^  $1 "; }
 TestGroupsOfTheSetupScriptExist() {
   # shellcheck disable=SC2046
   grep -ohE 'scripts/setup [a-z]+`' $(documents) | tr -d '`' | awk '{ print $2 }' | sort -u |
-    expect_found "no group of scripts/setup" "$SCRIPTS/setup" -l
+    expect_found "no group of scripts/setup" is_group
 }
+
+is_group() { "$SCRIPTS/setup" -l "$1" >/dev/null; }
 
 TestPresetsThatAreNamedExist() {
   # shellcheck disable=SC2046
@@ -54,6 +56,14 @@ TestPresetsThatAreNamedExist() {
   sed -n '/^| Preset/,/^$/s/^| `\([a-z-]*\)`.*/\1/p' "$PROJECT/CONTRIBUTING.md" |
     expect_found "no such preset" is_preset
 }
+
+TestTheTableOfPresetsHasAllOfThem() {
+  # shellcheck disable=SC2016
+  sed -n '/"buildPresets"/,/]/s/.*"name": "\([a-z-]*\)".*/| `\1` |/p' "$PROJECT/CMakePresets.json" |
+    expect_found "missing in CONTRIBUTING.md" is_in_contributing
+}
+
+is_in_contributing() { grep -qF -e "$1" "$PROJECT/CONTRIBUTING.md"; }
 
 is_preset() { grep -q "\"name\": \"$1\"" "$PROJECT/CMakePresets.json"; }
 
