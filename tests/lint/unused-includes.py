@@ -23,8 +23,9 @@ def main():
     judged = {path for path, _, _ in BLOCK.findall(report)}
     judged.update(re.findall(r"^\((\S+) has correct #includes/fwd-decls\)$", report, re.MULTILINE))
     missing = sorted(set(files) - judged)
-    unused = sorted({(path, line[2:].split("  //")[0]) for path, what, lines in BLOCK.findall(report)
-                     if what == "remove" for line in lines.splitlines()})
+    unused = sorted({(path, line[2:].split("  //")[0])
+                     for path, what, lines in BLOCK.findall(report) if what == "remove"
+                     for line in lines.splitlines()})
     for path, line in unused:
         print(f"{path}: unused: {line}")
     if missing:

@@ -123,6 +123,13 @@ TestCommandLinesRun() {
   [ $count -gt 1 ] || fail "the documents hold no commands: the test looks in vain"
 }
 
+TestNoCommandHidesInABlockThatIsOnlyIndented() {
+  local hidden
+  # shellcheck disable=SC2046
+  hidden=$(grep -nE '^    ([A-Z_]+=\S+ )*(scripts/|cmake |ctest |cpack )' $(documents))
+  [ -z "$hidden" ] || fail "not run by TestCommandLinesRun:" "$hidden"
+}
+
 make_stand_ins() {
   local name
   mkdir -p scripts bin build path/to/client
