@@ -2,7 +2,6 @@
 #include <gmock/gmock.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
-#include <sys/sysmacros.h>
 #include <sys/un.h>
 #include <unistd.h>
 
@@ -16,6 +15,11 @@
 #include "support/file-op-log.h"
 #include "support/files.h"
 #include "support/unprivileged.h"
+
+// makedev(), where <sys/types.h> hasn't got it.
+#if __has_include(<sys/sysmacros.h>)
+#include <sys/sysmacros.h>
+#endif
 
 namespace fs = std::filesystem;
 using test::FileOpLog;
