@@ -86,6 +86,15 @@ class LauncherTest : public testing::Test {
   static void UpdateProgress(Launcher* launcher, int total, int steps) {
     QMetaObject::invokeMethod(launcher, "UpdateProgress", Q_ARG(int, total), Q_ARG(int, steps));
   }
+  /// A package that leaves time to do something while it is unpacked.
+  static void CarryTwoHundredFiles() {
+    std::vector<Entry> entries;
+    for (int i = 0; i < 200; ++i) {
+      entries.push_back(Entry::File("Contents/" + std::to_string(i), std::string(1000, 'x')));
+    }
+    entries.push_back(Client());
+    Carry(entries);
+  }
   /// Runs as main does. False when the sequence did not end in time.
   static bool RunToTheEnd(Launcher* launcher) {
     QTimer guard;
@@ -246,12 +255,7 @@ TEST_F(LauncherTest, StartsTheSequenceOnce) {
 class ImpatientUser : public LauncherTest {
  protected:
   void RunWith(std::function<void(QWidget*)> const& act) {
-    std::vector<Entry> entries;
-    for (int i = 0; i < 200; ++i) {
-      entries.push_back(Entry::File("Contents/" + std::to_string(i), std::string(1000, 'x')));
-    }
-    entries.push_back(Client());
-    Carry(entries);
+    CarryTwoHundredFiles();
     Launcher launcher;
     bool acted = false;
     QObject::connect(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, &launcher,
@@ -293,12 +297,7 @@ TEST_F(ImpatientUser, ChangesNothingWithReturnSpaceOrAltF4) {
 }
 
 TEST_F(LauncherTest, FinishesTheInstallationWhenTheSystemEndsTheLoopInItsMiddle) {
-  std::vector<Entry> entries;
-  for (int i = 0; i < 200; ++i) {
-    entries.push_back(Entry::File("Contents/" + std::to_string(i), std::string(1000, 'x')));
-  }
-  entries.push_back(Client());
-  Carry(entries);
+  CarryTwoHundredFiles();
   {
     Launcher launcher;
     // As a session that ends, or the application menu's Quit, does.
