@@ -86,6 +86,26 @@ version_value() {
     END { print found }' "$1"
 }
 
+# leads_out PATH TARGET: whether the text of a link at this place of a bundle leads out of it.
+leads_out() {
+  local rest part depth
+  case $2 in /*) return 0 ;; esac
+  rest=${1//[!\/]/}
+  depth=${#rest}
+  rest=$2/
+  while [ -n "$rest" ]; do
+    part=${rest%%/*}
+    rest=${rest#*/}
+    case $part in
+      "" | .) ;;
+      ..) depth=$((depth - 1)) ;;
+      *) depth=$((depth + 1)) ;;
+    esac
+    [ "$depth" -ge 0 ] || return 0
+  done
+  return 1
+}
+
 # Builds are compared as numbers of 32 bits.
 readonly GREATEST_BUILD=2147483647
 

@@ -232,6 +232,17 @@ TestCheckFindsWrongOrderAndHardLinks() {
   expect_failure "hard links" check_bundle good/Larkmoor.app
 }
 
+TestCheckFindsLinksThatLeadOut() {
+  make_good_bundle
+  repack ln -s ../Resources/INFO Contents/MacOS/inside
+  expect_failure "doesn't end with" check_bundle good/Larkmoor.app
+  expect_not_said "leads to"
+  repack ln -s ../../../elsewhere Contents/MacOS/out
+  expect_failure "leads to '../../../elsewhere', outside" check_bundle good/Larkmoor.app
+  repack ln -s /etc Contents/MacOS/absolute
+  expect_failure "leads to '/etc', outside" check_bundle good/Larkmoor.app
+}
+
 TestCheckFindsNamesThatLeadOut() {
   make_good_bundle
   echo x >outside
