@@ -37,15 +37,22 @@ constexpr Fault kFaults[] = {
 /// Calls that are made again after EINTR would be for ever if it never ended.
 constexpr unsigned kInterruptions = 25;
 
+/// Which calls fail.
+enum class Spread {
+  kOnce,
+  kOnwards,
+  kOnwardsButTheLog  ///< as if the log lay elsewhere, so that it can tell of all the failures
+};
+
 struct Point {
   bool sound;
   test::SystemCall call;
   unsigned number;
   Fault const* fault;
-  bool onwards;
+  Spread spread;
 };
 
-/// What a call that fails once has to leave in the log. Where `lines` is empty nothing is logged,
+/// What a call that fails has to leave in the log. Where `lines` is empty nothing is logged,
 /// for the reason given; otherwise one of them is, but for the `unless` where there is one. The
 /// first rule that fits holds.
 struct Rule {
@@ -54,6 +61,8 @@ struct Rule {
   std::vector<std::string> lines;
   char const* unless;
 };
+
+constexpr char kLogFolder[] = ".Larkmoor/log";
 
 constexpr char kLog[] = "the log can't tell of its own failure";
 constexpr char kIcon[] = "the dialog goes without its icon";
@@ -105,7 +114,9 @@ Rule const* RuleFor(test::SystemCall const& call) {
 
 std::string Describe(Point const& point) {
   return std::string(point.sound ? "upgrade" : "rollback") + ": " + point.call.name + " " +
-         point.call.path + " [" + point.fault->name + (point.onwards ? " onwards" : "") + "]";
+         point.call.path + " [" + point.fault->name +
+         (point.spread == Spread::kOnce ? "" : " onwards") +
+         (point.spread == Spread::kOnwardsButTheLog ? " but for the log]" : "]");
 }
 
 class FaultSweep : public testing::Test {
@@ -127,8 +138,10 @@ class FaultSweep : public testing::Test {
       for (Fault const& fault : kFaults) {
         if (test::IsShort() && !fault.in_short) continue;
         if (fault.action == Injection::Action::kShorten && run.calls[i].name != "write") continue;
-        for (bool onwards : {false, true}) {
-          points_.push_back({sound, run.calls[i], i + 1, &fault, onwards});
+        for (Spread spread : {Spread::kOnce, Spread::kOnwards, Spread::kOnwardsButTheLog}) {
+          bool const spared = run.calls[i].path.rfind(kLogFolder, 0) == 0;
+          if (spread == Spread::kOnwardsButTheLog && spared) continue;
+          points_.push_back({sound, run.calls[i], i + 1, &fault, spread});
         }
       }
     }
@@ -139,7 +152,8 @@ class FaultSweep : public testing::Test {
     injection.action = point.fault->action;
     injection.error = point.fault->error;
     injection.at = point.number;
-    if (point.onwards) {
+    if (point.spread == Spread::kOnwardsButTheLog) injection.spared = kLogFolder;
+    if (point.spread != Spread::kOnce) {
       injection.count = point.fault->error == EINTR ? kInterruptions : Injection::kOnwards;
     }
     return injection;
@@ -153,7 +167,7 @@ class FaultSweep : public testing::Test {
     EXPECT_EQ(run.outcome.status, 0) << what << ", signal " << run.outcome.signal;
     ExpectATree(box, point, what);
     ExpectStarted(box, what);
-    if (point.onwards) {
+    if (point.spread == Spread::kOnwards) {
       onwards_.Add(box.State());
     } else {
       std::string const log = box.sandbox().RawLog() + run.outcome.err;
@@ -165,7 +179,7 @@ class FaultSweep : public testing::Test {
     if (box.HoldsFormer() || box.HoldsCarried()) return;
     // The one way to lose the old tree: it can't be looked at just when it is to be moved aside,
     // the package turns out to be damaged, and it has been unpacked into the old tree.
-    bool const known = !point.sound && !point.onwards && point.call.name == "stat" &&
+    bool const known = !point.sound && point.spread == Spread::kOnce && point.call.name == "stat" &&
                        point.call.path == ".Larkmoor/Larkmoor.app";
     EXPECT_TRUE(known) << what << ": " << box.State();
     lost_.Add(kNotThere);
@@ -187,16 +201,20 @@ class FaultSweep : public testing::Test {
     bool const told = std::any_of(rule->lines.begin(), rule->lines.end(), has);
     bool const shortened = point.fault->action == Injection::Action::kShorten;
     bool const undone = point.sound && !box.HoldsCarried();
+    test::Tally& tally = point.spread == Spread::kOnce ? once_ : spared_;
+    if (box.Starts() == 0 && rule->unless != kLog) {
+      EXPECT_TRUE(has("Failed to launch Larkmoor UI")) << what << ": " << log;
+    }
     if (undone && rule->unless != kTarget && rule->unless != kLog) {
       EXPECT_TRUE(has("Failed to upgrade package")) << what << ": " << log;
     }
     if (told) {
-      once_.Add("told in the log");
+      tally.Add("told in the log");
     } else if (shortened) {
       EXPECT_FALSE(undone) << what << ": " << log;
-      once_.Add("not told: the rest of a short write is written");
+      tally.Add("not told: the rest of a short write is written");
     } else if (rule->unless != nullptr) {
-      once_.Add(std::string("not told: ") + rule->unless);
+      tally.Add(std::string("not told: ") + rule->unless);
     } else {
       ADD_FAILURE() << what << " logged " << log;
     }
@@ -206,6 +224,7 @@ class FaultSweep : public testing::Test {
   std::vector<Point> points_;
   test::Tally once_;
   test::Tally onwards_;
+  test::Tally spared_;
   test::Tally lost_;
 };
 
@@ -221,6 +240,7 @@ TEST_F(FaultSweep, EndsWithATreeAndALineAtEveryCall) {
   };
   report("failing once", once_);
   report("failing from then on, by what is left", onwards_);
+  report("failing from then on, but for the log", spared_);
   report("the old tree spoilt", lost_);
   // One call, whatever its error.
   EXPECT_EQ(lost_.Sum(), test::IsShort() ? 3U : 7U);

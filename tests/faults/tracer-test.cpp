@@ -90,6 +90,17 @@ TEST_F(TracerTest, LeavesCallsAloneBeforeTheOneThatIsMeant) {
   EXPECT_EQ(test::ReadFile(folder_ / "watched/file"), "one\n");
 }
 
+TEST_F(TracerTest, LeavesCallsAloneBelowThePathThatIsSpared) {
+  std::filesystem::create_directory(folder_ / "watched");
+  Injection injection = Inject(Injection::Action::kFail, 1, EROFS);
+  injection.count = Injection::kOnwards;
+  injection.spared = "watched/file";
+  test::TracedRun const run = Shell("cd watched; echo one > file; echo two > file2", injection);
+  EXPECT_EQ(test::ReadFile(folder_ / "watched/file"), "one\n");
+  EXPECT_FALSE(std::filesystem::exists(folder_ / "watched/file2"));
+  EXPECT_EQ(run.hit.path, "watched/file2");
+}
+
 TEST_F(TracerTest, SeesWhatTheProgramsChildrenDoAsNoneOfItsOwn) {
   std::filesystem::create_directory(folder_ / "watched");
   test::TracedRun const run =

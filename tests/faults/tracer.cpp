@@ -361,7 +361,8 @@ class Tracer {
     if (injection_.changes_only && !call.changes) return Resume(pid, 0);
     run_.calls.push_back(call);
     size_t const number = run_.calls.size();
-    bool const is_due = number >= injection_.at && number - injection_.at < injection_.count;
+    bool const is_due = number >= injection_.at && number - injection_.at < injection_.count &&
+                        (injection_.spared.empty() || !IsBelow(injection_.spared, call.path));
     if (!is_due || injection_.action == Injection::Action::kNone) return Resume(pid, 0);
     Inject(pid, stop, *shape, call);
   }

@@ -34,6 +34,8 @@ struct Injection {
   unsigned at = 1;     ///< the first call that is hit, counted from 1
   unsigned count = 1;  ///< how many calls in a row, kOnwards for all
   int error = 0;
+  /// Calls on what lies below this path, written as SystemCall::path is, are counted but not hit.
+  std::string spared{};
   /// Counts only calls that change the disk.
   bool changes_only = false;
 
