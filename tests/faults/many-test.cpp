@@ -126,6 +126,8 @@ class MixedRuns : public testing::Test {
                                              killed ? KillAtRandom(random) : Injection{});
       EXPECT_TRUE(run.outcome.status == 0 || (run.hits > 0 && run.outcome.signal == SIGKILL))
           << "seed " << seed << ", run " << i;
+      EXPECT_NE(box.State().rfind("no state", 0), 0U)
+          << "seed " << seed << ", run " << i << ": " << box.State();
       int const backups = Backups(app);
       most = std::max(most, backups);
       bool const full = box.sandbox().RawLog().find("at max retries") != std::string::npos;
@@ -136,6 +138,20 @@ class MixedRuns : public testing::Test {
     }
     most_.Add(std::to_string(most) + " backups at once");
     CheckWhatIsLeft(box, seed);
+    ExpectNoLock(box);
+  }
+
+  /// A killed run leaves its lock file, which the next one takes over and takes away.
+  void ExpectNoLock(test::SweepSandbox& box) const {
+    Sandbox const& sandbox = box.sandbox();
+    test::TracedRun const run = test::Trace(sandbox.Start(), {"/dev", "/run", "/tmp"}, {});
+    EXPECT_EQ(run.outcome.status, 0);
+    auto const is_lock = [](test::SystemCall const& call) {
+      return call.name == "open" && fs::path(call.path).extension() == ".lock";
+    };
+    auto const lock = std::find_if(run.calls.begin(), run.calls.end(), is_lock);
+    ASSERT_NE(lock, run.calls.end());
+    EXPECT_FALSE(fs::exists("/" + lock->path)) << lock->path;
   }
 
   static void CheckWhatIsLeft(test::SweepSandbox const& box, unsigned seed) {
@@ -146,6 +162,8 @@ class MixedRuns : public testing::Test {
     }
     names.erase("Larkmoor.app");
     EXPECT_EQ(names, std::set<std::string>{"log"}) << "seed " << seed;
+    // Input, output, errors, the shell's script, and the folder that it lists.
+    EXPECT_EQ(box.DescriptorsOfClients(), std::set<std::string>{"5"}) << "seed " << seed;
     EXPECT_TRUE(ProcessesOf(box.sandbox().folder().path()).empty()) << "seed " << seed;
   }
 

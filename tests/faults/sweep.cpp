@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 #include <random>
 #include <sstream>
 #include <stdexcept>
@@ -34,7 +36,9 @@ void MakeTinyClient(fs::path const& folder, int build) {
   std::string const number = std::to_string(build);
   WriteFile(folder / "Contents/Frameworks/libsync", Noise(12000, seed) + number);
   fs::create_symlink("../Frameworks", folder / "Contents/Frameworks/link");
-  WriteFile(folder / kExecutable, "#!/bin/sh\necho " + number + " >> \"$HOME/starts\"\n");
+  WriteFile(folder / kExecutable, "#!/bin/sh\necho " + number +
+                                      " >> \"$HOME/starts\"\n"
+                                      "set -- /proc/$$/fd/*\necho $# >> \"$HOME/descriptors\"\n");
   fs::permissions(folder / kExecutable, fs::perms(0755));
   WriteFile(folder / kInfo, "[Version]\nbuild_version=" + number + "\n");
 }
@@ -129,16 +133,19 @@ void SweepSandbox::PutBack() {
 }
 
 TracedRun SweepSandbox::Launch(std::string const& package, Injection const& injection) {
-  WriteFile(sandbox_.Package(), package);
+  sandbox_.CarryPackage(package);
   return Trace(sandbox_.Start(), {sandbox_.UserRoot(), sandbox_.Bundle() + "/Contents/Resources"},
                injection);
 }
 
 size_t SweepSandbox::Starts() const {
   std::ifstream in(sandbox_.Home() + "/starts");
-  size_t lines = 0;
-  for (std::string line; std::getline(in, line);) ++lines;
-  return lines;
+  return static_cast<size_t>(std::distance(std::istream_iterator<std::string>(in), {}));
+}
+
+std::set<std::string> SweepSandbox::DescriptorsOfClients() const {
+  std::ifstream in(sandbox_.Home() + "/descriptors");
+  return {std::istream_iterator<std::string>(in), {}};
 }
 
 void ForEachPoint(size_t count, SweepMaterial const& material,
@@ -176,10 +183,12 @@ bool IsShort() { return getenv("LARKMOOR_SHORT_SWEEPS") != nullptr; }
 
 void Report(std::string const& line) {
   static std::ofstream figures = [] {
-    auto const* const suite = testing::UnitTest::GetInstance()->current_test_suite();
+    auto const* const current = testing::UnitTest::GetInstance()->current_test_info();
+    std::string name = std::string(current->test_suite_name()) + "." + current->name() + ".txt";
+    std::replace(name.begin(), name.end(), '/', '.');
     fs::path const folder = LARKMOOR_TEST_FIGURES;
     fs::create_directories(folder);
-    return std::ofstream(folder / (std::string(suite->name()) + ".txt"));
+    return std::ofstream(folder / name);
   }();
   std::cout << line << std::endl;
   figures << line << std::endl;

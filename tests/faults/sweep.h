@@ -3,6 +3,7 @@
 #include <functional>
 #include <map>
 #include <mutex>
+#include <set>
 #include <string>
 
 #include "faults/tracer.h"
@@ -52,6 +53,8 @@ class SweepSandbox {
   bool HoldsCarried() const { return HoldsCarriedTree(sandbox_.UserRoot(), material_.trees); }
   /// How often the client was started since Begin().
   size_t Starts() const;
+  /// The numbers of descriptors that these clients found open.
+  std::set<std::string> DescriptorsOfClients() const;
 
  private:
   SweepMaterial const& material_;
@@ -79,7 +82,7 @@ class Tally {
 /// Whether LARKMOOR_SHORT_SWEEPS asks for the same places with fewer runs at each.
 bool IsShort();
 
-/// Prints a line and adds it to the figures of this test program, which scripts/test shows.
+/// Prints a line and adds it to the figures of this test, which scripts/test shows.
 void Report(std::string const& line);
 
 }  // namespace test

@@ -125,7 +125,11 @@ void Sandbox::CarryVersion(int build) {
   WriteFile(Bundle() + "/Contents/Resources/INFO", VersionFile(build));
 }
 
-void Sandbox::CarryPackage(std::string const& bytes) { WriteFile(Package(), bytes); }
+void Sandbox::CarryPackage(std::string const& bytes) {
+  // A new file and not the old one cut and filled again, which ext4 would bring to the disk.
+  fs::remove(Package());
+  WriteFile(Package(), bytes);
+}
 
 void Sandbox::Carry(int build) {
   CarryVersion(build);
