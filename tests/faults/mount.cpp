@@ -40,11 +40,11 @@ void Mount::Remount(unsigned long flags, std::string const& options) {
   }
 }
 
-LoopDevice::LoopDevice(std::string const& file, unsigned mebibytes, std::string const& options) {
+LoopDevice::LoopDevice(std::string const& file, unsigned mebibytes, std::string const& mkfs) {
   WriteFile(file, "");
   std::filesystem::resize_file(file, std::uintmax_t{mebibytes} << 20);
-  Outcome const outcome = RunCommand("mkfs.ext4 -q " + options + " '" + file +
-                                     "' && losetup --find --show '" + file + "'");
+  Outcome const outcome =
+      RunCommand(mkfs + " '" + file + "' >/dev/null && losetup --find --show '" + file + "'");
   if (outcome.status == 0) {
     path_ = outcome.out.substr(0, outcome.out.find('\n'));
   } else {

@@ -27,11 +27,11 @@ class Mount {
   std::string reason_;
 };
 
-/// An ext4 file system in a file, on a loop device.
+/// A file system in a file, on a loop device.
 class LoopDevice {
  public:
-  /// `options` are those of mkfs.ext4.
-  LoopDevice(std::string const& file, unsigned mebibytes, std::string const& options);
+  /// `mkfs` is the command that makes the file system, but for the file that it makes it in.
+  LoopDevice(std::string const& file, unsigned mebibytes, std::string const& mkfs);
   ~LoopDevice();
   LoopDevice(LoopDevice const&) = delete;
   LoopDevice& operator=(LoopDevice const&) = delete;

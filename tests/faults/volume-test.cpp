@@ -1,4 +1,5 @@
 // Upgrades on real file systems: full, read-only, limited by quota, split in two, blind to case.
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <linux/quota.h>
 #include <sys/mount.h>
@@ -36,6 +37,14 @@ std::vector<Entry> BigClient(int build) {
   return entries;
 }
 
+/// A client that no small disk holds.
+std::vector<Entry> HugeClient(int build) {
+  std::vector<Entry> entries = BigClient(build);
+  std::string const bytes(8 << 20, 'h');
+  entries.insert(entries.end() - 2, Entry::File("Contents/Resources/huge", bytes));
+  return entries;
+}
+
 class Volume : public testing::Test {
  protected:
   void Carry(std::vector<Entry> const& entries) {
@@ -46,6 +55,19 @@ class Volume : public testing::Test {
     return sandbox_.RawLog().find(text) != std::string::npos;
   }
   static std::string Size(size_t kib) { return "size=" + std::to_string(kib) + "k"; }
+  /// Fills the home with one file until that fails, gives so much of it back and returns the error.
+  int LeaveRoom(off_t bytes) const {
+    std::string const ballast = sandbox_.Home() + "/ballast";
+    int const file = open(ballast.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+    std::string const block(1 << 16, 'b');
+    off_t size = 0;
+    for (ssize_t count; (count = write(file, block.data(), block.size())) > 0;) size += count;
+    int const error = errno;
+    EXPECT_EQ(bytes > 0 ? ftruncate(file, size - bytes) : 0, 0);
+    fsync(file);
+    close(file);
+    return error;
+  }
   bool HasBuild(int build) const {
     std::string const info = sandbox_.App() + "/Contents/Resources/INFO";
     return fs::exists(info) &&
@@ -143,9 +165,23 @@ bool LimitUser(std::string const& device, unsigned user, unsigned kib) {
   return syscall(SYS_quotactl, QCMD(Q_SETQUOTA, USRQUOTA), device.c_str(), user, &limit) == 0;
 }
 
-TEST_F(Volume, AQuotaThatRunsOutGivesTheOldTreeBack) {
+/// Limits what a btrfs volume's only folder tree may take.
+bool RestrictFolder(std::string const& folder, std::string const& size) {
+  test::Process::Options options;
+  options.arguments = {"/bin/sh",
+                       "-c",
+                       "PATH=$PATH:/usr/sbin:/sbin; btrfs quota enable \"$1\" && "
+                       "btrfs qgroup limit \"$2\" \"$1\"",
+                       "limit",
+                       folder,
+                       size};
+  return test::Run(options).status == 0;
+}
+
+TEST_F(Volume, AUserQuotaThatRunsOutGivesTheOldTreeBack) {
   if (!test::CanBecomeNobody()) GTEST_SKIP() << "only root has no quota of its own";
-  test::LoopDevice device(sandbox_.folder() / "disk", 16, "-O quota -E quotatype=usrquota");
+  test::LoopDevice device(sandbox_.folder() / "disk", 16,
+                          "mkfs.ext4 -q -O quota -E quotatype=usrquota");
   if (!device.ok()) GTEST_SKIP() << device.reason();
   Mount home(device.path(), sandbox_.Home(), "ext4", "");
   if (!home.ok()) GTEST_SKIP() << home.reason();
@@ -160,6 +196,77 @@ TEST_F(Volume, AQuotaThatRunsOutGivesTheOldTreeBack) {
   EXPECT_TRUE(LogHas("rollback to old installation"));
   EXPECT_EQ(test::ReadTree(sandbox_.App()), old);
 }
+
+TEST_F(Volume, AFolderQuotaThatRunsOutGivesTheOldTreeBack) {
+  test::LoopDevice device(sandbox_.folder() / "disk", 128, "mkfs.btrfs -q");
+  if (!device.ok()) GTEST_SKIP() << device.reason();
+  Mount home(device.path(), sandbox_.Home(), "btrfs", "");
+  if (!home.ok()) GTEST_SKIP() << home.reason();
+  if (!RestrictFolder(sandbox_.Home(), "4M")) GTEST_SKIP() << "this btrfs has no quota";
+  sandbox_.Install(100);
+  Tree const old = test::ReadTree(sandbox_.App());
+  Carry(HugeClient(200));
+  ASSERT_EQ(sandbox_.Launch().status, 0);
+  EXPECT_TRUE(LogHas("Failed to upgrade package")) << sandbox_.RawLog();
+  EXPECT_EQ(test::ReadTree(sandbox_.App()), old);
+  EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp"));
+  EXPECT_EQ(sandbox_.AwaitStarts(1).back(), "100");
+  // The log could tell the reason only once the rollback had made room.
+  EXPECT_EQ(LeaveRoom(0), EDQUOT);
+}
+
+/// A file system on a disk, and the smallest that its tools make.
+struct Disk {
+  char const* type;
+  char const* mkfs;
+  unsigned mebibytes;
+};
+
+class DiskVolume : public Volume, public testing::WithParamInterface<Disk> {
+ protected:
+  void SetUp() override {
+    Disk const& disk = GetParam();
+    device_ =
+        std::make_unique<test::LoopDevice>(sandbox_.folder() / "disk", disk.mebibytes, disk.mkfs);
+    if (!device_->ok()) GTEST_SKIP() << device_->reason();
+    home_ = std::make_unique<Mount>(device_->path(), sandbox_.Home(), disk.type, "");
+    if (!home_->ok()) GTEST_SKIP() << home_->reason();
+    sandbox_.Install(100);
+    old_ = test::ReadTree(sandbox_.App());
+  }
+
+  std::unique_ptr<test::LoopDevice> device_;
+  std::unique_ptr<Mount> home_;
+  Tree old_;
+};
+
+TEST_P(DiskVolume, IsUpgradedToTheSameTreeAsAnyOther) {
+  Carry(BigClient(200));
+  Sandbox elsewhere;
+  elsewhere.CarryVersion(200);
+  elsewhere.CarryPackage(test::ReadFile(sandbox_.Package()));
+  ASSERT_EQ(elsewhere.Launch().status, 0);
+  ASSERT_EQ(sandbox_.Launch().status, 0);
+  EXPECT_TRUE(HasBuild(200)) << sandbox_.RawLog();
+  EXPECT_EQ(test::ReadTree(sandbox_.App()), test::ReadTree(elsewhere.App()));
+  EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp"));
+}
+
+TEST_P(DiskVolume, FullInTheMiddleOfAnUpgradeGivesTheOldTreeBack) {
+  Carry(HugeClient(200));
+  EXPECT_EQ(LeaveRoom(2 << 20), ENOSPC);
+  ASSERT_EQ(sandbox_.Launch().status, 0);
+  EXPECT_TRUE(LogHas("Failed to upgrade package")) << sandbox_.RawLog();
+  EXPECT_EQ(test::ReadTree(sandbox_.App()), old_);
+  EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp"));
+  EXPECT_EQ(sandbox_.AwaitStarts(1).back(), "100");
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, DiskVolume,
+                         testing::Values(Disk{"ext4", "mkfs.ext4 -q", 16},
+                                         Disk{"xfs", "mkfs.xfs -q -f", 320},
+                                         Disk{"btrfs", "mkfs.btrfs -q", 128}),
+                         [](auto const& parameter) { return std::string(parameter.param.type); });
 
 // An overlay refuses to rename a folder of its lower layer with EXDEV, as two volumes would.
 class SplitVolume : public Volume {
