@@ -1,4 +1,4 @@
-#include <stdlib.h>
+#include <sys/mman.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -91,18 +91,18 @@ void Require(bool holds, char const* what) {
   std::abort();
 }
 
-/// The one file that all inputs are written to.
+/// The one file that all inputs are written to, in memory.
 class InputFile {
  public:
-  InputFile() : file_(mkstemp(path_)) { Require(file_ >= 0, "no temporary file"); }
-  ~InputFile() {
-    close(file_);
-    unlink(path_);
+  InputFile() : file_(memfd_create("config", MFD_CLOEXEC)) {
+    Require(file_ >= 0, "no file in memory");
+    path_ = "/proc/self/fd/" + std::to_string(file_);
   }
+  ~InputFile() { close(file_); }
   InputFile(InputFile const&) = delete;
   InputFile& operator=(InputFile const&) = delete;
 
-  char const* path() const { return path_; }
+  std::string const& path() const { return path_; }
   void Hold(std::string const& bytes) const {
     Require(ftruncate(file_, 0) == 0, "no truncating");
     ssize_t const written = pwrite(file_, bytes.data(), bytes.size(), 0);
@@ -110,8 +110,8 @@ class InputFile {
   }
 
  private:
-  char path_[32] = "/tmp/config-fuzz-XXXXXX";
   int file_;
+  std::string path_;
 };
 
 void RequireSame(Config const& config, Pairs const& pairs) {

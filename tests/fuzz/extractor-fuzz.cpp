@@ -42,8 +42,8 @@ void Require(bool holds, char const* what) {
 
 struct Playground {
   Playground() {
-    char name[] = "/tmp/extractor-fuzz-XXXXXX";
-    Require(mkdtemp(name) != nullptr, "no temporary folder");
+    std::string name = fs::temp_directory_path() / "extractor-fuzz-XXXXXX";
+    Require(mkdtemp(name.data()) != nullptr, "no temporary folder");
     folder = name;
     package = folder + "/package";
     tree = folder + "/tree";

@@ -43,7 +43,8 @@ class Home {
  public:
   Home() {
     static long number = 0;
-    folder_ = "/tmp/info-fuzz-" + std::to_string(getpid()) + "-" + std::to_string(++number);
+    std::string const name = std::to_string(getpid()) + "-" + std::to_string(++number);
+    folder_ = fs::temp_directory_path() / ("info-fuzz-" + name);
     fs::create_directories(Resources());
     fs::create_directories(App() + "/Contents/MacOS");
     std::ofstream(App() + "/Contents/MacOS/larkmoor-drive-ui");
