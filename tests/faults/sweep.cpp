@@ -179,7 +179,10 @@ size_t Tally::Sum() const {
   return sum;
 }
 
-bool IsShort() { return getenv("LARKMOOR_SHORT_SWEEPS") != nullptr; }
+bool IsShort() {
+  char const* const wish = getenv("LARKMOOR_SHORT_SWEEPS");
+  return wish != nullptr && *wish != '\0';
+}
 
 void Report(std::string const& line) {
   static std::ofstream figures = [] {

@@ -11,6 +11,7 @@
 #include <cstring>
 #include <filesystem>
 #include <memory>
+#include <ostream>
 #include <string>
 
 #include "faults/mount.h"
@@ -221,6 +222,8 @@ struct Disk {
   char const* mkfs;
   unsigned mebibytes;
 };
+
+void PrintTo(Disk const& disk, std::ostream* out) { *out << disk.type; }
 
 class DiskVolume : public Volume, public testing::WithParamInterface<Disk> {
  protected:
