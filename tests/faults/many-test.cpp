@@ -12,6 +12,7 @@
 #include <memory>
 #include <random>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -37,8 +38,12 @@ std::set<std::string> ProcessesOf(std::string const& folder) {
     std::error_code ignored;
     std::string const exe = fs::read_symlink(entry.path() / "exe", ignored);
     std::ifstream in(entry.path() / "cmdline");
-    std::string const line{std::istreambuf_iterator<char>(in), {}};
-    if ((exe + " " + line).find(folder) != std::string::npos) found.insert(entry.path().filename());
+    // A process that ends meanwhile can't be read any more, which throws unless a stream catches
+    // it.
+    std::ostringstream line;
+    line << in.rdbuf();
+    if ((exe + " " + line.str()).find(folder) != std::string::npos)
+      found.insert(entry.path().filename());
   }
   return found;
 }
