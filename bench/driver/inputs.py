@@ -17,6 +17,12 @@ INFO_TEXT = "[Version]\nmajor_version=3\nminor_version=1\nbuild_version={}\nicon
 
 ICON = pathlib.Path(__file__).parents[2] / "resources/images/ico_72_larkmoor.png"
 
+# Without the system's 40 files of rules for fonts, which each program that shows text reads anew.
+ONE_FONT = """<?xml version="1.0"?>
+<!DOCTYPE fontconfig SYSTEM "urn:fontconfig:fonts.dtd">
+<fontconfig><dir>/usr/share/fonts/truetype/dejavu</dir><cachedir>{cache}</cachedir></fontconfig>
+"""
+
 FORMATS = {
     "tar.gz": ["--format", "gnutar", "--gzip"],
     "tar.zst": ["--format", "gnutar", "--zstd"],
@@ -149,6 +155,8 @@ class Bundle:
         (self.resources / "INFO").write_text(INFO_TEXT.format(2))
         (self.resources / "images").mkdir()
         shutil.copy(ICON, self.resources / "images")
+        self.one_font = folder / "fonts.conf"
+        self.one_font.write_text(ONE_FONT.format(cache=folder / "fonts"))
 
     def program(self, name):
         return self.root / "Contents/MacOS" / name
@@ -157,11 +165,13 @@ class Bundle:
     def installed(self):
         return self.home / ".Larkmoor/Larkmoor.app"
 
-    def environment(self, display=None):
+    def environment(self, display=None, fonts=None):
         chosen = {"HOME": str(self.home), "LC_ALL": "C.UTF-8", "PATH": os.environ["PATH"],
                   "QT_QPA_PLATFORM": "xcb" if display else "offscreen"}
         if display:
             chosen["DISPLAY"] = display
+        if fonts:
+            chosen["FONTCONFIG_FILE"] = str(fonts)
         return chosen
 
     def carry(self, package):

@@ -14,9 +14,9 @@ TWO_PASSES = 'bsdtar -tf "$1" >/dev/null && bsdtar -xf "$1" -C "$2"'
 
 # ---- start ----
 
-def _starts(session, display=None):
+def _starts(session, display=None, fonts=None):
     bundle = session.bundle
-    environment = bundle.environment(display)
+    environment = bundle.environment(display, fonts)
     return [
         Contender("launcher", [bundle.program("launcher")], environment),
         Contender("minimal with dialog, thread, catalogue", [bundle.program("bench-minimal-dialog")],
@@ -26,10 +26,13 @@ def _starts(session, display=None):
 
 
 def start(session):
-    """A plain start: nothing to upgrade."""
+    """A plain start: nothing to upgrade. Once more with a single font, since reading what the system
+    says about fonts is a good part of what each of them does."""
     session.bundle.install_same_build()
-    for where, display in session.displays():
-        launcher, dialog, bare = _starts(session, display)
+    places = [(where, display, None) for where, display in session.displays()]
+    places.append(("offscreen, one font", None, session.bundle.one_font))
+    for where, display, fonts in places:
+        launcher, dialog, bare = _starts(session, display, fonts)
         rounds = session.plan.starts
         session.compare(f"plain start, {where}", [launcher, dialog], rounds, 1.10)
         session.compare(f"plain start, {where}", [launcher, bare], rounds, 1.30)
