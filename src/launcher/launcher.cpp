@@ -1,5 +1,6 @@
 #include "launcher/launcher.h"
 
+#include <QAbstractEventDispatcher>
 #include <QGuiApplication>
 #include <climits>
 
@@ -12,6 +13,7 @@
 namespace {
 
 constexpr int kReady = 519;  // desc_lkmr_env_preparation_done
+constexpr unsigned long kGatheringMs = 2;
 
 }  // namespace
 
@@ -67,6 +69,12 @@ Launcher::Launcher() : QObject(nullptr), worker(nullptr), dialog(nullptr) {
   // A window that is closed in the middle of an upgrade must not end the event loop: the worker
   // would still be at work when its owner is deleted.
   QGuiApplication::setQuitOnLastWindowClosed(false);
+  // An archive of small files sends a notification every few microseconds, and waking this thread
+  // for each costs both threads more than writing the file. Too short to be seen in a window.
+  connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+          [this] {
+            if (dialog->isVisible()) QThread::msleep(kGatheringMs);
+          });
 
   connect(this, SIGNAL(sigStart()), worker, SLOT(HandleServicce()));
   connect(worker, SIGNAL(sigShowMsg()), this, SLOT(ShowMsgBox()));

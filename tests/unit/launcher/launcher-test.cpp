@@ -4,13 +4,18 @@
 #include <stdlib.h>
 #include <sys/stat.h>
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
 #include <QMetaMethod>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
+#include <chrono>
+#include <thread>
 
 #include "launcher/notify-adapter.h"
 #include "launcher/progress-dialog.h"
@@ -190,6 +195,33 @@ TEST_F(LauncherTest, ListensToTheAdapterAsToItsWorker) {
   Notify_Adapter::GetInstance()->UpdateDialogText(QStringLiteral("from below"));
   EXPECT_EQ(Dialog()->value(), 25);
   EXPECT_EQ(Dialog()->labelText(), "from below");
+}
+
+TEST_F(LauncherTest, LetsNotificationsGatherWhileTheWindowIsUpInsteadOfWakingForEach) {
+  constexpr int kNotifications = 5000;
+  constexpr int kRestMs = 2;
+  Launcher launcher;
+  QMetaObject::invokeMethod(&launcher, "ShowMsgBox");
+  QEventLoop loop;
+  int rests = 0;
+  QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
+                   &loop, [&rests] { ++rests; });
+  QObject::connect(Dialog()->findChild<QProgressBar*>(), &QProgressBar::valueChanged, &loop,
+                   [&loop](int value) {
+                     if (value == 100) loop.quit();
+                   });
+  QElapsedTimer clock;
+  clock.start();
+  std::thread sender([] {
+    for (int i = 1; i <= kNotifications; ++i) {
+      Notify_Adapter::GetInstance()->UpdateProgress(kNotifications, i);
+      std::this_thread::sleep_for(std::chrono::microseconds(1));
+    }
+  });
+  loop.exec();
+  sender.join();
+  EXPECT_EQ(Dialog()->value(), 100);
+  EXPECT_LE(rests, clock.elapsed() / kRestMs + 1);
 }
 
 TEST_F(LauncherTest, ShowsThreeEntriesAsThirdsAndStaysAtTheEndUntilItHides) {
