@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int kBatch = 64;
+constexpr int kBatch = 512;
 
 void SendAll(int count, Launcher* window) {
   QSemaphore handled;
