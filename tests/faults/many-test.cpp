@@ -62,21 +62,19 @@ TEST(ManyStarts, TwoHundredAtOnceMakeOneTransactionAndAllEndWell) {
   sandbox.CarryPackage(test::MakeArchive(entries, "gnutar", "gzip"));
   sandbox.LogEverything();
   test::Process::Options options = sandbox.Start();
-  // A gate that opens for all at once, when every process stands before it.
+  // A gate that opens for all at once, with a line for each. It is held open to the end: a process
+  // that came to a gate without a writer would wait for one.
   std::string const gate = sandbox.folder() / "gate";
   ASSERT_EQ(mkfifo(gate.c_str(), 0600), 0);
+  int const opener = open(gate.c_str(), O_RDWR | O_CLOEXEC);
   options.arguments = {"/bin/sh", "-c", "read line < \"$1\"; exec \"$2\"",
                        "start",   gate, sandbox.Bundle() + "/Contents/MacOS/launcher"};
   std::vector<std::unique_ptr<test::Process>> starts;
   for (int i = 0; i < kStarts; ++i) starts.push_back(std::make_unique<test::Process>(options));
-  int const opener = open(gate.c_str(), O_WRONLY | O_CLOEXEC);
   std::string const lines(kStarts, '\n');
   ASSERT_EQ(write(opener, lines.data(), lines.size()), kStarts);
-  for (auto const& start : starts) {
-    EXPECT_EQ(start->Wait(std::chrono::minutes(4)).status, 0);
-    // Those that read no line of their own go on when nobody holds the gate open.
-    if (start == starts.front()) close(opener);
-  }
+  for (auto const& start : starts) EXPECT_EQ(start->Wait(std::chrono::minutes(4)).status, 0);
+  close(opener);
   std::string const log = sandbox.RawLog();
   EXPECT_EQ(CountIn(log, "user installation is ready, removing backup app"), 1U);
   size_t const refused = CountIn(log, "app has already launched, return");
