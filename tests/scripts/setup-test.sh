@@ -100,4 +100,23 @@ TestTestRefusesUnknownModesAndStrayWords() {
   expect_failure "only the mode fuzz" "$SCRIPTS/test" -n asan 60
 }
 
+# A copy of the project's scripts whose tools do nothing; ctest writes down what it is given.
+test_with_fakes() {
+  cp -r "$SCRIPTS" .
+  mkdir -p build/release bin
+  fake cmake :
+  fake ctest 'echo "$@" >../../calls'
+  PATH=$PWD/bin:$PATH expect_success "$PWD/scripts/test" -n "$@"
+}
+
+TestTestHandsOnWhatFollowsTheDashesWithAndWithoutAMode() {
+  local words
+  for words in "-- -R Extractor" "default -- -R Extractor"; do
+    # shellcheck disable=SC2086  # a list of words
+    test_with_fakes $words
+    grep -q -e ' -R Extractor$' calls || fail "with '$words' ctest was given: $(cat calls)"
+    rm -r scripts calls
+  done
+}
+
 run_tests
