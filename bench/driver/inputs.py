@@ -17,7 +17,8 @@ INFO_TEXT = "[Version]\nmajor_version=3\nminor_version=1\nbuild_version={}\nicon
 
 ICON = pathlib.Path(__file__).parents[2] / "resources/images/ico_72_larkmoor.png"
 
-# Without the system's forty or so files of rules for fonts, which each program that shows text reads anew.
+# Without the system's forty or so files of rules for fonts, which each program that shows text reads
+# anew.
 ONE_FONT = """<?xml version="1.0"?>
 <!DOCTYPE fontconfig SYSTEM "urn:fontconfig:fonts.dtd">
 <fontconfig><dir>/usr/share/fonts/truetype/dejavu</dir><cachedir>{cache}</cachedir></fontconfig>
