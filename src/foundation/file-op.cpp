@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -95,12 +96,13 @@ class Listing {
 };
 
 /// Plain ASCII, which nearly all paths are, is in NFC already.
-ustring ToNfc(ustring const& path) {
+bool IsAscii(ustring const& path) {
   char const* const text = path.c_str();
-  bool const is_ascii = std::all_of(text, text + path.length(),
-                                    [](char c) { return static_cast<unsigned char>(c) < 128; });
-  return is_ascii ? path : path.normalize(ustring::NFC);
+  return std::all_of(text, text + path.length(),
+                     [](char c) { return static_cast<unsigned char>(c) < 128; });
 }
+
+ustring ToNfc(ustring const& path) { return IsAscii(path) ? path : path.normalize(ustring::NFC); }
 
 OSStatus PathOfRef(FSRef const& ref, ustring& path) {
   UInt8 buffer[kPathBufferSize] = {};
@@ -166,9 +168,8 @@ void FillFromStat(ustring const& path, struct stat const& info, _FILE_INFO_tag& 
   out.type = FileTypeOfMode(info.st_mode);
 }
 
-/// Replaces the path by the volume's spelling of it.
-int FillFromVolume(_FILE_INFO_tag& info) {
-  ustring const path = ToNfc(info.path);
+/// How the volume spells a path that is in NFC.
+int SpellNormalPath(ustring const& path, ustring& spelled) {
   LOG_MSG(LEVEL_DEBUG, log_component::file_op(), "[DEBUG] file-op(%d): Input file path = [%s].\n",
           path.c_str());
   FSRef ref;
@@ -179,19 +180,22 @@ int FillFromVolume(_FILE_INFO_tag& info) {
             static_cast<int>(status));
     return -1;
   }
-  ustring spelled;
   status = PathOfRef(ref, spelled);
   if (status != noErr) {
     LOG_MSG(LEVEL_ERROR, log_component::file_op(), "[ERROR] file-op(%d): FSPathMakeRef: %d\n",
             static_cast<int>(status));
     return -1;
   }
-  spelled = ToNfc(spelled);
+  if (!IsAscii(spelled)) spelled = spelled.normalize(ustring::NFC);
   LOG_MSG(LEVEL_DEBUG, log_component::file_op(),
           "[DEBUG] file-op(%d): FSRefMakePath outTargetPath path = [%s].\n", spelled.c_str());
-  info.name = FSBaseName(spelled);
-  info.path = spelled;
   return 0;
+}
+
+/// How the volume spells a path, in NFC.
+int SpellAsVolume(ustring const& path, ustring& spelled) {
+  return IsAscii(path) ? SpellNormalPath(path, spelled)
+                       : SpellNormalPath(path.normalize(ustring::NFC), spelled);
 }
 
 /// One step of FSMKDirP: sees to it that a directory stands at the prefix.
@@ -287,15 +291,18 @@ int RemoveEntries(ustring const& path, bool& is_readable) {
   return 0;
 }
 
-/// FSRemove of an object that is `path` to everybody and `name` seen from an open folder. Removing
-/// it by that name saves the walk along the path, which is as long as the removal itself.
+/// FSRemove of an object that is `path` to everybody and `name` seen from an open folder. Looking
+/// at it and removing it by that name saves two walks along the path.
 int RemoveAt(int folder, char const* name, ustring const& path) {
-  int type = FILE_TYPE_NONE;
+  // The look of GetFileInfo, without filling a record. A path that is too long for the system can't
+  // be looked at, though its name can.
+  if (path.length() >= PATH_MAX) return -1;
+  struct stat found;
+  if (fstatat(folder, name, &found, AT_SYMLINK_NOFOLLOW) != 0) return errno == ENOENT ? 0 : -1;
+  int const type = FileTypeOfMode(found.st_mode);
   {
-    _FILE_INFO_tag info;
-    if (GetFileInfo(path, info) != 0) return -1;
-    if (!info.exists) return 0;
-    type = info.type;
+    ustring spelled;
+    if (type == FILE_TYPE_NONE || SpellAsVolume(path, spelled) != 0) return -1;
   }
   if (type != FILE_TYPE_DIRECTORY) return unlinkat(folder, name, 0) < 0 ? -3 : 0;
   bool is_readable = false;
@@ -349,7 +356,11 @@ int GetFileInfo(ustring const& path, _FILE_INFO_tag& info) {
     return 0;
   }
   FillFromStat(path, found, info);
-  return info.type == FILE_TYPE_NONE ? -1 : FillFromVolume(info);
+  ustring spelled;
+  if (info.type == FILE_TYPE_NONE || SpellAsVolume(path, spelled) != 0) return -1;
+  info.name = FSBaseName(spelled);
+  info.path.swap(spelled);
+  return 0;
 }
 
 int FSStat(ustring const& path, _FILE_INFO_tag& info, bool strict) {

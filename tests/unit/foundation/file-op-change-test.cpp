@@ -6,11 +6,13 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <climits>
 #include <csignal>
 #include <cstring>
 #include <filesystem>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "foundation/file-op.h"
 #include "foundation/tmp-name-gen.h"
@@ -663,6 +665,23 @@ TEST(FSRemove, RemovesAsManyEntriesAsThereAre) {
   EXPECT_FALSE(fs::exists(folder / "tree"));
 }
 
+TEST(FSRemove, TellsTheLookAtEachObjectBeforeItsEntries) {
+  TempDir folder;
+  WriteFile(folder / "tree/file", "");
+  fs::create_directory_symlink(folder.path(), folder / "link");
+  FileOpLog const log;
+  EXPECT_EQ(FSRemove(folder / "link/tree", false), 0);
+  std::vector<std::string> expected;
+  std::string const given = folder / "link";
+  std::string const real = fs::canonical(folder.path()).string();
+  for (std::string const name : {"/tree", "/tree/file"}) {
+    expected.push_back("[DEBUG] file-op(#): Input file path = [" + given + name + "].");
+    expected.push_back("[DEBUG] file-op(#): FSRefMakePath outTargetPath path = [" + real + name +
+                       "].");
+  }
+  EXPECT_EQ(log.Lines(), expected);
+}
+
 TEST(FSRemove, RemovesADeepTree) {
   TempDir folder;
   std::string path = folder / "tree";
@@ -670,6 +689,26 @@ TEST(FSRemove, RemovesADeepTree) {
   fs::create_directories(path);
   EXPECT_EQ(FSRemove(folder / "tree", false), 0);
   EXPECT_FALSE(fs::exists(folder / "tree"));
+}
+
+TEST(FSRemove, FailsWithoutAWordWhereAPathIsTooLongForTheSystem) {
+  TempDir folder;
+  std::string const name(200, 'd');
+  std::string path = folder / "tree";
+  fs::create_directory(path);
+  // Step by step, since no call takes the whole path.
+  fs::path const former = fs::current_path();
+  fs::current_path(path);
+  while (path.size() <= PATH_MAX) {
+    ASSERT_EQ(mkdir(name.c_str(), 0755), 0);
+    ASSERT_EQ(chdir(name.c_str()), 0);
+    path += "/" + name;
+  }
+  ASSERT_EQ(chdir(former.c_str()), 0);
+  FileOpLog const log;
+  EXPECT_EQ(FSRemove(folder / "tree", false), -3);
+  EXPECT_THAT(log.Messages(), IsEmpty());
+  EXPECT_TRUE(fs::exists(folder / ("tree/" + name)));
 }
 
 TEST(FSRemove, LeavesAnUnreadableFolderAndReportsSuccess) {
