@@ -1,7 +1,8 @@
 #include "launcher/launcher.h"
 
 #include <QAbstractEventDispatcher>
-#include <QGuiApplication>
+#include <QApplication>
+#include <QFont>
 #include <climits>
 
 #include "foundation/logger.h"
@@ -63,12 +64,17 @@ void Worker::HandleServicce() {
 
 Launcher::Launcher() : QObject(nullptr), worker(nullptr), dialog(nullptr) {
   worker = new Worker;
+  // The base class lays the dialog out before its own font is set. With that family from the start,
+  // the system's fonts are searched once instead of twice.
+  QFont font = QApplication::font();
+  font.setFamily(ProcessingProgressDialog::FontFamily());
+  QApplication::setFont(font);
   dialog = new ProcessingProgressDialog;
   dialog->setCancelButton(nullptr);
   dialog->setAutoReset(false);
   // A window that is closed in the middle of an upgrade must not end the event loop: the worker
   // would still be at work when its owner is deleted.
-  QGuiApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setQuitOnLastWindowClosed(false);
   // An archive of small files sends a notification every few microseconds, and waking this thread
   // for each costs both threads more than writing the file. Too short to be seen in a window.
   connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,

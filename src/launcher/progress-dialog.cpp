@@ -16,7 +16,7 @@ constexpr int kWidth = 400;      // pixels
 }  // namespace
 
 ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, {}) {
-  QFont const font(QStringLiteral("Arial"), -1, -1, false);
+  QFont const font(FontFamily(), -1, -1, false);
   QString const icon =
       QString::fromUtf8(Service::GetRootLarkmoorResourceInstallPath().c_str_utf8()) +
       "/images/ico_72_larkmoor.png";
@@ -33,5 +33,7 @@ ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, 
   setStyleSheet(QStringLiteral(
       " QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } "));
 }
+
+QString ProcessingProgressDialog::FontFamily() { return QStringLiteral("Arial"); }
 
 ProcessingProgressDialog::~ProcessingProgressDialog() = default;
