@@ -27,7 +27,7 @@ class Session:
         self.folder = folder
         self.plan = plan
         self.display = display
-        self.runner = Runner(build / "bench/bench-timed-run")
+        self.runner = Runner(build / "bench/bench-timed-run", build / "bench/bench-warm-memory")
         self.packages = inputs.Packages(build / "bench", folder)
         self.bundle = inputs.Bundle(folder, build, pathlib.Path(os.environ["QT_PLUGINS"]))
         self.carried = None

@@ -191,5 +191,11 @@ class Bundle:
             raise RuntimeError("the launcher installed nothing")
 
 
+def size(path):
+    """Bytes that a file, or all files of a tree, take on a file system."""
+    files = [path] if path.is_file() else path.rglob("*")
+    return sum(file.stat().st_blocks for file in files) * 512
+
+
 def remove(path):
     subprocess.run(["rm", "-rf", path], check=True)

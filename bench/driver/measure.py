@@ -4,6 +4,8 @@ import dataclasses
 import statistics
 import subprocess
 
+import workspace
+
 # A is taken twice: every other run against the rest. What those two medians differ by is noise.
 MAX_DIFFERENCE_OF_A_AND_A = 0.05
 
@@ -16,8 +18,16 @@ class Sample:
 
 
 class Runner:
-    def __init__(self, timed_run):
+    def __init__(self, timed_run, warm_memory):
         self.timed_run = timed_run
+        self.warm_memory = warm_memory
+
+    def warm(self, size):
+        """Sees to it that so many bytes can be taken without waiting for the host of a virtual
+        machine."""
+        size = min(size, workspace.free_memory() // 2)
+        if size > 0:
+            subprocess.run([self.warm_memory, str(size)], check=True)
 
     def run(self, command, environment=None, folder=None):
         words = [str(word) for word in command]
@@ -32,13 +42,14 @@ class Runner:
 @dataclasses.dataclass
 class Contender:
     """One side of a comparison. `prepare` runs before each run, outside of the time; `check` after
-    it."""
+    it. A run takes about `memory` bytes, files on the tmpfs included."""
 
     name: str
     command: list
     environment: dict = None
     prepare: callable = None
     check: callable = None
+    memory: int = 0
 
 
 def median(samples, of):
@@ -53,6 +64,7 @@ def in_turn(runner, contenders, rounds):
         for contender, taken in zip(contenders, samples):
             if contender.prepare:
                 contender.prepare()
+            runner.warm(contender.memory)
             taken.append(runner.run(contender.command, contender.environment))
             if contender.check:
                 contender.check()

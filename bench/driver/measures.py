@@ -107,7 +107,7 @@ def _install(session, package, display=None, name="launcher"):
             session.carried = package
 
     return Contender(name, [bundle.program("launcher")], bundle.environment(display), prepare,
-                     bundle.check_installation)
+                     bundle.check_installation, session.plan.install_memory)
 
 
 def _into_fresh_folder(session, name, command):
@@ -118,7 +118,8 @@ def _into_fresh_folder(session, name, command):
         inputs.remove(folder)
         folder.mkdir()
 
-    return Contender(name, [*command, session.bundle.package, folder], None, prepare)
+    return Contender(name, [*command, session.bundle.package, folder], None, prepare,
+                     memory=session.plan.install_memory)
 
 
 def _against_bsdtar(session, package):
@@ -144,6 +145,7 @@ def install(session):
     session.compare(f"install {plan.many_name}, tar.gz", [
         _install(session, package),
         _into_fresh_folder(session, "bsdtar -xf alone", ["sh", "-c", 'bsdtar -xf "$1" -C "$2"', "sh"]),
+        _into_fresh_folder(session, "libarchive alone", [session.build / "bench/bench-install-floor"]),
     ], plan.installs, 0.80)
     for where, display in session.displays()[1:]:
         session.compare(f"install {plan.many_name}, {where}", [
@@ -238,10 +240,20 @@ def _copies(session, source, ext4=None):
             inputs.remove(target)
 
     synced = 'cp -r "$1" "$2" && find "$2" -type f -exec sync {} +'
-    return [
-        Contender("FSCopyPath", [session.build / "bench/bench-copy", source, target], None, prepare),
-        Contender("cp, fsync", ["sh", "-c", synced, "sh", source, target], None, prepare),
+    programs = session.build / "bench"
+    # On ext4 a file takes its size twice: what was written, and the image that it goes to.
+    memory = inputs.size(source) * (2 if ext4 else 1)
+    contenders = [
+        Contender("FSCopyPath", [programs / "bench-copy", source, target], None, prepare,
+                  memory=memory),
+        Contender("cp, fsync", ["sh", "-c", synced, "sh", source, target], None, prepare,
+                  memory=memory),
     ]
+    if source.is_file():
+        contenders.append(Contender("pieces of 32 MiB",
+                                    [programs / "bench-copy-floor", source, target], None, prepare,
+                                    memory=memory))
+    return contenders
 
 
 def copy(session):

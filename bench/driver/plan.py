@@ -44,6 +44,7 @@ class Full:
     part_repetitions = 5
     part_seconds = 0.05
     needs = 6 * GIB
+    install_memory = 512 * MIB
     ext4_size = 2 * GIB
 
     big_name = "300 MB in 2,000 files"
@@ -104,6 +105,7 @@ class Short(Full):
     part_repetitions = 1
     part_seconds = 0.001
     needs = GIB
+    install_memory = 16 * MIB
     ext4_size = 64 * MIB
 
     big_name = "2 MB in 20 files"

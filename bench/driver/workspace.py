@@ -80,6 +80,14 @@ def machine():
     }
 
 
+def free_memory():
+    """Bytes that could be taken."""
+    for line in pathlib.Path("/proc/meminfo").read_text().splitlines():
+        if line.startswith("MemAvailable:"):
+            return int(line.split()[1]) * 1024
+    return 0
+
+
 def load():
     """Processes that want to run, over the last minute."""
     return round(os.getloadavg()[0], 1)
