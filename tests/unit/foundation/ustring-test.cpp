@@ -608,6 +608,21 @@ TEST(UstringCompare, LessOrEqualIsFalseForEqualTexts) {
   EXPECT_FALSE(ustring("abc") >= ustring("abd"));
 }
 
+TEST(UstringCompare, StopsAtANulThatWasWrittenIntoTheText) {
+  ustring one("ab-one");
+  ustring two("ab-two");
+  ustring longer("ab-three");
+  ustring plain("ab");
+  for (ustring* const text : {&one, &two, &longer}) (*text)[2] = '\0';
+  for (ustring* const other : {&two, &longer, &plain}) {
+    EXPECT_TRUE(one == *other);
+    EXPECT_FALSE(one != *other);
+    EXPECT_FALSE(one < *other);
+    EXPECT_EQ(one.compare(*other), 0);
+  }
+  EXPECT_FALSE(one == "ab-");
+}
+
 TEST(UstringCompare, OrdersTheKeysOfAMap) {
   std::map<ustring, int> const map = {{"b", 2}, {"a", 1}, {"B", 0}};
   std::string keys;
