@@ -69,10 +69,11 @@ class Session:
 
 @contextlib.contextmanager
 def xvfb():
-    """A display of our own."""
+    """A display of our own. It isn't set back when its last client leaves, which would be measured
+    with the next."""
     reader, writer = os.pipe()
     server = subprocess.Popen(
-        ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1024x768x24", "-nolisten", "tcp"],
+        ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1024x768x24", "-nolisten", "tcp", "-noreset"],
         pass_fds=[writer], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     os.close(writer)
     try:

@@ -37,8 +37,8 @@ class Full:
     starts = 40
     memory_runs = 5
     notifications = (1000, 1000000)
-    installs = 5
-    removal_rounds = 5
+    installs = 7
+    removal_rounds = 7
     copy_rounds = 7
     growth_rounds = 3
     part_repetitions = 5
