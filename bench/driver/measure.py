@@ -23,11 +23,11 @@ class Runner:
         self.warm_memory = warm_memory
 
     def warm(self, size):
-        """Sees to it that so many bytes can be taken without waiting for the host of a virtual
-        machine."""
+        """Sees to it that so many bytes, but no more than half of what is free, can be taken without
+        waiting for the host of a virtual machine. Where memory is limited it does nothing."""
         size = min(size, workspace.free_memory() // 2)
         if size > 0:
-            subprocess.run([self.warm_memory, str(size)], check=True)
+            subprocess.run([self.warm_memory, str(size)], check=False)
 
     def run(self, command, environment=None, folder=None):
         words = [str(word) for word in command]

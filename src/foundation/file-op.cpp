@@ -158,8 +158,8 @@ int FileTypeOfEntry(unsigned char d_type) {
 void FillFromStat(ustring const& path, struct stat const& info, _FILE_INFO_tag& out) {
   out.exists = true;
   out.mtime = info.st_mtime;
-  out.name = FSBaseName(path);
-  out.path = path;
+  out.path = path;  // which may be one of the two texts
+  out.name = FSBaseName(out.path);
   out.size = info.st_size;
   out.uid = info.st_uid;
   out.gid = info.st_gid;
@@ -192,10 +192,11 @@ int SpellNormalPath(ustring const& path, ustring& spelled) {
   return 0;
 }
 
-/// How the volume spells a path, in NFC.
+/// How the volume spells a path, in NFC. A copy is normalised, since the caller's text may hold an
+/// outdated UTF-16 copy, or be another thread's as well.
 int SpellAsVolume(ustring const& path, ustring& spelled) {
   return IsAscii(path) ? SpellNormalPath(path, spelled)
-                       : SpellNormalPath(path.normalize(ustring::NFC), spelled);
+                       : SpellNormalPath(ustring(path).normalize(ustring::NFC), spelled);
 }
 
 /// One step of FSMKDirP: sees to it that a directory stands at the prefix.
@@ -357,7 +358,7 @@ int GetFileInfo(ustring const& path, _FILE_INFO_tag& info) {
   }
   FillFromStat(path, found, info);
   ustring spelled;
-  if (info.type == FILE_TYPE_NONE || SpellAsVolume(path, spelled) != 0) return -1;
+  if (info.type == FILE_TYPE_NONE || SpellAsVolume(info.path, spelled) != 0) return -1;
   info.name = FSBaseName(spelled);
   info.path.swap(spelled);
   return 0;

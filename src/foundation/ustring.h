@@ -244,10 +244,13 @@ inline bool operator<(ustring const& a, ustring const& b) {
   return std::strcmp(a.c_str(), b.c_str()) < 0;
 }
 inline bool operator==(ustring const& a, ustring const& b) {
-  // Bytes of a known number are compared faster than a text whose end has to be found. They may
-  // differ in texts that are equal: behind a NUL that was written by operator[].
-  return (a.length() == b.length() && std::memcmp(a.c_str(), b.c_str(), a.length()) == 0) ||
-         std::strcmp(a.c_str(), b.c_str()) == 0;
+  // Bytes of a known number are compared faster than texts whose end has to be found. What
+  // operator[] wrote may have moved the end, so that only texts that end there are told so.
+  unsigned long const end = a.length();
+  if (end == b.length() && a[end] == '\0' && std::memcmp(a.c_str(), b.c_str(), end + 1) == 0) {
+    return true;
+  }
+  return std::strcmp(a.c_str(), b.c_str()) == 0;
 }
 inline bool operator>(ustring const& a, ustring const& b) { return b < a; }
 inline bool operator!=(ustring const& a, ustring const& b) { return !(a == b); }

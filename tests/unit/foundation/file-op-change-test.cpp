@@ -57,6 +57,26 @@ mode_t CurrentUmask() {
   return mask;
 }
 
+/// Makes a folder and folders in it, until the path of the innermost is that long. Step by step,
+/// since no call takes the whole path.
+bool MakeFoldersOfLength(std::string const& outermost, std::size_t length) {
+  std::string path;
+  std::string name = outermost;
+  int at = open("/", O_PATH | O_CLOEXEC);
+  while (mkdirat(at, name.c_str(), 0755) == 0) {
+    int const below = openat(at, name.c_str(), O_PATH | O_CLOEXEC);
+    close(at);
+    at = below;
+    path += path.empty() ? name : "/" + name;
+    if (path.size() >= length) break;
+    // A slash and a name, and room for another of them unless it is the last.
+    std::size_t const left = length - path.size();
+    name = std::string(left > 202 ? 200 : left == 202 ? 199 : left - 1, 'd');
+  }
+  close(at);
+  return path.size() == length;
+}
+
 /// A folder on another file system than the temporary folder, or an empty path.
 class OtherVolume {
  public:
@@ -692,23 +712,15 @@ TEST(FSRemove, RemovesADeepTree) {
 }
 
 TEST(FSRemove, FailsWithoutAWordWhereAPathIsTooLongForTheSystem) {
-  TempDir folder;
-  std::string const name(200, 'd');
-  std::string path = folder / "tree";
-  fs::create_directory(path);
-  // Step by step, since no call takes the whole path.
-  fs::path const former = fs::current_path();
-  fs::current_path(path);
-  while (path.size() <= PATH_MAX) {
-    ASSERT_EQ(mkdir(name.c_str(), 0755), 0);
-    ASSERT_EQ(chdir(name.c_str()), 0);
-    path += "/" + name;
+  for (std::size_t const length : {PATH_MAX - 1, PATH_MAX, PATH_MAX + 1}) {
+    TempDir folder;
+    ASSERT_TRUE(MakeFoldersOfLength(folder / "tree", length));
+    FileOpLog const log;
+    bool const is_short_enough = length < PATH_MAX;  // which counts the terminator
+    EXPECT_EQ(FSRemove(folder / "tree", false), is_short_enough ? 0 : -3) << length;
+    EXPECT_THAT(log.Messages(), IsEmpty());
+    EXPECT_EQ(fs::exists(folder / "tree"), !is_short_enough);
   }
-  ASSERT_EQ(chdir(former.c_str()), 0);
-  FileOpLog const log;
-  EXPECT_EQ(FSRemove(folder / "tree", false), -3);
-  EXPECT_THAT(log.Messages(), IsEmpty());
-  EXPECT_TRUE(fs::exists(folder / ("tree/" + name)));
 }
 
 TEST(FSRemove, LeavesAnUnreadableFolderAndReportsSuccess) {

@@ -247,6 +247,30 @@ TEST(GetFileInfo, LooksAgainAtThePathThatItFilledInItself) {
   EXPECT_EQ(Text(info.name), "file");
 }
 
+TEST(GetFileInfo, TakesItsPathFromTheNameThatItFillsIn) {
+  TempDir folder;
+  WriteFile(folder / "file", "");
+  _FILE_INFO_tag info;
+  info.name = (folder / "file").c_str();
+  EXPECT_EQ(GetFileInfo(info.name, info), 0);
+  EXPECT_EQ(Text(info.path), folder / "file");
+  EXPECT_EQ(Text(info.name), "file");
+}
+
+TEST(GetFileInfo, LooksAtTheTextAsItIsWhateverUtf16WasMadeOfItBefore) {
+  TempDir folder;
+  WriteFile(folder / "\xC3\xA4y", "");
+  ustring path((folder / "\xC3\xA4#").c_str());
+  path.c_str_utf16();
+  path.replace('#', 'y');
+  _FILE_INFO_tag info;
+  EXPECT_EQ(GetFileInfo(path, info), 0);
+  EXPECT_TRUE(info.exists);
+  EXPECT_EQ(Text(info.name), "\xC3\xA4y");
+  EXPECT_EQ(FSRemove(path, false), 0);
+  EXPECT_FALSE(fs::exists(folder / "\xC3\xA4y"));
+}
+
 TEST(GetFileInfo, FailsBelowARegularFile) {
   TempDir folder;
   WriteFile(folder / "file", "");

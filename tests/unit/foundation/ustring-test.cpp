@@ -623,6 +623,19 @@ TEST(UstringCompare, StopsAtANulThatWasWrittenIntoTheText) {
   EXPECT_FALSE(one == "ab-");
 }
 
+TEST(UstringCompare, GoesOnBehindATerminatorThatWasOverwritten) {
+  ustring one;
+  ustring two;
+  one[0] = 'a';
+  two[0] = 'b';
+  one[1] = two[1] = '\0';
+  EXPECT_FALSE(one == two);
+  EXPECT_TRUE(one != two);
+  two[0] = 'a';
+  EXPECT_TRUE(one == two);
+  EXPECT_TRUE(one == "a");
+}
+
 TEST(UstringCompare, OrdersTheKeysOfAMap) {
   std::map<ustring, int> const map = {{"b", 2}, {"a", 1}, {"B", 0}};
   std::string keys;

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QFont>
 #include <QMetaMethod>
 #include <QProgressBar>
 #include <QPushButton>
@@ -168,6 +169,20 @@ TEST_F(LauncherTest, TakesCancelButtonAndResetFromItsDialog) {
   EXPECT_FALSE(Dialog()->autoReset());
   EXPECT_EQ(Dialog()->findChild<QPushButton*>(), nullptr);
   EXPECT_FALSE(Dialog()->isVisible());
+}
+
+TEST_F(LauncherTest, GivesTheApplicationTheFamilyOfTheDialogAndLeavesItsSize) {
+  QFont const former = QApplication::font();
+  QFont other(QStringLiteral("Another"));
+  other.setPointSize(17);
+  QApplication::setFont(other);
+  {
+    Launcher launcher;
+    EXPECT_EQ(QApplication::font().family(), Dialog()->font().family());
+    EXPECT_EQ(QApplication::font().pointSize(), 17);
+    EXPECT_EQ(Dialog()->font().pointSize(), 17);
+  }
+  QApplication::setFont(former);
 }
 
 TEST_F(LauncherTest, MakesAPercentageOfStepsTruncating) {
