@@ -712,11 +712,12 @@ TEST(FSRemove, RemovesADeepTree) {
 }
 
 TEST(FSRemove, FailsWithoutAWordWhereAPathIsTooLongForTheSystem) {
-  for (std::size_t const length : {PATH_MAX - 1, PATH_MAX, PATH_MAX + 1}) {
+  constexpr std::size_t kTooLong = PATH_MAX;  // which counts the terminator
+  for (std::size_t const length : {kTooLong - 1, kTooLong, kTooLong + 1}) {
     TempDir folder;
     ASSERT_TRUE(MakeFoldersOfLength(folder / "tree", length));
     FileOpLog const log;
-    bool const is_short_enough = length < PATH_MAX;  // which counts the terminator
+    bool const is_short_enough = length < kTooLong;
     EXPECT_EQ(FSRemove(folder / "tree", false), is_short_enough ? 0 : -3) << length;
     EXPECT_THAT(log.Messages(), IsEmpty());
     EXPECT_EQ(fs::exists(folder / "tree"), !is_short_enough);
