@@ -19,9 +19,9 @@ TestTakesInALibarchiveThatComesWithAllItStandsOn() {
     echo "  skipped: there is no static libarchive"
     exit 0
   }
-  link_of "$BUILD" >command
-  grep -qF " ${LIBRARY%.so}.a " command || fail "libarchive is loaded" "$(cat command)"
-  ! grep -qF "$LIBRARY" command || fail "libarchive is loaded as well" "$(cat command)"
+  link_of "$BUILD" >linking
+  grep -qF " ${LIBRARY%.so}.a " linking || fail "libarchive is loaded" "$(cat linking)"
+  ! grep -qF "$LIBRARY" linking || fail "libarchive is loaded as well" "$(cat linking)"
 }
 
 TestLoadsALibarchiveThatStandsAloneAndTakesNoOtherInItsPlace() {
@@ -32,9 +32,9 @@ TestLoadsALibarchiveThatStandsAloneAndTakesNoOtherInItsPlace() {
   expect_success cmake -S "$PROJECT" -B build -G Ninja -DLARKMOOR_TESTS=OFF \
     -DLibArchive_LIBRARY="$library"
   expect_said "libarchive and the libraries under it are loaded"
-  link_of build >command
-  grep -qF " $library" command || fail "another libarchive is linked" "$(cat command)"
-  ! grep -qF libarchive.a command || fail "a static libarchive is linked" "$(cat command)"
+  link_of build >linking
+  grep -qF " $library" linking || fail "another libarchive is linked" "$(cat linking)"
+  ! grep -qF libarchive.a linking || fail "a static libarchive is linked" "$(cat linking)"
 }
 
 run_tests
