@@ -91,18 +91,21 @@ TEST(TmpNameGen, PathIsFolderSlashName) {
 }
 
 TEST(TmpNameGen, KeyIsTheClockAsText) {
-  time_t const before = std::time(nullptr);
+  // The same clock: that of time() may be a tick behind.
+  timeval before;
+  timeval after;
+  gettimeofday(&before, nullptr);
   unsigned char key[256] = {};
   TmpNameGen::get_key(key, sizeof(key));
-  time_t const after = std::time(nullptr);
+  gettimeofday(&after, nullptr);
   unsigned long seconds = 0;
   unsigned long microseconds = 0;
   char rest = 0;
   ASSERT_EQ(
       std::sscanf(reinterpret_cast<char const*>(key), "%lu-%lu%c", &seconds, &microseconds, &rest),
       2);
-  EXPECT_GE(seconds, static_cast<unsigned long>(before));
-  EXPECT_LE(seconds, static_cast<unsigned long>(after));
+  EXPECT_GE(seconds, static_cast<unsigned long>(before.tv_sec));
+  EXPECT_LE(seconds, static_cast<unsigned long>(after.tv_sec));
   EXPECT_LT(microseconds, 1000000U);
 }
 
