@@ -73,7 +73,8 @@ def xvfb():
     with the next."""
     reader, writer = os.pipe()
     server = subprocess.Popen(
-        ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1024x768x24", "-nolisten", "tcp", "-noreset"],
+        ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1024x768x24", "-nolisten", "tcp",
+         "-noreset"],
         pass_fds=[writer], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     os.close(writer)
     try:
@@ -99,7 +100,8 @@ def run(arguments):
     plan.limit(arguments.pairs)
     with contextlib.ExitStack() as stack:
         folder = stack.enter_context(workspace.memory(plan.needs))
-        session = Session(arguments.build, results(arguments), folder, plan, stack.enter_context(xvfb()))
+        display = stack.enter_context(xvfb())
+        session = Session(arguments.build, results(arguments), folder, plan, display)
         if workspace.FreshExt4.is_possible():
             session.ext4 = workspace.FreshExt4(folder, plan.ext4_size)
             stack.callback(session.ext4.close)

@@ -69,9 +69,9 @@ bool MakeFoldersOfLength(std::string const& outermost, std::size_t length) {
     at = below;
     path += path.empty() ? name : "/" + name;
     if (path.size() >= length) break;
-    // A slash and a name, and room for another of them unless it is the last.
+    // A slash and a name, which is the last one as soon as it can be.
     std::size_t const left = length - path.size();
-    name = std::string(left > 202 ? 200 : left == 202 ? 199 : left - 1, 'd');
+    name = std::string(left > NAME_MAX ? NAME_MAX / 2 : left - 1, 'd');
   }
   close(at);
   return path.size() == length;
