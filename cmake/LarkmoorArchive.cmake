@@ -1,51 +1,29 @@
 # larkmoor_archive: libarchive, to compile against and to link.
-#
-# Loading libarchive and the libraries under it takes a twentieth of a plain start, though only an
-# installation calls them. An executable with the property LARKMOOR_ARCHIVE_INSIDE has most of them
-# in it instead, where they come as static libraries and suffice to link. Otherwise all are loaded.
-include(CheckCXXSourceCompiles)
-
-# From the caller to the called. What Qt loads in any case, and what may not be linked in for its
-# licence, stays outside.
-set(static_names archive xml2 lzma lz4 bz2)
-set(shared_names nettle acl zstd z m)
-
-# Beside the libarchive that was found, so that it isn't taken from elsewhere.
-list(GET LibArchive_LIBRARIES 0 found)
-get_filename_component(folder ${found} DIRECTORY)
-set(inside)
-foreach(name IN LISTS static_names)
-  find_library(library lib${name}.a PATHS ${folder} NO_DEFAULT_PATH NO_CACHE)
-  list(APPEND inside ${library})
-  unset(library)
-endforeach()
-
-if(inside MATCHES NOTFOUND)
-  set(LARKMOOR_ARCHIVE_LINKS_STATICALLY OFF)
-else()
-  # Another build of libarchive may stand on other libraries.
-  list(APPEND inside ${shared_names} ICU::uc)
-  set(CMAKE_REQUIRED_INCLUDES ${LibArchive_INCLUDE_DIRS})
-  set(CMAKE_REQUIRED_LIBRARIES ${inside})
-  check_cxx_source_compiles([[
-    #include <archive.h>
-    int main() {
-      archive* reader = archive_read_new();
-      archive_read_support_filter_all(reader);
-      archive_read_support_format_all(reader);
-      return archive_write_free(archive_write_disk_new());
-    }]] LARKMOOR_ARCHIVE_LINKS_STATICALLY)
-  unset(CMAKE_REQUIRED_INCLUDES)
-  unset(CMAKE_REQUIRED_LIBRARIES)
-endif()
-
 add_library(larkmoor_archive INTERFACE)
 target_include_directories(larkmoor_archive SYSTEM INTERFACE ${LibArchive_INCLUDE_DIRS})
-if(LARKMOOR_ARCHIVE_LINKS_STATICALLY)
-  set(wants_inside $<BOOL:$<TARGET_PROPERTY:LARKMOOR_ARCHIVE_INSIDE>>)
-  target_link_libraries(larkmoor_archive INTERFACE
-    "$<IF:${wants_inside},${inside},LibArchive::LibArchive>")
-else()
-  message(STATUS "libarchive and the libraries under it are loaded at the launcher's start")
-  target_link_libraries(larkmoor_archive INTERFACE LibArchive::LibArchive)
-endif()
+target_link_libraries(larkmoor_archive INTERFACE
+  $<$<NOT:$<BOOL:$<TARGET_PROPERTY:LARKMOOR_ARCHIVE_ON_DEMAND>>>:LibArchive::LibArchive>)
+
+# larkmoor_load_archive_on_demand(TARGET): lets an executable load libarchive for the first call of it
+# instead of at its start, and tells the library's soname in its property LARKMOOR_ARCHIVE_ON_DEMAND.
+# On a Mac it is linked: macdeployqt finds only what is.
+function(larkmoor_load_archive_on_demand target)
+  list(GET LibArchive_LIBRARIES 0 library)
+  if(LARKMOOR_PLATFORM STREQUAL "posix" AND CMAKE_READELF)
+    execute_process(COMMAND ${CMAKE_READELF} -d ${library}
+      OUTPUT_VARIABLE sections ERROR_QUIET)
+  endif()
+  if(NOT sections MATCHES "\\(SONAME\\)[^[]*\\[([^]]+)\\]")
+    message(STATUS "libarchive is loaded at the start of ${target}")
+    return()
+  endif()
+  target_sources(${target} PRIVATE ${PROJECT_SOURCE_DIR}/src/platform/archive-on-demand-posix.cpp)
+  target_compile_definitions(${target} PRIVATE LARKMOOR_ARCHIVE_SONAME="${CMAKE_MATCH_1}")
+  target_link_libraries(${target} PRIVATE ${CMAKE_DL_LIBS})
+  set_target_properties(${target} PROPERTIES LARKMOOR_ARCHIVE_ON_DEMAND ${CMAKE_MATCH_1})
+  # As for a library that is linked: where it was found is where the build runs with it.
+  get_filename_component(folder ${library} DIRECTORY)
+  if(NOT folder IN_LIST CMAKE_CXX_IMPLICIT_LINK_DIRECTORIES)
+    set_target_properties(${target} PROPERTIES BUILD_RPATH ${folder})
+  endif()
+endfunction()

@@ -149,7 +149,7 @@ class Bundle:
         for made in (programs, platforms, self.package.parent, self.home):
             made.mkdir(parents=True)
         shutil.copy(build / "src/launcher/launcher", programs)
-        for peer in ("bench-minimal", "bench-minimal-dialog", "bench-notify"):
+        for peer in ("bench-minimal", "bench-minimal-dialog", "bench-start-floor", "bench-notify"):
             shutil.copy(build / "bench" / peer, programs)
         for plugin in ("libqoffscreen.so", "libqxcb.so"):
             (platforms / plugin).symlink_to(qt_plugins / "platforms" / plugin)

@@ -15,14 +15,17 @@ TWO_PASSES = 'bsdtar -tf "$1" >/dev/null && bsdtar -xf "$1" -C "$2"'
 # ---- start ----
 
 def _starts(session, display=None, fonts=None):
+    """The launcher, two peers, the floor."""
     bundle = session.bundle
     environment = bundle.environment(display, fonts)
-    return [
-        Contender("launcher", [bundle.program("launcher")], environment),
-        Contender("minimal with dialog, thread, catalogue", [bundle.program("bench-minimal-dialog")],
-                  environment),
-        Contender("bare minimal", [bundle.program("bench-minimal")], environment),
-    ]
+    names = {
+        "launcher": "launcher",
+        "minimal with dialog, thread, catalogue": "bench-minimal-dialog",
+        "bare minimal": "bench-minimal",
+        "the same dialog and nothing to do": "bench-start-floor",
+    }
+    return [Contender(name, [bundle.program(program)], environment)
+            for name, program in names.items()]
 
 
 def start(session):
@@ -32,17 +35,17 @@ def start(session):
     places = [(where, display, None) for where, display in session.displays()]
     places.append(("offscreen, one font", None, session.bundle.one_font))
     for where, display, fonts in places:
-        launcher, dialog, bare = _starts(session, display, fonts)
+        launcher, dialog, bare, floor = _starts(session, display, fonts)
         rounds = session.plan.starts
-        session.compare(f"plain start, {where}", [launcher, dialog], rounds, 1.10)
-        session.compare(f"plain start, {where}", [launcher, bare], rounds, 1.30)
+        session.compare(f"plain start, {where}", [launcher, dialog, floor], rounds, 1.10)
+        session.compare(f"plain start, {where}", [launcher, bare, floor], rounds, 1.30)
 
 
 def memory(session):
     """Peaks of a plain start and of an installation."""
     session.bundle.install_same_build()
-    launcher, dialog, bare = _starts(session)
-    ours, _, least = in_turn(session.runner, [launcher, dialog, bare], session.plan.memory_runs)
+    launcher, _, bare, _ = _starts(session)
+    ours, least = in_turn(session.runner, [launcher, bare], session.plan.memory_runs)
     limit = median(least, "memory") + 4 * MIB
     session.memory("plain start, offscreen", "bare minimal + 4 MiB", median(ours, "memory"), limit)
     package = session.big_package("tar.zst")

@@ -34,7 +34,7 @@ def _doublings(first, last):
 
 
 class Full:
-    starts = 40
+    starts = 100
     memory_runs = 5
     notifications = (1000, 1000000)
     installs = 7

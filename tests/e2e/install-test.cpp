@@ -352,6 +352,45 @@ TEST_F(BadInput, InstallsWithALogFileThatCannotBeOpened) {
   EXPECT_EQ(ReadTree(box.App()), ClientTree(100));
 }
 
+/// Where libarchive should be there is a file that can't be loaded.
+class WithoutLibarchive : public Install {
+ protected:
+  void SetUp() override {
+    std::string const name = LARKMOOR_TEST_ARCHIVE_SONAME;
+    if (name.empty()) GTEST_SKIP() << "this launcher has libarchive loaded before it starts";
+    test::WriteFile(box.folder() / ("lib/" + name), "");
+    box.Carry(200);
+  }
+  int Launch() {
+    test::Process::Options start = box.Start();
+    start.environment["LD_LIBRARY_PATH"] = box.folder() / "lib";
+    return test::Run(start).status;
+  }
+};
+
+TEST_F(WithoutLibarchive, APlainStartIsAsEver) {
+  box.Install(200);
+  EXPECT_EQ(Launch(), 0);
+  EXPECT_THAT(box.AwaitStarts(1), ElementsAre("200"));
+  EXPECT_THAT(box.Log(), Not(Contains(HasSubstr("[ERROR]"))));
+}
+
+TEST_F(WithoutLibarchive, AnUpgradeSaysSoAndLeavesTheOldTreeByteForByte) {
+  box.Install(100);
+  test::Tree const before = ReadTree(box.App());
+  EXPECT_EQ(Launch(), 0);
+  EXPECT_EQ(ReadTree(box.App()), before);
+  EXPECT_FALSE(fs::exists(box.App() + "_tmp"));
+  EXPECT_THAT(box.AwaitStarts(1), ElementsAre("100"));
+  EXPECT_THAT(
+      box.Log(),
+      testing::IsSupersetOf<testing::Matcher<std::string>>(
+          {AllOf(HasSubstr("[ERROR] extractor(0): dlopen: "),
+                 HasSubstr(LARKMOOR_TEST_ARCHIVE_SONAME)),
+           "[ERROR] extractor(0): Allocate archive failed",
+           "[ERROR] extractor(0): Failed to calculate total file numbers, ret: -1", kFailed}));
+}
+
 /// Cases around the sync client that has to be stopped.
 class RunningClient : public Install {
  protected:

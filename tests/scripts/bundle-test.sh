@@ -142,6 +142,18 @@ TestCheckFindsMissingPlugins() {
   expect_failure "can't open a window" check_bundle good/Larkmoor.app
 }
 
+# Libraries that are loaded at the start, and one that is loaded later.
+TestCheckFindsLibrariesThatAreMissingHere() {
+  local library
+  for library in libicuuc libarchive; do
+    rm -rf client client.lpk good
+    make_good_bundle
+    in_bundle sed -i -E "s/($library\.so\.)[0-9]/\19/" MacOS/launcher
+    expect_failure "needs libraries that this system doesn't have" check_bundle good/Larkmoor.app
+    expect_said "$library.so.9"
+  done
+}
+
 TestCheckFindsLibrariesThatAUsersMacWouldLack() {
   make_good_bundle
   mkdir bin
