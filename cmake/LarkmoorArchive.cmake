@@ -14,16 +14,22 @@ function(larkmoor_load_archive_on_demand target)
       OUTPUT_VARIABLE sections ERROR_QUIET)
   endif()
   if(NOT sections MATCHES "\\(SONAME\\)[^[]*\\[([^]]+)\\]")
-    message(STATUS "libarchive is loaded at the start of ${target}")
+    message(STATUS "${target} is linked with libarchive")
     return()
   endif()
+  set(soname ${CMAKE_MATCH_1})
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${library})
   target_sources(${target} PRIVATE ${PROJECT_SOURCE_DIR}/src/platform/archive-on-demand-posix.cpp)
-  target_compile_definitions(${target} PRIVATE LARKMOOR_ARCHIVE_SONAME="${CMAKE_MATCH_1}")
+  target_compile_definitions(${target} PRIVATE LARKMOOR_ARCHIVE_SONAME="${soname}")
   target_link_libraries(${target} PRIVATE ${CMAKE_DL_LIBS})
-  set_target_properties(${target} PROPERTIES LARKMOOR_ARCHIVE_ON_DEMAND ${CMAKE_MATCH_1})
+  # Hidden, so that no library in the process takes these functions for libarchive's.
+  set_target_properties(${target} PROPERTIES
+    LARKMOOR_ARCHIVE_ON_DEMAND ${soname}
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON)
   # As for a library that is linked: where it was found is where the build runs with it.
   get_filename_component(folder ${library} DIRECTORY)
   if(NOT folder IN_LIST CMAKE_CXX_IMPLICIT_LINK_DIRECTORIES)
-    set_target_properties(${target} PROPERTIES BUILD_RPATH ${folder})
+    set_property(TARGET ${target} APPEND PROPERTY BUILD_RPATH ${folder})
   endif()
 endfunction()

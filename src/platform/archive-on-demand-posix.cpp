@@ -10,104 +10,97 @@
 
 namespace {
 
-/// Null after logging why it can't be loaded.
+void LogFailure(char const* call) {
+  LOG_MSG(LEVEL_ERROR, log_component::extractor(), "[ERROR] archive-on-demand-posix(%d): %s: %s\n",
+          call, dlerror());
+}
+
 void* Load() {
   void* const library = dlopen(LARKMOOR_ARCHIVE_SONAME, RTLD_NOW | RTLD_LOCAL);
-  if (library == nullptr) {
-    LOG_MSG(LEVEL_ERROR, log_component::extractor(), "[ERROR] extractor(%d): dlopen: %s\n",
-            dlerror());
-  }
+  if (library == nullptr) LogFailure("dlopen");
   return library;
 }
 
-/// Null where the library can't be loaded. Otherwise it has every call below: its soname tells the
-/// version of its interface.
+/// The library's function of that name; null, and the reason is in the log, where there is none.
 void* Find(char const* name) {
   static void* const library = Load();
-  return library != nullptr ? dlsym(library, name) : nullptr;
+  if (library == nullptr) return nullptr;
+  void* const found = dlsym(library, name);
+  if (found == nullptr) LogFailure("dlsym");
+  return found;
 }
 
 }  // namespace
 
-/// The library's own function of that name, looked up once.
-#define LOADED(name)                                                             \
-  [] {                                                                           \
-    static auto* const found = reinterpret_cast<decltype(&(name))>(Find(#name)); \
-    return found;                                                                \
-  }()
+/// The body of a function of that name: calls the library's own, or fails without one.
+#define HAND_ON(name, arguments, failure)                                     \
+  static auto* const call = reinterpret_cast<decltype(&(name))>(Find(#name)); \
+  return call != nullptr ? call arguments : (failure)
 
-// Without the library there is neither a reader nor a writer, just as when memory runs out.
-
-archive* archive_read_new() {
-  auto* const make = LOADED(archive_read_new);
-  return make != nullptr ? make() : nullptr;
-}
-
-archive* archive_write_disk_new() {
-  auto* const make = LOADED(archive_write_disk_new);
-  return make != nullptr ? make() : nullptr;
-}
-
-// Whoever has one of them has the library.
+archive* archive_read_new() { HAND_ON(archive_read_new, (), nullptr); }
 
 int archive_read_support_filter_all(archive* reader) {
-  return LOADED(archive_read_support_filter_all)(reader);
+  HAND_ON(archive_read_support_filter_all, (reader), ARCHIVE_FATAL);
 }
 
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 int archive_read_support_compression_all(archive* reader) {
-  return LOADED(archive_read_support_compression_all)(reader);
+  HAND_ON(archive_read_support_compression_all, (reader), ARCHIVE_FATAL);
 }
 #pragma GCC diagnostic pop
 
 int archive_read_support_format_all(archive* reader) {
-  return LOADED(archive_read_support_format_all)(reader);
+  HAND_ON(archive_read_support_format_all, (reader), ARCHIVE_FATAL);
 }
 
 int archive_read_open_filename(archive* reader, char const* path, size_t block_size) {
-  return LOADED(archive_read_open_filename)(reader, path, block_size);
+  HAND_ON(archive_read_open_filename, (reader, path, block_size), ARCHIVE_FATAL);
 }
 
 int archive_read_next_header(archive* reader, archive_entry** entry) {
-  return LOADED(archive_read_next_header)(reader, entry);
+  HAND_ON(archive_read_next_header, (reader, entry), ARCHIVE_FATAL);
 }
 
 int archive_read_data_block(archive* reader, void const** block, size_t* size, la_int64_t* offset) {
-  return LOADED(archive_read_data_block)(reader, block, size, offset);
+  HAND_ON(archive_read_data_block, (reader, block, size, offset), ARCHIVE_FATAL);
 }
 
-int archive_read_data_skip(archive* reader) { return LOADED(archive_read_data_skip)(reader); }
+int archive_read_data_skip(archive* reader) {
+  HAND_ON(archive_read_data_skip, (reader), ARCHIVE_FATAL);
+}
 
 int archive_read_extract2(archive* reader, archive_entry* entry, archive* writer) {
-  return LOADED(archive_read_extract2)(reader, entry, writer);
+  HAND_ON(archive_read_extract2, (reader, entry, writer), ARCHIVE_FATAL);
 }
 
-int archive_read_close(archive* reader) { return LOADED(archive_read_close)(reader); }
+int archive_read_close(archive* reader) { HAND_ON(archive_read_close, (reader), ARCHIVE_FATAL); }
 
-int archive_read_free(archive* reader) { return LOADED(archive_read_free)(reader); }
+int archive_read_free(archive* reader) { HAND_ON(archive_read_free, (reader), ARCHIVE_FATAL); }
+
+archive* archive_write_disk_new() { HAND_ON(archive_write_disk_new, (), nullptr); }
 
 int archive_write_disk_set_options(archive* writer, int flags) {
-  return LOADED(archive_write_disk_set_options)(writer, flags);
+  HAND_ON(archive_write_disk_set_options, (writer, flags), ARCHIVE_FATAL);
 }
 
 la_ssize_t archive_write_data_block(archive* writer, void const* block, size_t size,
                                     la_int64_t offset) {
-  return LOADED(archive_write_data_block)(writer, block, size, offset);
+  HAND_ON(archive_write_data_block, (writer, block, size, offset), ARCHIVE_FATAL);
 }
 
 int archive_write_finish_entry(archive* writer) {
-  return LOADED(archive_write_finish_entry)(writer);
+  HAND_ON(archive_write_finish_entry, (writer), ARCHIVE_FATAL);
 }
 
-int archive_write_free(archive* writer) { return LOADED(archive_write_free)(writer); }
+int archive_write_free(archive* writer) { HAND_ON(archive_write_free, (writer), ARCHIVE_FATAL); }
 
 char const* archive_entry_pathname(archive_entry* entry) {
-  return LOADED(archive_entry_pathname)(entry);
+  HAND_ON(archive_entry_pathname, (entry), nullptr);
 }
 
 void archive_entry_set_pathname(archive_entry* entry, char const* path) {
-  LOADED(archive_entry_set_pathname)(entry, path);
+  HAND_ON(archive_entry_set_pathname, (entry, path), void());
 }
 
-char const* archive_error_string(archive* a) { return LOADED(archive_error_string)(a); }
+char const* archive_error_string(archive* a) { HAND_ON(archive_error_string, (a), nullptr); }

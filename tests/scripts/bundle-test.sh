@@ -154,6 +154,17 @@ TestCheckFindsLibrariesThatAreMissingHere() {
   done
 }
 
+TestCheckFindsLibrariesThatAreMissingUnderAnotherOne() {
+  make_good_bundle
+  local library name
+  library=$(sed -n 's/^LibArchive_LIBRARY:FILEPATH=//p' "$BUILD/CMakeCache.txt")
+  name=$(ldd "$library" | grep -o 'libxml2[^ ]*' | head -n 1)
+  mkdir lib && : >"lib/$name"
+  expect_failure "Contents/MacOS/launcher needs libraries that this system doesn't have" \
+    env LD_LIBRARY_PATH="$PWD/lib" "$SCRIPTS/check-bundle" good/Larkmoor.app
+  expect_said "lib/$name"
+}
+
 TestCheckFindsLibrariesThatAUsersMacWouldLack() {
   make_good_bundle
   mkdir bin

@@ -15,8 +15,12 @@ link_of() {
 }
 
 TestLinksTheLauncherWithoutIt() {
+  grep -q '^CMAKE_READELF:FILEPATH=/' "$BUILD/CMakeCache.txt" || {
+    echo "  skipped: no readelf tells the library's soname"
+    exit 0
+  }
   link_of "$BUILD" >linking
-  ! grep -qF libarchive linking || fail "libarchive is loaded at the start" "$(cat linking)"
+  ! grep -qF " $LIBRARY" linking || fail "libarchive is loaded at the start" "$(cat linking)"
 }
 
 TestLooksForItWhereItWasFound() {
@@ -33,7 +37,7 @@ TestLinksOneThatHasNoSoname() {
   echo "INPUT($LIBRARY)" >lib/libarchive.so
   expect_success cmake -S "$PROJECT" -B build -G Ninja -DLARKMOOR_TESTS=OFF \
     -DLibArchive_LIBRARY="$PWD/lib/libarchive.so"
-  expect_said "libarchive is loaded at the start of launcher"
+  expect_said "launcher is linked with libarchive"
   link_of build >linking
   grep -qF " $PWD/lib/libarchive.so" linking || fail "libarchive isn't linked" "$(cat linking)"
   ! grep -qF archive-on-demand linking || fail "libarchive is loaded on demand" "$(cat linking)"
