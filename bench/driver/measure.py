@@ -1,6 +1,7 @@
 """Runs programs in turn and compares them."""
 
 import dataclasses
+import random
 import statistics
 import subprocess
 
@@ -57,11 +58,15 @@ def median(samples, of):
 
 
 def in_turn(runner, contenders, rounds):
-    """A B A B ...: what changes on the machine meanwhile meets all of them. A list of samples for
-    each contender."""
+    """Each of them once in a round: what changes on the machine meanwhile meets all of them. Their
+    order is drawn anew for each round, since a program also meets what the one before it has left
+    behind: a client that was just started, for one. A list of samples for each contender."""
+    lots = random.Random(rounds)
     samples = [[] for _ in contenders]
     for _ in range(rounds):
-        for contender, taken in zip(contenders, samples):
+        turns = list(zip(contenders, samples))
+        lots.shuffle(turns)
+        for contender, taken in turns:
             if contender.prepare:
                 contender.prepare()
             runner.warm(contender.memory)

@@ -22,7 +22,7 @@ def _starts(session, display=None, fonts=None):
         "launcher": "launcher",
         "minimal with dialog, thread, catalogue": "bench-minimal-dialog",
         "bare minimal": "bench-minimal",
-        "the same dialog and nothing to do": "bench-start-floor",
+        "the least that a start takes": "bench-start-floor",
     }
     return [Contender(name, [bundle.program(program)], environment)
             for name, program in names.items()]
@@ -121,8 +121,8 @@ def _into_fresh_folder(session, name, command):
         inputs.remove(folder)
         folder.mkdir()
 
-    return Contender(name, [*command, session.bundle.package, folder], None, prepare,
-                     memory=session.plan.install_memory)
+    return Contender(name, [*command, session.bundle.package, folder], session.bundle.environment(),
+                     prepare, memory=session.plan.install_memory)
 
 
 def _against_bsdtar(session, package):

@@ -34,7 +34,7 @@ def _doublings(first, last):
 
 
 class Full:
-    starts = 100
+    starts = 250
     memory_runs = 5
     notifications = (1000, 1000000)
     installs = 7

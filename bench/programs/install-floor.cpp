@@ -6,6 +6,7 @@
 #include <archive.h>
 #include <archive_entry.h>
 
+#include <clocale>
 #include <string>
 
 namespace {
@@ -55,6 +56,7 @@ int Write(char const* package, std::string const& folder) {
 
 int main(int argc, char** argv) {
   if (argc != 3) return 2;
+  setlocale(LC_ALL, "");  // libarchive converts names
   int const total = Count(argv[1]);
   return total > 0 && Write(argv[1], argv[2]) == total ? 0 : 1;
 }

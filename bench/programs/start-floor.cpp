@@ -1,21 +1,86 @@
-// A start with the dialog as the launcher's user sees it, and nothing to do.
+// What a plain start can't do without, and nothing else: the minimal program with the dialog as the
+// launcher's user sees it, a lock, a log file, both versions read, and the client started by the
+// thread. No check, no log record, no signal between the threads but the last one.
 
+#include <fcntl.h>
+#include <spawn.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
 #include <QFont>
+#include <QLockFile>
+#include <QSettings>
+#include <QThread>
+#include <QTranslator>
+#include <memory>
 
+#include "bundled-plugins.h"
 #include "launcher/progress-dialog.h"
 #include "localisation/str-table.h"
-#include "start-with-dialog.h"
 
 namespace {
 
-std::unique_ptr<QProgressDialog> MakeDialog() {
-  StrTable::InitStrTable();
-  QFont font = QApplication::font();
-  font.setFamily(ProcessingProgressDialog::FontFamily());
-  QApplication::setFont(font);
-  return std::make_unique<ProcessingProgressDialog>();
+void ReadVersion(QString const& bundle) {
+  QSettings settings(bundle + "/Contents/Resources/INFO", QSettings::IniFormat);
+  settings.beginGroup("Version");
+  for (char const* part : {"major", "minor", "build", "icon_overlay"}) {
+    settings.value(QString(part) + "_version").toString();
+  }
+}
+
+bool StartClient(QString const& bundle) {
+  posix_spawnattr_t attributes;
+  posix_spawn_file_actions_t actions;
+  posix_spawnattr_init(&attributes);
+  posix_spawn_file_actions_init(&actions);
+  posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
+  posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
+  QByteArray path = QFile::encodeName(bundle + "/Contents/MacOS/larkmoor-drive-ui");
+  char* const arguments[] = {path.data(), nullptr};
+  pid_t client = 0;
+  int const result =
+      posix_spawn(&client, path.constData(), &actions, &attributes, arguments, environ);
+  posix_spawn_file_actions_destroy(&actions);
+  posix_spawnattr_destroy(&attributes);
+  return result == 0;
 }
 
 }  // namespace
 
-int main(int argc, char** argv) { return StartWithDialog(argc, argv, MakeDialog); }
+int main(int argc, char** argv) {
+  Q_INIT_RESOURCE(texts);
+  UseBundledPlugins(argv[0]);
+  QApplication app(argc, argv);
+  QString const ours = QDir::cleanPath(QApplication::applicationDirPath() + "/../..");
+  QString const root = QDir::homePath() + "/.Larkmoor";
+  QString const theirs = root + "/Larkmoor.app";
+  QDir().mkpath(root + "/log");
+  QByteArray const log = QFile::encodeName(root + "/log/launcher.log");
+  if (open(log.constData(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644) < 0) return 1;
+  QLockFile lock(QApplication::applicationDirPath() + "/start-floor.lock");
+  if (!lock.tryLock(0)) return 1;
+  QTranslator translator;
+  if (!translator.load(QStringLiteral(":/enu.qm"))) return 1;
+  QCoreApplication::installTranslator(&translator);
+  StrTable::InitStrTable();
+
+  QFont font = QApplication::font();
+  font.setFamily(ProcessingProgressDialog::FontFamily());
+  QApplication::setFont(font);
+  ProcessingProgressDialog dialog;
+  dialog.setCancelButton(nullptr);
+
+  bool started = false;
+  std::unique_ptr<QThread> const thread(QThread::create([&] {
+    ReadVersion(ours);
+    ReadVersion(theirs);
+    started = StartClient(theirs);
+  }));
+  QObject::connect(thread.get(), &QThread::finished, &app, &QApplication::quit);
+  thread->start();
+  QApplication::exec();
+  thread->wait();
+  return started ? 0 : 1;
+}
