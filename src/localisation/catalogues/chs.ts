@@ -479,7 +479,7 @@
         <translation>打开文件夹</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
         <translation>同步模式</translation>
     </message>
@@ -509,7 +509,7 @@
         <translation>已安装较新版本的 Larkmoor Drive。若要安装此版本，请先卸载当前版本。</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
         <translation>在此地址发现了另一台 NAS。请重新关联。</translation>
     </message>
@@ -654,7 +654,7 @@
         <translation>正在关联...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
         <translation>由于发生错误，无法安装 [ProductName]。您的电脑未做任何更改。若要以后再试，请重新运行安装程序。</translation>
     </message>
@@ -1034,7 +1034,7 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
         <translation>若要同步更多文件夹或更改同步设置，可随时打开 Larkmoor Drive。</translation>
     </message>
@@ -1139,7 +1139,7 @@
         <translation>忽略(&amp;I)</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
         <translation>安装向导正在配置 [ProductName]，请稍候。这可能需要几分钟时间。</translation>
     </message>
@@ -1279,7 +1279,7 @@
         <translation>简易连接</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
         <translation>重新关联</translation>
     </message>
@@ -1464,7 +1464,7 @@
         <translation>从此电脑中删除 [ProductName]。</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
         <translation>无法立即检测到网络驱动器上的文件更改。同步可能会有延迟。</translation>
     </message>
@@ -1584,7 +1584,7 @@
         <translation>应用</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
         <translation>连接设置</translation>
     </message>
@@ -1604,7 +1604,7 @@
         <translation>设置同步文件夹</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
         <translation>您没有共享链接的权限。</translation>
     </message>
@@ -1614,7 +1614,7 @@
         <translation>了解更多</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
         <translation>以下应用程序正在使用需要更新的文件。请关闭这些应用程序，然后单击“重试”继续，或单击“取消”退出。</translation>
     </message>
@@ -1884,9 +1884,9 @@
         <translation>创建 Larkmoor Drive 文件夹</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>文件夹“%1”现已可用。单击此处进行同步。</translation>
+        <translation>共享文件夹“%1”现已可用。单击此处进行同步。</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,7 +2014,7 @@
         <translation>最近更新的文件</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
         <translation>NAS 已更换</translation>
     </message>
@@ -2194,7 +2194,7 @@
         <translation>正在升级...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
         <translation>异常</translation>
     </message>
@@ -2279,7 +2279,7 @@
         <translation>此文件夹包含另一个同步文件夹，或位于另一个同步文件夹中。请选择其他文件夹。</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
         <translation>以后再说</translation>
     </message>
@@ -2349,7 +2349,7 @@
         <translation>通过 Bridgeway 连接</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
         <translation>不关闭应用程序（需要重新启动电脑）(&amp;D)</translation>
     </message>

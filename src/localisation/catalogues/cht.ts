@@ -479,7 +479,7 @@
         <translation>開啟資料夾</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
         <translation>同步模式</translation>
     </message>
@@ -509,7 +509,7 @@
         <translation>已安裝較新版本的 Larkmoor Drive。若要安裝此版本，請先解除安裝目前的版本。</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
         <translation>在此位址偵測到不同的 NAS。請重新連結。</translation>
     </message>
@@ -654,7 +654,7 @@
         <translation>正在連結...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
         <translation>發生錯誤，因此無法安裝 [ProductName]。您的電腦未做任何變更。若要稍後再試，請再次執行安裝程式。</translation>
     </message>
@@ -1034,7 +1034,7 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
         <translation>若要同步更多資料夾或變更同步設定，隨時可以開啟 Larkmoor Drive。</translation>
     </message>
@@ -1139,7 +1139,7 @@
         <translation>略過(&amp;I)</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
         <translation>安裝精靈正在設定 [ProductName]，請稍候。這可能需要幾分鐘的時間。</translation>
     </message>
@@ -1279,7 +1279,7 @@
         <translation>簡易連線</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
         <translation>重新連結</translation>
     </message>
@@ -1464,7 +1464,7 @@
         <translation>從這台電腦移除 [ProductName]。</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
         <translation>無法即時偵測網路磁碟機上的檔案變更。同步可能會有延遲。</translation>
     </message>
@@ -1584,7 +1584,7 @@
         <translation>套用</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
         <translation>連線設定</translation>
     </message>
@@ -1604,7 +1604,7 @@
         <translation>設定同步資料夾</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
         <translation>您沒有分享連結的權限。</translation>
     </message>
@@ -1614,7 +1614,7 @@
         <translation>瞭解更多</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
         <translation>下列應用程式正在使用需要更新的檔案。請關閉這些應用程式並按「重試」繼續，或按「取消」結束。</translation>
     </message>
@@ -1884,9 +1884,9 @@
         <translation>建立 Larkmoor Drive 資料夾</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>資料夾「%1」現在可供使用。請按一下此處進行同步。</translation>
+        <translation>共用資料夾「%1」現在可供使用。請按一下此處進行同步。</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,7 +2014,7 @@
         <translation>最近更新的檔案</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
         <translation>NAS 已更換</translation>
     </message>
@@ -2194,7 +2194,7 @@
         <translation>升級中...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
         <translation>異常</translation>
     </message>
@@ -2279,7 +2279,7 @@
         <translation>此資料夾包含另一個同步資料夾，或位於另一個同步資料夾之中。請選擇其他資料夾。</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
         <translation>暫時不要</translation>
     </message>
@@ -2349,7 +2349,7 @@
         <translation>透過 Bridgeway 連線</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
         <translation>不要關閉應用程式（需要重新啟動電腦）(&amp;D)</translation>
     </message>

@@ -479,7 +479,7 @@
         <translation>Otevřít složku</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
         <translation>Režim synchronizace</translation>
     </message>
@@ -509,7 +509,7 @@
         <translation>Novější verze aplikace Larkmoor Drive je již nainstalována. Chcete-li nainstalovat tuto verzi, nejprve odinstalujte stávající.</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
         <translation>Na této adrese bylo nalezeno jiné zařízení NAS. Propojte se s ním znovu.</translation>
     </message>
@@ -654,7 +654,7 @@
         <translation>Propojování...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
         <translation>Produkt [ProductName] se kvůli chybě nepodařilo nainstalovat. V počítači nebyly provedeny žádné změny. Chcete-li to později zkusit znovu, spusťte instalační program ještě jednou.</translation>
     </message>
@@ -1034,7 +1034,7 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
         <translation>Chcete-li synchronizovat další složky nebo změnit nastavení synchronizace, můžete aplikaci Larkmoor Drive kdykoli otevřít.</translation>
     </message>
@@ -1139,7 +1139,7 @@
         <translation>&amp;Ignorovat</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
         <translation>Počkejte, než průvodce instalací nakonfiguruje produkt [ProductName]. Může to trvat několik minut.</translation>
     </message>
@@ -1279,7 +1279,7 @@
         <translation>Snadné připojení</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
         <translation>Propojit znovu</translation>
     </message>
@@ -1464,7 +1464,7 @@
         <translation>Odebere produkt [ProductName] z tohoto počítače.</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
         <translation>Změny souborů na síťové jednotce nelze zjistit okamžitě. Synchronizace může být opožděná.</translation>
     </message>
@@ -1584,7 +1584,7 @@
         <translation>Použít</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
         <translation>Nastavení připojení</translation>
     </message>
@@ -1604,7 +1604,7 @@
         <translation>Nastavte synchronizované složky</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
         <translation>Nemáte oprávnění sdílet odkazy.</translation>
     </message>
@@ -1614,7 +1614,7 @@
         <translation>Další informace</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
         <translation>Následující aplikace používají soubory, které je třeba aktualizovat. Zavřete je a pokračujte kliknutím na tlačítko Opakovat, nebo instalaci ukončete tlačítkem Zrušit.</translation>
     </message>
@@ -1884,9 +1884,9 @@
         <translation>Vytvořit složku Larkmoor Drive</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>Složka „%1“ je nyní k dispozici. Kliknutím sem ji synchronizujete.</translation>
+        <translation>Sdílená složka „%1“ je nyní k dispozici. Kliknutím sem ji synchronizujete.</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,7 +2014,7 @@
         <translation>Nedávno aktualizované soubory</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
         <translation>Zařízení NAS bylo vyměněno</translation>
     </message>
@@ -2194,7 +2194,7 @@
         <translation>Probíhá upgrade...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
         <translation>Neobvyklý stav</translation>
     </message>
@@ -2279,7 +2279,7 @@
         <translation>Tato složka obsahuje jinou synchronizovanou složku nebo leží uvnitř jiné. Vyberte jinou složku.</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
         <translation>Nyní ne</translation>
     </message>
@@ -2349,7 +2349,7 @@
         <translation>Připojit prostřednictvím služby Bridgeway</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
         <translation>&amp;Nezavírat aplikace (bude nutné restartovat počítač)</translation>
     </message>

@@ -479,7 +479,7 @@
         <translation>Åbn mappe</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
         <translation>Synkroniseringstilstand</translation>
     </message>
@@ -509,7 +509,7 @@
         <translation>En nyere version af Larkmoor Drive er allerede installeret. Afinstaller den nuværende version først, hvis du vil installere denne version.</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
         <translation>Der er fundet en anden NAS-enhed på denne adresse. Tilknyt den igen.</translation>
     </message>
@@ -654,7 +654,7 @@
         <translation>Tilknytter...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
         <translation>[ProductName] kunne ikke installeres, fordi der opstod en fejl. Der er ikke foretaget ændringer på computeren. Kør installationsprogrammet igen, hvis du vil prøve på et senere tidspunkt.</translation>
     </message>
@@ -1034,7 +1034,7 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
         <translation>Du kan til enhver tid åbne Larkmoor Drive for at synkronisere flere mapper eller ændre synkroniseringsindstillingerne.</translation>
     </message>
@@ -1139,7 +1139,7 @@
         <translation>&amp;Ignorer</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
         <translation>Vent, mens installationsguiden konfigurerer [ProductName]. Det kan tage flere minutter.</translation>
     </message>
@@ -1279,7 +1279,7 @@
         <translation>Nem forbindelse</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
         <translation>Tilknyt igen</translation>
     </message>
@@ -1464,7 +1464,7 @@
         <translation>Fjern [ProductName] fra denne computer.</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
         <translation>Ændringer af filer på et netværksdrev kan ikke registreres med det samme. Synkroniseringen kan blive forsinket.</translation>
     </message>
@@ -1584,7 +1584,7 @@
         <translation>Anvend</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
         <translation>Forbindelsesindstillinger</translation>
     </message>
@@ -1604,7 +1604,7 @@
         <translation>Konfigurer synkroniseringsmapper</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
         <translation>Du har ikke tilladelse til at dele links.</translation>
     </message>
@@ -1614,7 +1614,7 @@
         <translation>Få mere at vide</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
         <translation>Følgende programmer bruger filer, der skal opdateres. Luk dem, og klik på Prøv igen for at fortsætte, eller klik på Annuller for at afslutte.</translation>
     </message>
@@ -1884,9 +1884,9 @@
         <translation>Opret en mappe til Larkmoor Drive</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>Mappen ”%1” er nu tilgængelig. Klik her for at synkronisere den.</translation>
+        <translation>Den delte mappe ”%1” er nu tilgængelig. Klik her for at synkronisere den.</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,7 +2014,7 @@
         <translation>Senest opdaterede filer</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
         <translation>NAS-enheden er blevet udskiftet</translation>
     </message>
@@ -2194,7 +2194,7 @@
         <translation>Opgraderer...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
         <translation>Unormal tilstand</translation>
     </message>
@@ -2279,7 +2279,7 @@
         <translation>Denne mappe indeholder eller ligger i en anden synkroniseringsmappe. Vælg en anden.</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
         <translation>Ikke nu</translation>
     </message>
@@ -2349,7 +2349,7 @@
         <translation>Opret forbindelse via Bridgeway</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
         <translation>Luk &amp;ikke programmerne (en genstart er nødvendig)</translation>
     </message>

@@ -479,7 +479,7 @@
         <translation>Ordner öffnen</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
         <translation>Synchronisierungsmodus</translation>
     </message>
@@ -509,7 +509,7 @@
         <translation>Eine neuere Version von Larkmoor Drive ist bereits installiert. Um diese Version zu installieren, deinstallieren Sie bitte zuerst die vorhandene Version.</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
         <translation>Unter dieser Adresse wurde ein anderes NAS gefunden. Bitte stellen Sie die Verknüpfung erneut her.</translation>
     </message>
@@ -654,7 +654,7 @@
         <translation>Wird verknüpft ...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
         <translation>[ProductName] konnte aufgrund eines Fehlers nicht installiert werden. An Ihrem Computer wurden keine Änderungen vorgenommen. Um es später noch einmal zu versuchen, führen Sie das Installationsprogramm erneut aus.</translation>
     </message>
@@ -1034,7 +1034,7 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
         <translation>Um weitere Ordner zu synchronisieren oder die Synchronisierungseinstellungen zu ändern, können Sie Larkmoor Drive jederzeit öffnen.</translation>
     </message>
@@ -1139,7 +1139,7 @@
         <translation>&amp;Ignorieren</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
         <translation>Bitte warten Sie, während der Setup-Assistent [ProductName] konfiguriert. Dies kann einige Minuten dauern.</translation>
     </message>
@@ -1279,7 +1279,7 @@
         <translation>Einfache Verbindung</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
         <translation>Erneut verknüpfen</translation>
     </message>
@@ -1464,7 +1464,7 @@
         <translation>[ProductName] von diesem Computer entfernen.</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
         <translation>Änderungen an Dateien auf einem Netzlaufwerk können nicht sofort erkannt werden. Die Synchronisierung kann sich verzögern.</translation>
     </message>
@@ -1584,7 +1584,7 @@
         <translation>Übernehmen</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
         <translation>Verbindungseinstellungen</translation>
     </message>
@@ -1604,7 +1604,7 @@
         <translation>Synchronisierungsordner einrichten</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
         <translation>Sie sind nicht berechtigt, Freigabelinks zu erstellen.</translation>
     </message>
@@ -1614,7 +1614,7 @@
         <translation>Weitere Informationen</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
         <translation>Die folgenden Anwendungen verwenden Dateien, die aktualisiert werden müssen. Schließen Sie diese und klicken Sie auf „Wiederholen“, um fortzufahren, oder klicken Sie auf „Abbrechen“, um den Vorgang zu beenden.</translation>
     </message>
@@ -1884,9 +1884,9 @@
         <translation>Larkmoor Drive-Ordner erstellen</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>Der Ordner „%1“ ist jetzt verfügbar. Klicken Sie hier, um ihn zu synchronisieren.</translation>
+        <translation>Der freigegebene Ordner „%1“ ist jetzt verfügbar. Klicken Sie hier, um ihn zu synchronisieren.</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,7 +2014,7 @@
         <translation>Kürzlich aktualisierte Dateien</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
         <translation>Das NAS wurde ausgetauscht</translation>
     </message>
@@ -2194,7 +2194,7 @@
         <translation>Wird aktualisiert ...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
         <translation>Gestört</translation>
     </message>
@@ -2279,7 +2279,7 @@
         <translation>Dieser Ordner enthält einen anderen Synchronisierungsordner oder liegt in einem solchen. Bitte wählen Sie einen anderen Ordner.</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
         <translation>Nicht jetzt</translation>
     </message>
@@ -2349,7 +2349,7 @@
         <translation>Verbindung über Bridgeway herstellen</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
         <translation>Anwendungen &amp;nicht schließen (ein Neustart ist erforderlich)</translation>
     </message>

@@ -479,9 +479,9 @@
         <translation>Open folder</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
-        <translation>Synchronization mode</translation>
+        <translation>Sync direction</translation>
     </message>
     <message>
         <source>Add a sync folder to an existing connection</source>
@@ -509,9 +509,9 @@
         <translation>A newer version of Larkmoor Drive is already installed. To install this version, please uninstall the current version first.</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>A different NAS has been found at this address. Please link to it again.</translation>
+        <translation>A different NAS has been found at this address. Please link this computer again.</translation>
     </message>
     <message>
         <source>Merge mode</source>
@@ -654,9 +654,9 @@
         <translation>Linking...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
-        <translation>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</translation>
+        <translation>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</translation>
     </message>
     <message>
         <source>Download only</source>
@@ -1034,9 +1034,9 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
-        <translation>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</translation>
+        <translation>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</translation>
     </message>
     <message>
         <source>Maximum number of downloads</source>
@@ -1139,9 +1139,9 @@
         <translation>&amp;Ignore</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</translation>
+        <translation>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1279,9 +1279,9 @@
         <translation>Easy connection</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
-        <translation>Link Again</translation>
+        <translation>Link again</translation>
     </message>
     <message>
         <source>Set Up Larkmoor Drive</source>
@@ -1464,9 +1464,9 @@
         <translation>Remove [ProductName] from this computer.</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
-        <translation>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</translation>
+        <translation>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</translation>
     </message>
     <message>
         <source>Language</source>
@@ -1584,9 +1584,9 @@
         <translation>Apply</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
-        <translation>Connection Settings</translation>
+        <translation>Connection settings</translation>
     </message>
     <message>
         <source>Last 7 days</source>
@@ -1604,9 +1604,9 @@
         <translation>Set Up Sync Folders</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
-        <translation>You do not have permission to share links.</translation>
+        <translation>You do not have permission to create sharing links.</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1614,9 +1614,9 @@
         <translation>Learn More</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</translation>
+        <translation>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</translation>
     </message>
     <message>
         <source>November</source>
@@ -1884,9 +1884,9 @@
         <translation>Create a Larkmoor Drive folder</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>The folder &quot;%1&quot; is now available. Click here to sync it.</translation>
+        <translation>The shared folder &quot;%1&quot; is now available. Click here to sync it.</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,9 +2014,9 @@
         <translation>Recently updated files</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
-        <translation>The NAS has been replaced</translation>
+        <translation>The NAS has been replaced.</translation>
     </message>
     <message>
         <source>Add a sync folder on another NAS</source>
@@ -2194,9 +2194,9 @@
         <translation>Upgrading...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>Abnormal</translation>
+        <translation>Needs attention</translation>
     </message>
     <message>
         <source>Date range</source>
@@ -2279,9 +2279,9 @@
         <translation>This folder contains, or lies inside, another sync folder. Please choose another one.</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
-        <translation>Not Now</translation>
+        <translation>No Thanks</translation>
     </message>
     <message>
         <source>Choose a Sync Direction</source>
@@ -2349,9 +2349,9 @@
         <translation>Connect through Bridgeway</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
-        <translation>&amp;Do not close the applications (a restart will be required)</translation>
+        <translation>&amp;Do not close the applications (you will need to restart your computer)</translation>
     </message>
     <message>
         <source>Larkmoor Drive is ready.</source>

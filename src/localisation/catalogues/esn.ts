@@ -479,7 +479,7 @@
         <translation>Abrir carpeta</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
         <translation>Modo de sincronización</translation>
     </message>
@@ -509,7 +509,7 @@
         <translation>Ya hay instalada una versión más reciente de Larkmoor Drive. Para instalar esta versión, desinstale primero la versión actual.</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
         <translation>Se ha encontrado un NAS diferente en esta dirección. Vincúlelo de nuevo.</translation>
     </message>
@@ -654,7 +654,7 @@
         <translation>Vinculando...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
         <translation>No se ha podido instalar [ProductName] porque se ha producido un error. No se ha realizado ningún cambio en el equipo. Para intentarlo de nuevo más adelante, vuelva a ejecutar el instalador.</translation>
     </message>
@@ -1034,7 +1034,7 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
         <translation>Para sincronizar más carpetas o cambiar la configuración de sincronización, abra Larkmoor Drive en cualquier momento.</translation>
     </message>
@@ -1139,7 +1139,7 @@
         <translation>&amp;Omitir</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
         <translation>Espere mientras el Asistente para la instalación configura [ProductName]. Esta operación puede tardar varios minutos.</translation>
     </message>
@@ -1279,7 +1279,7 @@
         <translation>Conexión sencilla</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
         <translation>Vincular de nuevo</translation>
     </message>
@@ -1464,7 +1464,7 @@
         <translation>Quite [ProductName] de este equipo.</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
         <translation>Los cambios en archivos de una unidad de red no se pueden detectar de inmediato. La sincronización puede retrasarse.</translation>
     </message>
@@ -1584,7 +1584,7 @@
         <translation>Aplicar</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
         <translation>Configuración de la conexión</translation>
     </message>
@@ -1604,7 +1604,7 @@
         <translation>Configurar carpetas de sincronización</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
         <translation>No tiene permiso para compartir enlaces.</translation>
     </message>
@@ -1614,7 +1614,7 @@
         <translation>Más información</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
         <translation>Las siguientes aplicaciones usan archivos que deben actualizarse. Ciérrelas y haga clic en Reintentar para continuar, o haga clic en Cancelar para salir.</translation>
     </message>
@@ -1884,9 +1884,9 @@
         <translation>Crear una carpeta de Larkmoor Drive</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>La carpeta «%1» ya está disponible. Haga clic aquí para sincronizarla.</translation>
+        <translation>La carpeta compartida «%1» ya está disponible. Haga clic aquí para sincronizarla.</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,7 +2014,7 @@
         <translation>Archivos actualizados recientemente</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
         <translation>Se ha reemplazado el NAS</translation>
     </message>
@@ -2194,7 +2194,7 @@
         <translation>Actualizando...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
         <translation>Anomalía</translation>
     </message>
@@ -2279,7 +2279,7 @@
         <translation>Esta carpeta contiene otra carpeta de sincronización o se encuentra dentro de una. Elija otra carpeta.</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
         <translation>Ahora no</translation>
     </message>
@@ -2349,7 +2349,7 @@
         <translation>Conectarse a través de Bridgeway</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
         <translation>&amp;No cerrar las aplicaciones (será necesario reiniciar)</translation>
     </message>

@@ -479,7 +479,7 @@
         <translation>Ouvrir le dossier</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
         <translation>Mode de synchronisation</translation>
     </message>
@@ -509,7 +509,7 @@
         <translation>Une version plus récente de Larkmoor Drive est déjà installée. Pour installer cette version, désinstallez d&apos;abord la version actuelle.</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
         <translation>Un autre NAS a été détecté à cette adresse. Veuillez l&apos;associer de nouveau.</translation>
     </message>
@@ -654,7 +654,7 @@
         <translation>Association en cours...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
         <translation>Une erreur s&apos;est produite et [ProductName] n&apos;a pas pu être installé. Aucune modification n&apos;a été apportée à votre ordinateur. Pour réessayer ultérieurement, exécutez de nouveau le programme d&apos;installation.</translation>
     </message>
@@ -1034,7 +1034,7 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
         <translation>Pour synchroniser d&apos;autres dossiers ou modifier les paramètres de synchronisation, ouvrez Larkmoor Drive à tout moment.</translation>
     </message>
@@ -1139,7 +1139,7 @@
         <translation>&amp;Ignorer</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
         <translation>Veuillez patienter pendant que l&apos;assistant d&apos;installation configure [ProductName]. Cette opération peut prendre plusieurs minutes.</translation>
     </message>
@@ -1279,7 +1279,7 @@
         <translation>Connexion facile</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
         <translation>Associer de nouveau</translation>
     </message>
@@ -1464,7 +1464,7 @@
         <translation>Supprimer [ProductName] de cet ordinateur.</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
         <translation>Les modifications apportées aux fichiers d&apos;un lecteur réseau ne peuvent pas être détectées immédiatement. La synchronisation peut être retardée.</translation>
     </message>
@@ -1584,7 +1584,7 @@
         <translation>Appliquer</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
         <translation>Paramètres de connexion</translation>
     </message>
@@ -1604,7 +1604,7 @@
         <translation>Configurer les dossiers de synchronisation</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
         <translation>Vous n&apos;êtes pas autorisé à partager des liens.</translation>
     </message>
@@ -1614,7 +1614,7 @@
         <translation>En savoir plus</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
         <translation>Les applications suivantes utilisent des fichiers qui doivent être mis à jour. Fermez-les et cliquez sur Réessayer pour continuer, ou cliquez sur Annuler pour quitter.</translation>
     </message>
@@ -1884,9 +1884,9 @@
         <translation>Créer un dossier Larkmoor Drive</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>Le dossier « %1 » est maintenant disponible. Cliquez ici pour le synchroniser.</translation>
+        <translation>Le dossier partagé « %1 » est maintenant disponible. Cliquez ici pour le synchroniser.</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,7 +2014,7 @@
         <translation>Fichiers mis à jour récemment</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
         <translation>Le NAS a été remplacé</translation>
     </message>
@@ -2194,7 +2194,7 @@
         <translation>Mise à niveau...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
         <translation>Anomalie</translation>
     </message>
@@ -2279,7 +2279,7 @@
         <translation>Ce dossier contient un autre dossier de synchronisation ou se trouve dans l&apos;un d&apos;eux. Veuillez en choisir un autre.</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
         <translation>Pas maintenant</translation>
     </message>
@@ -2349,7 +2349,7 @@
         <translation>Se connecter via Bridgeway</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
         <translation>&amp;Ne pas fermer les applications (un redémarrage sera nécessaire)</translation>
     </message>

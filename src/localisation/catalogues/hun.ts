@@ -479,7 +479,7 @@
         <translation>Mappa megnyitása</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
         <translation>Szinkronizálási mód</translation>
     </message>
@@ -509,7 +509,7 @@
         <translation>A Larkmoor Drive újabb verziója már telepítve van. Ennek a verziónak a telepítéséhez előbb távolítsa el a jelenlegit.</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
         <translation>Ezen a címen egy másik NAS található. Végezze el újra a társítást.</translation>
     </message>
@@ -654,7 +654,7 @@
         <translation>Társítás...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
         <translation>Hiba történt, ezért a(z) [ProductName] telepítése nem sikerült. A számítógépen nem történt módosítás. Ha később újra próbálkozik, indítsa el ismét a telepítőt.</translation>
     </message>
@@ -1034,7 +1034,7 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
         <translation>Ha további mappákat szeretne szinkronizálni vagy módosítaná a szinkronizálási beállításokat, nyissa meg bármikor a Larkmoor Drive alkalmazást.</translation>
     </message>
@@ -1139,7 +1139,7 @@
         <translation>Ki&amp;hagyás</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
         <translation>Várjon, amíg a telepítővarázsló konfigurálja a(z) [ProductName] programot. Ez több percig is eltarthat.</translation>
     </message>
@@ -1279,7 +1279,7 @@
         <translation>Egyszerű kapcsolódás</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
         <translation>Ismételt társítás</translation>
     </message>
@@ -1464,7 +1464,7 @@
         <translation>A(z) [ProductName] eltávolítása erről a számítógépről.</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
         <translation>A hálózati meghajtón lévő fájlok módosításai nem észlelhetők azonnal. A szinkronizálás késhet.</translation>
     </message>
@@ -1584,7 +1584,7 @@
         <translation>Alkalmaz</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
         <translation>Kapcsolat beállításai</translation>
     </message>
@@ -1604,7 +1604,7 @@
         <translation>Szinkronizálási mappák beállítása</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
         <translation>Nincs jogosultsága hivatkozások megosztásához.</translation>
     </message>
@@ -1614,7 +1614,7 @@
         <translation>További információ</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
         <translation>A következő alkalmazások frissítendő fájlokat használnak. Zárja be őket, és kattintson az Újra gombra a folytatáshoz, vagy a Mégse gombra a kilépéshez.</translation>
     </message>
@@ -1884,9 +1884,9 @@
         <translation>Larkmoor Drive mappa létrehozása</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>A(z) „%1” mappa mostantól elérhető. Kattintson ide a szinkronizálásához.</translation>
+        <translation>A(z) „%1” megosztott mappa mostantól elérhető. Kattintson ide a szinkronizálásához.</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,7 +2014,7 @@
         <translation>Nemrég frissített fájlok</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
         <translation>A NAS-t kicserélték</translation>
     </message>
@@ -2194,7 +2194,7 @@
         <translation>Frissítés...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
         <translation>Rendellenes állapot</translation>
     </message>
@@ -2279,7 +2279,7 @@
         <translation>Ez a mappa egy másik szinkronizálási mappát tartalmaz, vagy egy másikon belül található. Válasszon másik mappát.</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
         <translation>Most nem</translation>
     </message>
@@ -2349,7 +2349,7 @@
         <translation>Kapcsolódás a Bridgeway szolgáltatáson keresztül</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
         <translation>Az alkalmazások &amp;ne legyenek bezárva (újraindításra lesz szükség)</translation>
     </message>

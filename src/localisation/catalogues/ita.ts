@@ -479,7 +479,7 @@
         <translation>Apri cartella</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
         <translation>Modalità di sincronizzazione</translation>
     </message>
@@ -509,7 +509,7 @@
         <translation>È già installata una versione più recente di Larkmoor Drive. Per installare questa versione, disinstallare prima la versione corrente.</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
         <translation>A questo indirizzo è stato trovato un NAS diverso. Collegarlo di nuovo.</translation>
     </message>
@@ -654,7 +654,7 @@
         <translation>Collegamento in corso...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
         <translation>Impossibile installare [ProductName] a causa di un errore. Non è stata apportata alcuna modifica al computer. Per riprovare in seguito, eseguire di nuovo il programma di installazione.</translation>
     </message>
@@ -1034,7 +1034,7 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
         <translation>Per sincronizzare altre cartelle o modificare le impostazioni di sincronizzazione, aprire Larkmoor Drive in qualsiasi momento.</translation>
     </message>
@@ -1139,7 +1139,7 @@
         <translation>&amp;Ignora</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
         <translation>Attendere mentre l&apos;installazione guidata configura [ProductName]. L&apos;operazione può richiedere alcuni minuti.</translation>
     </message>
@@ -1279,7 +1279,7 @@
         <translation>Connessione semplificata</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
         <translation>Collega di nuovo</translation>
     </message>
@@ -1464,7 +1464,7 @@
         <translation>Rimuove [ProductName] da questo computer.</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
         <translation>Le modifiche ai file su un&apos;unità di rete non possono essere rilevate immediatamente. La sincronizzazione potrebbe subire ritardi.</translation>
     </message>
@@ -1584,7 +1584,7 @@
         <translation>Applica</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
         <translation>Impostazioni di connessione</translation>
     </message>
@@ -1604,7 +1604,7 @@
         <translation>Configurazione delle cartelle di sincronizzazione</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
         <translation>Non si dispone delle autorizzazioni per condividere link.</translation>
     </message>
@@ -1614,7 +1614,7 @@
         <translation>Ulteriori informazioni</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
         <translation>Le applicazioni seguenti utilizzano file che devono essere aggiornati. Chiuderle e fare clic su Riprova per continuare oppure su Annulla per uscire.</translation>
     </message>
@@ -1884,9 +1884,9 @@
         <translation>Crea una cartella Larkmoor Drive</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>La cartella “%1” è ora disponibile. Fare clic qui per sincronizzarla.</translation>
+        <translation>La cartella condivisa “%1” è ora disponibile. Fare clic qui per sincronizzarla.</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,7 +2014,7 @@
         <translation>File aggiornati di recente</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
         <translation>Il NAS è stato sostituito</translation>
     </message>
@@ -2194,7 +2194,7 @@
         <translation>Aggiornamento...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
         <translation>Anomalia</translation>
     </message>
@@ -2279,7 +2279,7 @@
         <translation>Questa cartella contiene un&apos;altra cartella di sincronizzazione o si trova al suo interno. Scegliere un&apos;altra cartella.</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
         <translation>Non ora</translation>
     </message>
@@ -2349,7 +2349,7 @@
         <translation>Connetti tramite Bridgeway</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
         <translation>&amp;Non chiudere le applicazioni (sarà necessario riavviare il computer)</translation>
     </message>

@@ -479,7 +479,7 @@
         <translation>フォルダーを開く</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
         <translation>同期モード</translation>
     </message>
@@ -509,7 +509,7 @@
         <translation>より新しいバージョンの Larkmoor Drive がすでにインストールされています。このバージョンをインストールするには、先に現在のバージョンをアンインストールしてください。</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
         <translation>このアドレスで別の NAS が見つかりました。もう一度リンクしてください。</translation>
     </message>
@@ -654,7 +654,7 @@
         <translation>リンクしています...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
         <translation>エラーが発生したため、[ProductName] をインストールできませんでした。コンピューターに変更は加えられていません。後でインストールする場合は、インストーラーをもう一度実行してください。</translation>
     </message>
@@ -1034,7 +1034,7 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
         <translation>同期するフォルダーを追加したり、同期の設定を変更したりするには、いつでも Larkmoor Drive を開いてください。</translation>
     </message>
@@ -1139,7 +1139,7 @@
         <translation>無視(&amp;I)</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
         <translation>セットアップウィザードが [ProductName] を構成しています。しばらくお待ちください。これには数分かかることがあります。</translation>
     </message>
@@ -1279,7 +1279,7 @@
         <translation>かんたん接続</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
         <translation>再リンク</translation>
     </message>
@@ -1464,7 +1464,7 @@
         <translation>このコンピューターから [ProductName] を削除します。</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
         <translation>ネットワークドライブ上のファイルの変更は、すぐには検出できません。同期が遅れる場合があります。</translation>
     </message>
@@ -1584,7 +1584,7 @@
         <translation>適用</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
         <translation>接続設定</translation>
     </message>
@@ -1604,7 +1604,7 @@
         <translation>同期フォルダーの設定</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
         <translation>リンクを共有する権限がありません。</translation>
     </message>
@@ -1614,7 +1614,7 @@
         <translation>詳細情報</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
         <translation>次のアプリケーションが、更新の必要なファイルを使用しています。これらのアプリケーションを閉じてから、続行するには「再試行」を、終了するには「キャンセル」をクリックしてください。</translation>
     </message>
@@ -1884,9 +1884,9 @@
         <translation>Larkmoor Drive フォルダーを作成</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>フォルダー「%1」が利用可能になりました。同期するには、ここをクリックしてください。</translation>
+        <translation>共有フォルダー「%1」が利用可能になりました。同期するには、ここをクリックしてください。</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,7 +2014,7 @@
         <translation>最近更新されたファイル</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
         <translation>NAS が交換されました</translation>
     </message>
@@ -2194,7 +2194,7 @@
         <translation>アップグレードしています...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
         <translation>異常</translation>
     </message>
@@ -2279,7 +2279,7 @@
         <translation>このフォルダーは、別の同期フォルダーを含んでいるか、別の同期フォルダーの中にあります。別のフォルダーを選択してください。</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
         <translation>後で</translation>
     </message>
@@ -2349,7 +2349,7 @@
         <translation>Bridgeway 経由で接続する</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
         <translation>アプリケーションを閉じない (再起動が必要になります)(&amp;D)</translation>
     </message>

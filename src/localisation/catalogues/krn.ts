@@ -479,7 +479,7 @@
         <translation>폴더 열기</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
         <translation>동기화 모드</translation>
     </message>
@@ -509,7 +509,7 @@
         <translation>더 최신 버전의 Larkmoor Drive가 이미 설치되어 있습니다. 이 버전을 설치하려면 먼저 현재 버전을 제거하십시오.</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
         <translation>이 주소에서 다른 NAS가 발견되었습니다. 다시 연결하십시오.</translation>
     </message>
@@ -654,7 +654,7 @@
         <translation>연결 중...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
         <translation>오류가 발생하여 [ProductName]을(를) 설치하지 못했습니다. 컴퓨터에 변경된 내용은 없습니다. 나중에 다시 시도하려면 설치 프로그램을 다시 실행하십시오.</translation>
     </message>
@@ -1034,7 +1034,7 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
         <translation>더 많은 폴더를 동기화하거나 동기화 설정을 변경하려면 언제든지 Larkmoor Drive를 여십시오.</translation>
     </message>
@@ -1139,7 +1139,7 @@
         <translation>무시(&amp;I)</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
         <translation>설치 마법사가 [ProductName]을(를) 구성하는 동안 기다려 주십시오. 이 작업은 몇 분 정도 걸릴 수 있습니다.</translation>
     </message>
@@ -1279,7 +1279,7 @@
         <translation>간편 연결</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
         <translation>다시 연결</translation>
     </message>
@@ -1464,7 +1464,7 @@
         <translation>이 컴퓨터에서 [ProductName]을(를) 제거합니다.</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
         <translation>네트워크 드라이브에 있는 파일의 변경 내용은 즉시 감지할 수 없습니다. 동기화가 지연될 수 있습니다.</translation>
     </message>
@@ -1584,7 +1584,7 @@
         <translation>적용</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
         <translation>연결 설정</translation>
     </message>
@@ -1604,7 +1604,7 @@
         <translation>동기화 폴더 설정</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
         <translation>링크를 공유할 권한이 없습니다.</translation>
     </message>
@@ -1614,7 +1614,7 @@
         <translation>자세히 알아보기</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
         <translation>다음 응용 프로그램에서 업데이트해야 하는 파일을 사용하고 있습니다. 응용 프로그램을 닫은 다음 계속하려면 &quot;다시 시도&quot;를 클릭하고, 종료하려면 &quot;취소&quot;를 클릭하십시오.</translation>
     </message>
@@ -1884,9 +1884,9 @@
         <translation>Larkmoor Drive 폴더 만들기</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>이제 폴더 &quot;%1&quot;을(를) 사용할 수 있습니다. 동기화하려면 여기를 클릭하십시오.</translation>
+        <translation>이제 공유 폴더 &quot;%1&quot;을(를) 사용할 수 있습니다. 동기화하려면 여기를 클릭하십시오.</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,7 +2014,7 @@
         <translation>최근 업데이트된 파일</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
         <translation>NAS가 교체됨</translation>
     </message>
@@ -2194,7 +2194,7 @@
         <translation>업그레이드 중...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
         <translation>비정상</translation>
     </message>
@@ -2279,7 +2279,7 @@
         <translation>이 폴더는 다른 동기화 폴더를 포함하거나 다른 동기화 폴더 안에 있습니다. 다른 폴더를 선택하십시오.</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
         <translation>나중에</translation>
     </message>
@@ -2349,7 +2349,7 @@
         <translation>Bridgeway를 통해 연결</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
         <translation>응용 프로그램을 닫지 않음(다시 시작해야 함)(&amp;D)</translation>
     </message>

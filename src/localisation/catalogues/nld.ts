@@ -479,7 +479,7 @@
         <translation>Map openen</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
         <translation>Synchronisatiemodus</translation>
     </message>
@@ -509,7 +509,7 @@
         <translation>Er is al een nieuwere versie van Larkmoor Drive geïnstalleerd. Verwijder eerst de huidige versie als u deze versie wilt installeren.</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
         <translation>Op dit adres is een andere NAS gevonden. Stel de koppeling opnieuw in.</translation>
     </message>
@@ -654,7 +654,7 @@
         <translation>Bezig met koppelen...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
         <translation>[ProductName] kan niet worden geïnstalleerd omdat er een fout is opgetreden. Er zijn geen wijzigingen aangebracht op uw computer. Voer het installatieprogramma opnieuw uit om het later nog eens te proberen.</translation>
     </message>
@@ -1034,7 +1034,7 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
         <translation>Open Larkmoor Drive op elk gewenst moment om meer mappen te synchroniseren of de synchronisatie-instellingen te wijzigen.</translation>
     </message>
@@ -1139,7 +1139,7 @@
         <translation>Ne&amp;geren</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
         <translation>Een ogenblik geduld terwijl de installatiewizard [ProductName] configureert. Dit kan enkele minuten duren.</translation>
     </message>
@@ -1279,7 +1279,7 @@
         <translation>Eenvoudige verbinding</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
         <translation>Opnieuw koppelen</translation>
     </message>
@@ -1464,7 +1464,7 @@
         <translation>[ProductName] van deze computer verwijderen.</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
         <translation>Wijzigingen in bestanden op een netwerkstation kunnen niet onmiddellijk worden gedetecteerd. De synchronisatie kan vertraging oplopen.</translation>
     </message>
@@ -1584,7 +1584,7 @@
         <translation>Toepassen</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
         <translation>Verbindingsinstellingen</translation>
     </message>
@@ -1604,7 +1604,7 @@
         <translation>Synchronisatiemappen instellen</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
         <translation>U bent niet gemachtigd om links te delen.</translation>
     </message>
@@ -1614,7 +1614,7 @@
         <translation>Meer informatie</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
         <translation>De volgende toepassingen gebruiken bestanden die moeten worden bijgewerkt. Sluit deze toepassingen en klik op Opnieuw proberen om door te gaan, of klik op Annuleren om af te sluiten.</translation>
     </message>
@@ -1884,9 +1884,9 @@
         <translation>Een map voor Larkmoor Drive maken</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>De map “%1” is nu beschikbaar. Klik hier om deze te synchroniseren.</translation>
+        <translation>De gedeelde map “%1” is nu beschikbaar. Klik hier om deze te synchroniseren.</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,7 +2014,7 @@
         <translation>Onlangs bijgewerkte bestanden</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
         <translation>De NAS is vervangen</translation>
     </message>
@@ -2194,7 +2194,7 @@
         <translation>Bezig met upgraden...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
         <translation>Storing</translation>
     </message>
@@ -2279,7 +2279,7 @@
         <translation>Deze map bevat een andere synchronisatiemap of bevindt zich daarin. Kies een andere map.</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
         <translation>Niet nu</translation>
     </message>
@@ -2349,7 +2349,7 @@
         <translation>Verbinding maken via Bridgeway</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
         <translation>De toepassingen &amp;niet sluiten (opnieuw opstarten is vereist)</translation>
     </message>

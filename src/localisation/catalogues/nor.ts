@@ -479,7 +479,7 @@
         <translation>Åpne mappe</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
         <translation>Synkroniseringsmodus</translation>
     </message>
@@ -509,7 +509,7 @@
         <translation>En nyere versjon av Larkmoor Drive er allerede installert. Hvis du vil installere denne versjonen, må du først avinstallere gjeldende versjon.</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
         <translation>En annen NAS-enhet ble funnet på denne adressen. Tilknytt den på nytt.</translation>
     </message>
@@ -654,7 +654,7 @@
         <translation>Tilknytter...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
         <translation>[ProductName] kunne ikke installeres fordi det oppstod en feil. Det er ikke gjort noen endringer på datamaskinen. Kjør installasjonsprogrammet på nytt hvis du vil prøve igjen senere.</translation>
     </message>
@@ -1034,7 +1034,7 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
         <translation>Du kan når som helst åpne Larkmoor Drive for å synkronisere flere mapper eller endre synkroniseringsinnstillingene.</translation>
     </message>
@@ -1139,7 +1139,7 @@
         <translation>&amp;Ignorer</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
         <translation>Vent mens installasjonsveiviseren konfigurerer [ProductName]. Dette kan ta flere minutter.</translation>
     </message>
@@ -1279,7 +1279,7 @@
         <translation>Enkel tilkobling</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
         <translation>Tilknytt på nytt</translation>
     </message>
@@ -1464,7 +1464,7 @@
         <translation>Fjern [ProductName] fra denne datamaskinen.</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
         <translation>Endringer i filer på en nettverksstasjon kan ikke oppdages umiddelbart. Synkroniseringen kan bli forsinket.</translation>
     </message>
@@ -1584,7 +1584,7 @@
         <translation>Bruk</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
         <translation>Tilkoblingsinnstillinger</translation>
     </message>
@@ -1604,7 +1604,7 @@
         <translation>Konfigurer synkroniseringsmapper</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
         <translation>Du har ikke tillatelse til å dele lenker.</translation>
     </message>
@@ -1614,7 +1614,7 @@
         <translation>Finn ut mer</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
         <translation>Følgende programmer bruker filer som må oppdateres. Lukk dem og klikk på Prøv på nytt for å fortsette, eller klikk på Avbryt for å avslutte.</translation>
     </message>
@@ -1884,9 +1884,9 @@
         <translation>Opprett en mappe for Larkmoor Drive</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>Mappen «%1» er nå tilgjengelig. Klikk her for å synkronisere den.</translation>
+        <translation>Den delte mappen «%1» er nå tilgjengelig. Klikk her for å synkronisere den.</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,7 +2014,7 @@
         <translation>Nylig oppdaterte filer</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
         <translation>NAS-enheten er byttet ut</translation>
     </message>
@@ -2194,7 +2194,7 @@
         <translation>Oppgraderer...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
         <translation>Unormal tilstand</translation>
     </message>
@@ -2279,7 +2279,7 @@
         <translation>Denne mappen inneholder eller ligger i en annen synkroniseringsmappe. Velg en annen.</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
         <translation>Ikke nå</translation>
     </message>
@@ -2349,7 +2349,7 @@
         <translation>Koble til via Bridgeway</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
         <translation>&amp;Ikke lukk programmene (en omstart vil være nødvendig)</translation>
     </message>

@@ -479,7 +479,7 @@
         <translation>Otwórz folder</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
         <translation>Tryb synchronizacji</translation>
     </message>
@@ -509,7 +509,7 @@
         <translation>Nowsza wersja aplikacji Larkmoor Drive jest już zainstalowana. Aby zainstalować tę wersję, najpierw odinstaluj bieżącą.</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
         <translation>Pod tym adresem znaleziono inny serwer NAS. Połącz się z nim ponownie.</translation>
     </message>
@@ -654,7 +654,7 @@
         <translation>Łączenie...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
         <translation>Nie można zainstalować programu [ProductName], ponieważ wystąpił błąd. Na komputerze nie wprowadzono żadnych zmian. Aby spróbować ponownie później, uruchom jeszcze raz instalator.</translation>
     </message>
@@ -1034,7 +1034,7 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
         <translation>Aby synchronizować więcej folderów lub zmienić ustawienia synchronizacji, w dowolnej chwili otwórz aplikację Larkmoor Drive.</translation>
     </message>
@@ -1139,7 +1139,7 @@
         <translation>Z&amp;ignoruj</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
         <translation>Poczekaj, aż kreator instalacji skonfiguruje program [ProductName]. Może to potrwać kilka minut.</translation>
     </message>
@@ -1279,7 +1279,7 @@
         <translation>Łatwe połączenie</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
         <translation>Połącz ponownie</translation>
     </message>
@@ -1464,7 +1464,7 @@
         <translation>Usuwa program [ProductName] z tego komputera.</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
         <translation>Zmiany plików na dysku sieciowym nie są wykrywane natychmiast. Synchronizacja może być opóźniona.</translation>
     </message>
@@ -1584,7 +1584,7 @@
         <translation>Zastosuj</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
         <translation>Ustawienia połączenia</translation>
     </message>
@@ -1604,7 +1604,7 @@
         <translation>Skonfiguruj foldery synchronizacji</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
         <translation>Nie masz uprawnień do udostępniania linków.</translation>
     </message>
@@ -1614,7 +1614,7 @@
         <translation>Dowiedz się więcej</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
         <translation>Następujące aplikacje używają plików, które muszą zostać zaktualizowane. Zamknij je i kliknij przycisk Ponów próbę, aby kontynuować, lub kliknij przycisk Anuluj, aby zakończyć.</translation>
     </message>
@@ -1884,9 +1884,9 @@
         <translation>Utwórz folder Larkmoor Drive</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>Folder „%1” jest teraz dostępny. Kliknij tutaj, aby go zsynchronizować.</translation>
+        <translation>Folder udostępniony „%1” jest teraz dostępny. Kliknij tutaj, aby go zsynchronizować.</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,7 +2014,7 @@
         <translation>Ostatnio zaktualizowane pliki</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
         <translation>Serwer NAS został wymieniony</translation>
     </message>
@@ -2194,7 +2194,7 @@
         <translation>Uaktualnianie...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
         <translation>Nieprawidłowy stan</translation>
     </message>
@@ -2279,7 +2279,7 @@
         <translation>Ten folder zawiera inny folder synchronizacji lub znajduje się w jego obrębie. Wybierz inny.</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
         <translation>Nie teraz</translation>
     </message>
@@ -2349,7 +2349,7 @@
         <translation>Połącz przez Bridgeway</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
         <translation>&amp;Nie zamykaj aplikacji (wymagane będzie ponowne uruchomienie komputera)</translation>
     </message>

@@ -479,7 +479,7 @@
         <translation>Abrir pasta</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
         <translation>Modo de sincronização</translation>
     </message>
@@ -509,7 +509,7 @@
         <translation>Uma versão mais recente do Larkmoor Drive já está instalada. Para instalar esta versão, desinstale primeiro a versão atual.</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
         <translation>Um NAS diferente foi encontrado neste endereço. Vincule-o novamente.</translation>
     </message>
@@ -654,7 +654,7 @@
         <translation>Vinculando...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
         <translation>Não foi possível instalar o [ProductName] devido a um erro. Nenhuma alteração foi feita no computador. Para tentar de novo mais tarde, execute o instalador novamente.</translation>
     </message>
@@ -1034,7 +1034,7 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
         <translation>Para sincronizar mais pastas ou alterar as configurações de sincronização, abra o Larkmoor Drive a qualquer momento.</translation>
     </message>
@@ -1139,7 +1139,7 @@
         <translation>&amp;Ignorar</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
         <translation>Aguarde enquanto o Assistente de Instalação configura o [ProductName]. Isso pode levar alguns minutos.</translation>
     </message>
@@ -1279,7 +1279,7 @@
         <translation>Conexão fácil</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
         <translation>Vincular novamente</translation>
     </message>
@@ -1464,7 +1464,7 @@
         <translation>Remove o [ProductName] deste computador.</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
         <translation>As alterações em arquivos de uma unidade de rede não podem ser detectadas imediatamente. A sincronização pode sofrer atrasos.</translation>
     </message>
@@ -1584,7 +1584,7 @@
         <translation>Aplicar</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
         <translation>Configurações de conexão</translation>
     </message>
@@ -1604,7 +1604,7 @@
         <translation>Configurar pastas de sincronização</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
         <translation>Você não tem permissão para compartilhar links.</translation>
     </message>
@@ -1614,7 +1614,7 @@
         <translation>Saiba mais</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
         <translation>Os seguintes aplicativos estão usando arquivos que precisam ser atualizados. Feche-os e clique em Tentar novamente para continuar ou clique em Cancelar para sair.</translation>
     </message>
@@ -1884,9 +1884,9 @@
         <translation>Criar uma pasta do Larkmoor Drive</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>A pasta “%1” agora está disponível. Clique aqui para sincronizá-la.</translation>
+        <translation>A pasta compartilhada “%1” agora está disponível. Clique aqui para sincronizá-la.</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,7 +2014,7 @@
         <translation>Arquivos atualizados recentemente</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
         <translation>O NAS foi substituído</translation>
     </message>
@@ -2194,7 +2194,7 @@
         <translation>Atualizando...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
         <translation>Anomalia</translation>
     </message>
@@ -2279,7 +2279,7 @@
         <translation>Esta pasta contém outra pasta de sincronização ou está dentro de uma. Escolha outra pasta.</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
         <translation>Agora não</translation>
     </message>
@@ -2349,7 +2349,7 @@
         <translation>Conectar por meio do Bridgeway</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
         <translation>&amp;Não fechar os aplicativos (será necessário reiniciar)</translation>
     </message>

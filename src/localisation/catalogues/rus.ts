@@ -479,7 +479,7 @@
         <translation>Открыть папку</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
         <translation>Режим синхронизации</translation>
     </message>
@@ -509,7 +509,7 @@
         <translation>Более новая версия Larkmoor Drive уже установлена. Чтобы установить эту версию, сначала удалите текущую.</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
         <translation>По этому адресу обнаружен другой NAS. Установите связь с ним заново.</translation>
     </message>
@@ -654,7 +654,7 @@
         <translation>Установка связи...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
         <translation>Не удалось установить [ProductName] из-за ошибки. В систему не внесено никаких изменений. Чтобы повторить попытку позже, запустите программу установки еще раз.</translation>
     </message>
@@ -1034,7 +1034,7 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
         <translation>Чтобы синхронизировать другие папки или изменить настройки синхронизации, откройте Larkmoor Drive в любое удобное время.</translation>
     </message>
@@ -1139,7 +1139,7 @@
         <translation>П&amp;ропустить</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
         <translation>Подождите, пока мастер установки выполнит необходимые действия с [ProductName]. Это может занять несколько минут.</translation>
     </message>
@@ -1279,7 +1279,7 @@
         <translation>Простое подключение</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
         <translation>Связать снова</translation>
     </message>
@@ -1464,7 +1464,7 @@
         <translation>Удаление [ProductName] с этого компьютера.</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
         <translation>Изменения файлов на сетевом диске обнаруживаются не сразу. Возможна задержка синхронизации.</translation>
     </message>
@@ -1584,7 +1584,7 @@
         <translation>Применить</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
         <translation>Настройки подключения</translation>
     </message>
@@ -1604,7 +1604,7 @@
         <translation>Настройка папок синхронизации</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
         <translation>У вас нет прав на предоставление доступа по ссылкам.</translation>
     </message>
@@ -1614,7 +1614,7 @@
         <translation>Подробнее</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
         <translation>Следующие приложения используют файлы, которые необходимо обновить. Закройте их и нажмите кнопку «Повторить», чтобы продолжить, или «Отмена», чтобы выйти.</translation>
     </message>
@@ -1884,9 +1884,9 @@
         <translation>Создать папку Larkmoor Drive</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>Доступна новая папка «%1». Щелкните здесь, чтобы синхронизировать ее.</translation>
+        <translation>Общая папка «%1» теперь доступна. Щелкните здесь, чтобы синхронизировать ее.</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,7 +2014,7 @@
         <translation>Недавно обновленные файлы</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
         <translation>NAS был заменен</translation>
     </message>
@@ -2194,7 +2194,7 @@
         <translation>Обновление...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
         <translation>Сбой</translation>
     </message>
@@ -2279,7 +2279,7 @@
         <translation>Эта папка содержит другую папку синхронизации или находится внутри нее. Выберите другую папку.</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
         <translation>Не сейчас</translation>
     </message>
@@ -2349,7 +2349,7 @@
         <translation>Подключаться через Bridgeway</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
         <translation>&amp;Не закрывать приложения (потребуется перезагрузка)</translation>
     </message>

@@ -479,7 +479,7 @@
         <translation>Öppna mapp</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
         <translation>Synkroniseringsläge</translation>
     </message>
@@ -509,7 +509,7 @@
         <translation>En nyare version av Larkmoor Drive är redan installerad. Avinstallera den befintliga versionen först om du vill installera den här versionen.</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
         <translation>En annan NAS-enhet har hittats på den här adressen. Länka till den på nytt.</translation>
     </message>
@@ -654,7 +654,7 @@
         <translation>Länkar...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
         <translation>[ProductName] kunde inte installeras på grund av ett fel. Inga ändringar har gjorts på datorn. Kör installationsprogrammet igen om du vill försöka på nytt senare.</translation>
     </message>
@@ -1034,7 +1034,7 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
         <translation>Du kan när som helst öppna Larkmoor Drive för att synkronisera fler mappar eller ändra synkroniseringsinställningarna.</translation>
     </message>
@@ -1139,7 +1139,7 @@
         <translation>&amp;Ignorera</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
         <translation>Vänta medan installationsguiden konfigurerar [ProductName]. Det kan ta flera minuter.</translation>
     </message>
@@ -1279,7 +1279,7 @@
         <translation>Enkel anslutning</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
         <translation>Länka igen</translation>
     </message>
@@ -1464,7 +1464,7 @@
         <translation>Ta bort [ProductName] från den här datorn.</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
         <translation>Ändringar av filer på en nätverksenhet kan inte upptäckas omedelbart. Synkroniseringen kan fördröjas.</translation>
     </message>
@@ -1584,7 +1584,7 @@
         <translation>Tillämpa</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
         <translation>Anslutningsinställningar</translation>
     </message>
@@ -1604,7 +1604,7 @@
         <translation>Konfigurera synkroniseringsmappar</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
         <translation>Du har inte behörighet att dela länkar.</translation>
     </message>
@@ -1614,7 +1614,7 @@
         <translation>Läs mer</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
         <translation>Följande program använder filer som måste uppdateras. Stäng dem och klicka på Försök igen för att fortsätta, eller klicka på Avbryt för att avsluta.</translation>
     </message>
@@ -1884,9 +1884,9 @@
         <translation>Skapa en mapp för Larkmoor Drive</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>Mappen ”%1” är nu tillgänglig. Klicka här för att synkronisera den.</translation>
+        <translation>Den delade mappen ”%1” är nu tillgänglig. Klicka här för att synkronisera den.</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,7 +2014,7 @@
         <translation>Nyligen uppdaterade filer</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
         <translation>NAS-enheten har bytts ut</translation>
     </message>
@@ -2194,7 +2194,7 @@
         <translation>Uppgraderar...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
         <translation>Onormalt tillstånd</translation>
     </message>
@@ -2279,7 +2279,7 @@
         <translation>Den här mappen innehåller eller ligger i en annan synkroniseringsmapp. Välj en annan.</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
         <translation>Inte nu</translation>
     </message>
@@ -2349,7 +2349,7 @@
         <translation>Anslut via Bridgeway</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
         <translation>Stäng &amp;inte programmen (en omstart kommer att krävas)</translation>
     </message>

@@ -479,7 +479,7 @@
         <translation>Klasörü aç</translation>
     </message>
     <message>
-        <source>Synchronization mode</source>
+        <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
         <translation>Eşitleme modu</translation>
     </message>
@@ -509,7 +509,7 @@
         <translation>Larkmoor Drive uygulamasının daha yeni bir sürümü zaten yüklü. Bu sürümü kurmak için lütfen önce mevcut sürümü kaldırın.</translation>
     </message>
     <message>
-        <source>A different NAS has been found at this address. Please link to it again.</source>
+        <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
         <translation>Bu adreste farklı bir NAS cihazı bulundu. Lütfen bu cihazla yeniden bağlantı kurun.</translation>
     </message>
@@ -654,7 +654,7 @@
         <translation>Bağlanıyor...</translation>
     </message>
     <message>
-        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer once more.</source>
+        <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
         <extracomment>135 msi_fatalerror_dlg_description1</extracomment>
         <translation>Bir hata oluştuğu için [ProductName] kurulamadı. Bilgisayarınızda hiçbir değişiklik yapılmadı. Daha sonra yeniden denemek için lütfen yükleyiciyi bir kez daha çalıştırın.</translation>
     </message>
@@ -1034,7 +1034,7 @@
         <translation>SSL</translation>
     </message>
     <message>
-        <source>To sync more folders or change the sync settings, open Larkmoor Drive at any time.</source>
+        <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
         <translation>Daha fazla klasör eşitlemek veya eşitleme ayarlarını değiştirmek için istediğiniz zaman Larkmoor Drive uygulamasını açın.</translation>
     </message>
@@ -1139,7 +1139,7 @@
         <translation>&amp;Yoksay</translation>
     </message>
     <message>
-        <source>Please wait while the Setup Wizard processes [ProductName].  This may take several minutes.</source>
+        <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
         <translation>Kurulum Sihirbazı [ProductName] işlemlerini yürütürken lütfen bekleyin. Bu birkaç dakika sürebilir.</translation>
     </message>
@@ -1279,7 +1279,7 @@
         <translation>Kolay bağlantı</translation>
     </message>
     <message>
-        <source>Link Again</source>
+        <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
         <translation>Yeniden Bağla</translation>
     </message>
@@ -1464,7 +1464,7 @@
         <translation>[ProductName] programını bu bilgisayardan kaldırın.</translation>
     </message>
     <message>
-        <source>Changes to files on a network drive cannot be detected at once. Syncing may be delayed.</source>
+        <source>Changes to files on a network drive cannot be detected immediately. Syncing may be delayed.</source>
         <extracomment>312 msg_network_drive_watch</extracomment>
         <translation>Ağ sürücüsündeki dosya değişiklikleri hemen algılanamaz. Eşitleme gecikebilir.</translation>
     </message>
@@ -1584,7 +1584,7 @@
         <translation>Uygula</translation>
     </message>
     <message>
-        <source>Connection Settings</source>
+        <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
         <translation>Bağlantı Ayarları</translation>
     </message>
@@ -1604,7 +1604,7 @@
         <translation>Eşitleme Klasörlerini Ayarlayın</translation>
     </message>
     <message>
-        <source>You do not have permission to share links.</source>
+        <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
         <translation>Bağlantı paylaşma izniniz yok.</translation>
     </message>
@@ -1614,7 +1614,7 @@
         <translation>Daha Fazla Bilgi</translation>
     </message>
     <message>
-        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Cancel to exit.</source>
+        <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
         <translation>Aşağıdaki uygulamalar güncellenmesi gereken dosyaları kullanıyor. Lütfen bunları kapatın ve devam etmek için Yeniden Dene, çıkmak için İptal düğmesine tıklayın.</translation>
     </message>
@@ -1884,9 +1884,9 @@
         <translation>Larkmoor Drive klasörü oluştur</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; is now available. Click here to sync it.</source>
+        <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>“%1” klasörü artık kullanılabilir. Eşitlemek için buraya tıklayın.</translation>
+        <translation>“%1” paylaşılan klasörü artık kullanılabilir. Eşitlemek için buraya tıklayın.</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2014,7 +2014,7 @@
         <translation>Son güncellenen dosyalar</translation>
     </message>
     <message>
-        <source>The NAS has been replaced</source>
+        <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
         <translation>NAS cihazı değiştirildi</translation>
     </message>
@@ -2194,7 +2194,7 @@
         <translation>Yükseltiliyor...</translation>
     </message>
     <message>
-        <source>Abnormal</source>
+        <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
         <translation>Anormal durum</translation>
     </message>
@@ -2279,7 +2279,7 @@
         <translation>Bu klasör başka bir eşitleme klasörünü içeriyor veya onun içinde yer alıyor. Lütfen başka bir klasör seçin.</translation>
     </message>
     <message>
-        <source>Not Now</source>
+        <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
         <translation>Şimdi Değil</translation>
     </message>
@@ -2349,7 +2349,7 @@
         <translation>Bridgeway üzerinden bağlan</translation>
     </message>
     <message>
-        <source>&amp;Do not close the applications (a restart will be required)</source>
+        <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
         <translation>Uygulamalar kapatıl&amp;masın (yeniden başlatma gerekecek)</translation>
     </message>
