@@ -248,15 +248,32 @@ class CheckCatalogues(InAFolder):
         self.assert_finds('wrong script: "о"', {'Open folder': 'Оrdner öffnen'.lower()})
 
     def test_finds_a_term_that_breaks_the_glossary(self):
-        self.write('glossary/deu.json', json.dumps({'folder': 'ordner|verzeichnis'}))
+        self.write('glossary/deu.json', json.dumps({'terms': {'folder': 'ordner|verzeichnis'}}))
         self.assert_clean('deu')
         self.assert_clean('deu', {'Open folder': 'Verzeichnis öffnen'})
         self.assert_finds('the glossary says "ordner|verzeichnis" for "folder"',
                           {'Open folder': 'Mappe öffnen'})
 
     def test_accepts_a_term_with_an_accelerator_inside(self):
-        self.write('glossary/deu.json', json.dumps({'next': 'weiter'}))
+        self.write('glossary/deu.json', json.dumps({'terms': {'next': 'weiter'}}))
         self.assert_clean('deu', {'&Next': 'We&iter'})
+
+    def test_repeats_why_a_text_is_kept_with_a_finding_in_it(self):
+        self.write('glossary/deu.json', json.dumps({'kept': {'tray_opendir': 'so heißt es hier'}}))
+        self.assert_clean('deu')
+        output = self.assert_finds('doubled blank', {'Open folder': 'Ordner  öffnen'})
+        self.assertIn('    kept         so heißt es hier\n', output)
+        self.assertNotIn('kept', self.assert_finds('added "%1"', {'OK': '%1'}))
+
+    def test_finds_a_kept_text_that_is_no_row_or_has_no_reason(self):
+        self.write('glossary/deu.json', json.dumps({'kept': {'btn_okay': 'kurz', 'nas': ' '}}))
+        output = self.assert_finds('deu: the glossary keeps "btn_okay", which is no row', {})
+        self.assertIn('deu: the glossary keeps "nas" without a reason', output)
+
+    def test_finds_a_field_that_a_glossary_does_not_have(self):
+        self.write('glossary/deu.json', json.dumps({'folder': 'ordner'}))
+        self.assert_finds('deu: cannot be read: the glossary has a field "folder"; it knows '
+                          '"terms", "kept"', {})
 
     def test_holds_three_placeholders_for_lost(self):
         self.write('str-table-rows.inc', ROWS.replace('"file_count"', '"status_desc_syncing"')
