@@ -258,6 +258,32 @@ class CheckCatalogues(InAFolder):
         self.write('glossary/deu.json', json.dumps({'terms': {'next': 'weiter'}}))
         self.assert_clean('deu', {'&Next': 'We&iter'})
 
+    def glossary_table(self, terms, **texts):
+        self.write('glossary/deu.json', json.dumps({'terms': terms}))
+        rows = ''.join(f'ROW({i}, "{key}", "{text}")\n'
+                       for i, (key, text) in enumerate(dict(nas='NAS', ok='OK', **texts).items()))
+        self.write('str-table-rows.inc', rows)
+        self.groups = catalogues.rows_by_text(
+            catalogues.read_rows(os.path.join(self.folder, 'str-table-rows.inc')))
+        return {'NAS': 'NAS', 'OK': 'OK'}
+
+    def test_asks_for_the_longer_term_where_two_would_match(self):
+        base = self.glossary_table({'link': 'verknüpf', 'sharing link|get link': 'freigabelink'},
+                                   pair='Link this computer', share='Sharing link', get='Get link')
+        right = {'Link this computer': 'Computer verknüpfen', 'Sharing link': 'Freigabelink',
+                 'Get link': 'Freigabelink abrufen'}
+        self.assert_clean('deu', right, base)
+        base.update(right)
+        self.assert_finds('the glossary says "freigabelink" for "sharing link|get link"',
+                          {'Get link': 'Verknüpfung abrufen'}, base=base)
+        self.assert_finds('the glossary says "verknüpf" for "link"',
+                          {'Link this computer': 'Freigabelink'}, base=base)
+
+    def test_finds_a_term_that_begins_with_a_turkish_capital(self):
+        base = self.glossary_table({'cancel': 'iptal', 'slow': 'ağır|ısı'},
+                                   cancel='Cancel', slow='Slow', heat='Slowly')
+        self.assert_clean('deu', {'Cancel': 'İptal', 'Slow': 'AĞIR', 'Slowly': 'Isı'}, base)
+
     def test_repeats_why_a_text_is_kept_with_a_finding_in_it(self):
         self.write('glossary/deu.json', json.dumps({'kept': {'tray_opendir': 'so heißt es hier'}}))
         self.assert_clean('deu')
