@@ -2,6 +2,7 @@
 
 import os
 import re
+import sys
 import xml.etree.ElementTree as ElementTree
 from dataclasses import dataclass, field
 
@@ -24,11 +25,16 @@ class Row:
 @dataclass
 class Message:
     source: str
-    translation: str
-    finished: bool
-    context: str = CONTEXT
+    translation: str = ''
     kind: str = ''  # the translation's type: '', 'unfinished', 'vanished' or 'obsolete'
+    note: str = ''  # the translator's comment
+    context: str = CONTEXT
     comment: str = ''
+    is_plain: bool = True  # no plural or length forms, which the program has no use for
+
+    @property
+    def is_finished(self):
+        return bool(self.translation) and not self.kind and self.is_plain
 
 
 @dataclass
@@ -36,6 +42,7 @@ class Catalogue:
     name: str
     messages: list = field(default_factory=list)
     language: str = ''
+    has_dependencies: bool = False
 
 
 def _unescape(match):
@@ -70,39 +77,51 @@ def rows_by_text(rows):
     return groups
 
 
+def _parse(path):
+    try:
+        return ElementTree.parse(path).getroot()
+    except ElementTree.ParseError as error:
+        raise ValueError(f'{path} is no sound XML: {error}') from error
+
+
 def read_names(qrc):
-    """The catalogue names that the resource file lists."""
-    files = ElementTree.parse(qrc).getroot().iter('file')
+    """The catalogue names that the resource file lists, in its order."""
+    files = _parse(qrc).iter('file')
     return [os.path.splitext(os.path.basename(file.text))[0] for file in files]
 
 
 def read_catalogue(path):
-    root = ElementTree.parse(path).getroot()
+    root = _parse(path)
     catalogue = Catalogue(os.path.splitext(os.path.basename(path))[0])
     catalogue.language = root.get('language', '')
+    catalogue.has_dependencies = root.find('dependencies') is not None
     for context in root.iter('context'):
         for message in context.iter('message'):
             translation = message.find('translation')
-            kind = '' if translation is None else translation.get('type', '')
+            if translation is None:
+                translation = ElementTree.Element('translation', type='unfinished')
             catalogue.messages.append(Message(
                 source=message.findtext('source', ''),
-                translation='' if translation is None else ''.join(translation.itertext()),
-                finished=translation is not None and not kind,
+                translation=''.join(translation.itertext()),
+                kind=translation.get('type', ''),
+                note=message.findtext('translatorcomment', ''),
                 context=context.findtext('name', ''),
-                kind=kind,
-                comment=message.findtext('comment', '')))
+                comment=message.findtext('comment', ''),
+                is_plain=message.get('numerus') != 'yes' and not len(translation)))
     return catalogue
 
 
 def _escape(text):
     for plain, entity in (('&', '&amp;'), ('<', '&lt;'), ('>', '&gt;'), ('"', '&quot;'),
-                          ("'", '&apos;'), ('\u200b', '&#x200b;'), ('\u00a0', '&#xa0;')):
+                          ("'", '&apos;'), ('\u200b', '&#x200b;'), ('\u00a0', '&#xa0;'),
+                          ('\u202f', '&#x202f;')):
         text = text.replace(plain, entity)
     return text
 
 
-def write_catalogue(path, groups, translations):
-    """Writes a catalogue of all texts. A text without a translation is left unfinished.
+def write_catalogue(path, groups, messages):
+    """Writes a catalogue of all texts from the messages by source. A text without a translation is
+    left unfinished.
 
     There is no language attribute on purpose: the compiled catalogue would get a language record
     and plural rules from it.
@@ -110,14 +129,26 @@ def write_catalogue(path, groups, translations):
     out = ['<?xml version="1.0" encoding="utf-8"?>', '<!DOCTYPE TS>', '<TS version="2.1">',
            '<context>', f'    <name>{CONTEXT}</name>']
     for source, rows in groups.items():
-        translation = translations.get(source, '')
-        kind = '' if translation else ' type="unfinished"'
+        message = messages.get(source, Message(source))
+        kind = '' if message.is_finished else ' type="unfinished"'
         places = ', '.join(f'{row.id} {row.key}' for row in rows)
         out += ['    <message>',
                 f'        <source>{_escape(source)}</source>',
-                f'        <extracomment>{places}</extracomment>',
-                f'        <translation{kind}>{_escape(translation)}</translation>',
+                f'        <extracomment>{places}</extracomment>']
+        if message.note:
+            out.append(f'        <translatorcomment>{_escape(message.note)}</translatorcomment>')
+        out += [f'        <translation{kind}>{_escape(message.translation)}</translation>',
                 '    </message>']
     out += ['</context>', '</TS>', '']
-    with open(path, 'w', encoding='utf-8', newline='\n') as file:
+    # Renamed into place: hours of a translator's work stand in the old file.
+    with open(path + '.new', 'w', encoding='utf-8', newline='\n') as file:
         file.write('\n'.join(out))
+    os.replace(path + '.new', path)
+
+
+def run(main):
+    """Runs a script, and ends it with a sentence where a file is missing or damaged."""
+    try:
+        sys.exit(main())
+    except (OSError, ValueError) as error:
+        sys.exit(f'{os.path.basename(sys.argv[0])}: {error}')

@@ -3,6 +3,7 @@ scripts/update-catalogues follow a changed table."""
 
 import json
 import os
+import re
 import shutil
 import subprocess
 import sys
@@ -46,9 +47,17 @@ class InAFolder(unittest.TestCase):
         self.addCleanup(shutil.rmtree, self.folder)
         for inner in ('catalogues', 'glossary'):
             os.mkdir(os.path.join(self.folder, inner))
-        self.write('str-table-rows.inc', ROWS)
-        rows = catalogues.read_rows(os.path.join(self.folder, 'str-table-rows.inc'))
-        self.groups = catalogues.rows_by_text(rows)
+        self.write_table(ROWS)
+        self.list_names('enu', 'deu', 'chs', 'cht', 'rus', 'hun')
+
+    def write_table(self, rows):
+        self.write('str-table-rows.inc', rows)
+        self.groups = catalogues.rows_by_text(
+            catalogues.read_rows(os.path.join(self.folder, 'str-table-rows.inc')))
+
+    def list_names(self, *names):
+        files = ''.join(f'<file>{name}.qm</file>' for name in names)
+        self.write('texts.qrc', f'<RCC><qresource>{files}</qresource></RCC>')
 
     def write(self, name, text):
         with open(os.path.join(self.folder, name), 'w', encoding='utf-8') as file:
@@ -57,8 +66,14 @@ class InAFolder(unittest.TestCase):
     def write_catalogue(self, name, changes=None, base=None):
         translations = dict(GERMAN if base is None else base, **(changes or {}))
         path = os.path.join(self.folder, 'catalogues', name + '.ts')
-        catalogues.write_catalogue(path, self.groups, translations)
+        catalogues.write_catalogue(path, self.groups, {
+            source: catalogues.Message(source, text) for source, text in translations.items()})
+        if not os.path.exists(os.path.join(self.folder, 'glossary', name + '.json')):
+            self.write_glossary({}, name)
         return path
+
+    def write_glossary(self, fields, name='deu'):
+        self.write(f'glossary/{name}.json', json.dumps(fields))
 
     def edit(self, path, old, new):
         with open(path, encoding='utf-8') as file:
@@ -197,8 +212,7 @@ class CheckCatalogues(InAFolder):
 
     def test_finds_too_many_texts_left_in_english(self):
         rows = ''.join(f'ROW({i}, "key{i}", "Text {i}")\n' for i in range(21))
-        self.write('str-table-rows.inc', rows)
-        self.groups = {f'Text {i}': [catalogues.Row(i, f'key{i}', f'Text {i}')] for i in range(21)}
+        self.write_table(rows)
         output = self.assert_finds('row 20 key20: untranslated, one of 21',
                                    {}, base={text: text for text in self.groups})
         self.assertEqual(output.count('untranslated'), 21)
@@ -248,23 +262,21 @@ class CheckCatalogues(InAFolder):
         self.assert_finds('wrong script: "о"', {'Open folder': 'Оrdner öffnen'.lower()})
 
     def test_finds_a_term_that_breaks_the_glossary(self):
-        self.write('glossary/deu.json', json.dumps({'terms': {'folder': 'ordner|verzeichnis'}}))
+        self.write_glossary({'terms': {'folder': 'ordner|verzeichnis'}})
         self.assert_clean('deu')
         self.assert_clean('deu', {'Open folder': 'Verzeichnis öffnen'})
         self.assert_finds('the glossary says "ordner|verzeichnis" for "folder"',
                           {'Open folder': 'Mappe öffnen'})
 
     def test_accepts_a_term_with_an_accelerator_inside(self):
-        self.write('glossary/deu.json', json.dumps({'terms': {'next': 'weiter'}}))
+        self.write_glossary({'terms': {'next': 'weiter'}})
         self.assert_clean('deu', {'&Next': 'We&iter'})
 
     def glossary_table(self, terms, **texts):
-        self.write('glossary/deu.json', json.dumps({'terms': terms}))
+        self.write_glossary({'terms': terms})
         rows = ''.join(f'ROW({i}, "{key}", "{text}")\n'
                        for i, (key, text) in enumerate(dict(nas='NAS', ok='OK', **texts).items()))
-        self.write('str-table-rows.inc', rows)
-        self.groups = catalogues.rows_by_text(
-            catalogues.read_rows(os.path.join(self.folder, 'str-table-rows.inc')))
+        self.write_table(rows)
         return {'NAS': 'NAS', 'OK': 'OK'}
 
     def test_asks_for_the_longer_term_where_two_would_match(self):
@@ -285,27 +297,84 @@ class CheckCatalogues(InAFolder):
         self.assert_clean('deu', {'Cancel': 'İptal', 'Slow': 'AĞIR', 'Slowly': 'Isı'}, base)
 
     def test_repeats_why_a_text_is_kept_with_a_finding_in_it(self):
-        self.write('glossary/deu.json', json.dumps({'kept': {'tray_opendir': 'so heißt es hier'}}))
+        self.write_glossary({'kept': {'tray_opendir': 'so heißt es hier'}})
         self.assert_clean('deu')
         output = self.assert_finds('doubled blank', {'Open folder': 'Ordner  öffnen'})
         self.assertIn('    kept         so heißt es hier\n', output)
         self.assertNotIn('kept', self.assert_finds('added "%1"', {'OK': '%1'}))
 
     def test_finds_a_kept_text_that_is_no_row_or_has_no_reason(self):
-        self.write('glossary/deu.json', json.dumps({'kept': {'btn_okay': 'kurz', 'nas': ' '}}))
-        output = self.assert_finds('deu: the glossary keeps "btn_okay", which is no row', {})
-        self.assertIn('deu: the glossary keeps "nas" without a reason', output)
+        self.write_glossary({'kept': {'btn_okay': 'kurz', 'nas': ' '}})
+        output = self.assert_finds('deu: the glossary names "btn_okay" as kept, which is no row of '
+                                   'the string table', {})
+        self.assertIn('deu: the glossary names "nas" as kept without words', output)
 
     def test_finds_a_field_that_a_glossary_does_not_have(self):
-        self.write('glossary/deu.json', json.dumps({'folder': 'ordner'}))
+        self.write_glossary({'folder': 'ordner'})
         self.assert_finds('deu: cannot be read: the glossary has a field "folder"; it knows '
-                          '"terms", "kept"', {})
+                          '"terms", "kept", "fixed"', {})
+
+    def test_finds_a_changed_text_that_is_fixed(self):
+        self.write_glossary({'fixed': {'add': 'Datei hinzugefügt: ', 'nas': 'NAS'}})
+        self.assert_clean('deu')
+        self.assert_finds('deu: row 9 add: is fixed and reads "Datei hinzugefügt: "',
+                          {'File added: ': 'Neue Datei: '})
+
+    def test_finds_a_fixed_text_of_the_table_that_was_changed_with_its_catalogue(self):
+        self.write_glossary({'fixed': {'btn_ok': 'OK'}}, 'enu')
+        self.assert_clean('enu', base={text: text for text in self.groups})
+        self.write_table(ROWS.replace('"OK"', '"Okay"'))
+        self.assert_finds('enu: row 1 btn_ok: is fixed and reads "OK"', {}, 'enu',
+                          {text: text for text in self.groups})
+
+    def test_finds_a_catalogue_and_a_glossary_that_the_resource_does_not_list(self):
+        self.list_names('deu')
+        self.write_catalogue('deu')
+        self.write_catalogue('rus')
+        self.write_glossary({}, 'hun')
+        status, output = self.check()
+        self.assertEqual(status, 1)
+        self.assertIn('rus: not listed in texts.qrc', output)
+        self.assertIn('hun: not listed in texts.qrc', output)
+        self.assertIn('hun: cannot be read: ', output)
+        self.assertIn('rus: not listed in texts.qrc', self.check('rus')[1])
+
+    def test_finds_a_missing_glossary_and_checks_the_rest(self):
+        self.write_catalogue('deu', {'OK': 'Gut'})
+        os.remove(os.path.join(self.folder, 'glossary', 'deu.json'))
+        status, output = self.check('deu')
+        self.assertEqual(status, 1)
+        self.assertIn('deu: has no glossary: make glossary/deu.json', output)
+        self.assertIn('1 texts read like their source', output)
+
+    def test_finds_swapped_messages(self):
+        self.write_catalogue('deu')
+        text = self.read('catalogues/deu.ts')
+        messages = re.findall(r' *<message>.*?</message>\n', text, re.DOTALL)
+        self.write('catalogues/deu.ts', text.replace(
+            messages[1] + messages[2], messages[2] + messages[1]))
+        status, output = self.check('deu')
+        self.assertEqual(status, 1)
+        self.assertIn('deu: row 1 btn_ok: not in the order of the table', output)
+        self.assertIn(' 1 findings', output)
+
+    def test_finds_dependencies(self):
+        path = self.write_catalogue('deu')
+        self.edit(path, '<context>', '<dependencies><dependency catalog="qtbase_de"/>'
+                                     '</dependencies>\n<context>')
+        self.assertIn('deu: names dependencies', self.check('deu')[1])
+
+    def test_finds_plural_forms(self):
+        path = self.write_catalogue('deu')
+        self.edit(path, '<message>', '<message numerus="yes">')
+        self.assertIn('deu: row 0 nas: has plural or length forms', self.check('deu')[1])
+        self.write_catalogue('deu')
+        self.edit(path, '>&amp;Weiter<', '><numerusform>&amp;Weiter</numerusform><')
+        self.assertIn('row 4 msi_button_next: has plural or length forms', self.check('deu')[1])
 
     def test_holds_three_placeholders_for_lost(self):
-        self.write('str-table-rows.inc', ROWS.replace('"file_count"', '"status_desc_syncing"')
-                   .replace('%1 of %2 files', '%1 files'))
-        rows = catalogues.read_rows(os.path.join(self.folder, 'str-table-rows.inc'))
-        self.groups = catalogues.rows_by_text(rows)
+        self.write_table(ROWS.replace('"file_count"', '"status_desc_syncing"')
+                         .replace('%1 of %2 files', '%1 files'))
         self.assert_clean('hun', {'%1 files': 'Szinkron'})
         self.assert_finds('placeholder added "%1"', {'%1 files': 'Szinkron %1'}, 'hun')
         self.assert_finds('placeholder lost "%1"', {'%1 files': 'Dateien'})
@@ -318,8 +387,7 @@ class CheckCatalogues(InAFolder):
         self.assertIn('deu: cannot be read: ', self.check('deu')[1])
 
     def test_checks_all_that_the_resource_lists(self):
-        self.write('texts.qrc', '<RCC><qresource><file>enu.qm</file><file>deu.qm</file>'
-                                '</qresource></RCC>')
+        self.list_names('enu', 'deu')
         self.write_catalogue('enu', base={text: text for text in self.groups})
         self.write_catalogue('deu', {'Open folder': ''})
         status, output = self.check()
@@ -336,9 +404,9 @@ class CheckCatalogues(InAFolder):
 class UpdateCatalogues(InAFolder):
     def setUp(self):
         super().setUp()
-        self.write('texts.qrc', '<RCC><qresource><file>enu.qm</file><file>deu.qm</file>'
-                                '</qresource></RCC>')
+        self.list_names('enu', 'deu')
         self.write_catalogue('deu')
+        self.write_glossary({}, 'enu')
         self.run_script('update-catalogues')
 
     def test_writes_the_english_catalogue(self):
@@ -364,6 +432,73 @@ class UpdateCatalogues(InAFolder):
         _, output = self.run_script('update-catalogues')
         self.assertIn('deu: dropped "Open folder", which read "Ordner öffnen"', output)
         self.assertNotIn('Ordner', self.read('catalogues/deu.ts'))
+
+    def german(self, entry):
+        """The German catalogue with this in the place of the message "&Next"."""
+        text = self.read('catalogues/deu.ts')
+        self.write('catalogues/deu.ts', re.sub(
+            r' *<message>\n *<source>&amp;Next.*?</message>\n', lambda _: entry, text,
+            flags=re.DOTALL))
+
+    def message(self, kind, text, note=''):
+        return (f'<message><source>&amp;Next</source>{note}'
+                f'<translation{kind}>{text}</translation></message>\n')
+
+    def test_keeps_an_unfinished_translation_unfinished(self):
+        self.german(self.message(' type="unfinished"', 'Weiter?'))
+        _, output = self.run_script('update-catalogues')
+        self.assertIn('deu: 9 texts, 1 of them to be translated', output)
+        self.assertIn('<translation type="unfinished">Weiter?</translation>',
+                      self.read('catalogues/deu.ts'))
+
+    def test_keeps_the_comment_of_a_translator(self):
+        note = '<translatorcomment>Knopf; &lt;kurz&gt;</translatorcomment>'
+        self.german(self.message('', '&amp;Weiter', note))
+        self.run_script('update-catalogues')
+        self.assertIn(note, self.read('catalogues/deu.ts'))
+        self.assertEqual(self.check('deu')[0], 0)
+
+    def test_prefers_a_finished_translation_to_a_vanished_one(self):
+        finished = self.message('', '&amp;Weiter')
+        vanished = self.message(' type="vanished"', '&amp;Nächstes')
+        unfinished = self.message(' type="unfinished"', '&amp;Vor')
+        for entries in (finished + vanished + unfinished, unfinished + vanished + finished):
+            self.german(entries)
+            _, output = self.run_script('update-catalogues')
+            self.assertIn('<translation>&amp;Weiter</translation>', self.read('catalogues/deu.ts'))
+            self.assertIn('deu: dropped "&Next", which read "&Nächstes"', output)
+            self.assertIn('deu: dropped "&Next", which read "&Vor"', output)
+            self.assertEqual(self.check('deu')[0], 0)
+
+    def test_offers_a_vanished_translation_when_its_text_is_back(self):
+        self.german(self.message(' type="vanished"', '&amp;Weiter'))
+        self.run_script('update-catalogues')
+        self.assertIn('<translation type="unfinished">&amp;Weiter</translation>',
+                      self.read('catalogues/deu.ts'))
+
+    def test_says_what_a_dropped_comment_was(self):
+        self.write_table(ROWS.replace('&Next', '&Continue'))
+        self.german(self.message('', '&amp;Weiter',
+                                 '<translatorcomment>Knopf</translatorcomment>'))
+        _, output = self.run_script('update-catalogues')
+        self.assertIn('deu: dropped "&Next", which read "&Weiter"', output)
+        self.assertIn('deu: dropped "&Next", with the comment "Knopf"', output)
+
+    def test_leaves_plural_forms_to_the_translator(self):
+        self.german('<message numerus="yes"><source>&amp;Next</source><translation>'
+                    '<numerusform>&amp;Weiter</numerusform></translation></message>\n')
+        self.run_script('update-catalogues')
+        self.assertIn('<translation type="unfinished">&amp;Weiter</translation>',
+                      self.read('catalogues/deu.ts'))
+
+    def test_changes_nothing_and_names_the_file_when_a_catalogue_is_damaged(self):
+        self.write('catalogues/deu.ts', '<TS version="2.1"><context>')
+        run = subprocess.run([sys.executable, os.path.join(ROOT, 'scripts', 'update-catalogues'),
+                              '--localisation', self.folder],
+                             capture_output=True, encoding='utf-8', check=False)
+        self.assertEqual(run.returncode, 1)
+        self.assertRegex(run.stderr, r'^update-catalogues: .*deu\.ts is no sound XML: .*\n$')
+        self.assertEqual(self.read('catalogues/deu.ts'), '<TS version="2.1"><context>')
 
     def test_starts_a_language_that_has_no_catalogue(self):
         os.remove(os.path.join(self.folder, 'catalogues', 'deu.ts'))
