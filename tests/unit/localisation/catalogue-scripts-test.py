@@ -152,9 +152,14 @@ class CheckCatalogues(InAFolder):
         self.edit(path, '<source>OK</source>', '<source>NAS</source>')
         self.assertIn('deu: row 0 nas: there twice', self.check('deu')[1])
 
-    def test_finds_an_empty_and_unfinished_text(self):
-        output = self.assert_finds('row 1 btn_ok: empty', {'OK': ''})
-        self.assertIn('row 1 btn_ok: marked as unfinished', output)
+    def test_finds_a_text_that_nobody_has_translated(self):
+        output = self.assert_finds('row 1 btn_ok: to be translated', {'OK': ''})
+        self.assertEqual(output.count('row 1 btn_ok'), 1)
+
+    def test_finds_an_empty_text_that_counts_as_finished(self):
+        path = self.write_catalogue('deu')
+        self.edit(path, '<translation>OK<', '<translation><')
+        self.assertIn('row 1 btn_ok: empty', self.check('deu')[1])
 
     def test_finds_a_text_that_a_translator_left_unfinished(self):
         path = self.write_catalogue('deu')
@@ -424,8 +429,8 @@ class UpdateCatalogues(InAFolder):
         _, output = self.run_script('update-catalogues')
         self.assertIn('deu: 10 texts, 1 of them to be translated', output)
         _, findings = self.check()
-        self.assertIn('deu: row 10 new: empty', findings)
-        self.assertIn(' 2 findings', findings)
+        self.assertIn('deu: row 10 new: to be translated', findings)
+        self.assertIn(' 1 findings', findings)
 
     def test_drops_a_text_that_has_left_the_table_and_says_what_it_read(self):
         self.write('str-table-rows.inc', ROWS.replace('Open folder', 'Show folder'))
