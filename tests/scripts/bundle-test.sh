@@ -142,7 +142,6 @@ TestCheckFindsMissingPlugins() {
   expect_failure "can't open a window" check_bundle good/Larkmoor.app
 }
 
-# Libraries that are loaded at the start, and one that is loaded later.
 TestCheckFindsLibrariesThatAreMissingHere() {
   local library
   for library in libicuuc libarchive; do
