@@ -3,8 +3,10 @@
 
 import argparse
 import contextlib
+import itertools
 import os
 import pathlib
+import random
 import signal
 import subprocess
 import sys
@@ -30,7 +32,6 @@ class Session:
         self.runner = Runner(build / "bench/bench-timed-run", build / "bench/bench-warm-memory")
         self.packages = inputs.Packages(build / "bench", folder)
         self.bundle = inputs.Bundle(folder, build, pathlib.Path(os.environ["QT_PLUGINS"]))
-        self.carried = None
         self.ext4 = None
         self.report = reports.empty()
 
@@ -44,8 +45,31 @@ class Session:
     def big_package(self, kind):
         return self.plan.big_of(self.packages, kind)
 
+    def orders(self, sides, rounds):
+        """An order of the sides for each round: drawn anew, or in a short run each there is, from
+        a fresh start, so that a side that counts on another one fails."""
+        if self.plan.every_order:
+            for order in itertools.permutations(range(sides)):
+                self.start_afresh()
+                yield order
+        lots = random.Random(rounds)
+        for _ in range(0 if self.plan.every_order else rounds):
+            yield lots.sample(range(sides), sides)
+
+    def start_afresh(self):
+        self.bundle.empty()
+        for left in ("unpacked", "removed", "copied"):
+            inputs.remove(self.folder / left)
+        if self.ext4:
+            self.ext4.close()
+
+    def in_turn(self, contenders, rounds):
+        return in_turn(self.runner, contenders, self.orders(len(contenders), rounds))
+
     def compare(self, name, contenders, rounds, goal=None):
-        result = {"name": name, **compare(self.runner, contenders, rounds, goal)}
+        samples = self.in_turn(contenders, rounds)
+        goal = None if self.plan.every_order else goal
+        result = {"name": name, **compare(contenders, samples, goal)}
         self.report["comparisons"].append(result)
         print(f"   {name}: {result['ratio']:.2f} of {contenders[1].name} "
               f"{reports.verdict(result)}", flush=True)
@@ -57,7 +81,7 @@ class Session:
 
     def add_points(self, lines, x, contenders, rounds):
         """Processor time: a line of a few points bears no noise."""
-        for contender, samples in zip(contenders, in_turn(self.runner, contenders, rounds)):
+        for contender, samples in zip(contenders, self.in_turn(contenders, rounds)):
             lines.setdefault(contender.name, []).append([x, median(samples, "cpu")])
 
     def growth(self, file, name, work, lines, peers=1):
@@ -98,17 +122,17 @@ def results(arguments):
 def run(arguments):
     plan = plans.Short() if arguments.short else plans.Full()
     plan.limit(arguments.pairs)
-    with contextlib.ExitStack() as stack:
-        folder = stack.enter_context(workspace.memory(plan.needs))
-        display = stack.enter_context(xvfb())
-        session = Session(arguments.build, results(arguments), folder, plan, display)
-        if workspace.FreshExt4.is_possible():
-            session.ext4 = workspace.FreshExt4(folder, plan.ext4_size)
-            stack.callback(session.ext4.close)
-        else:
-            print("No ext4 of our own without root and loop devices: measured on tmpfs alone.")
+    if not workspace.FreshExt4.is_possible():
+        print("No ext4 of our own without root and loop devices: measured on tmpfs alone.")
+    with xvfb() as display:
         for name in arguments.measures or measures.ALL:
-            measure(session, name)
+            with contextlib.ExitStack() as stack:
+                folder = stack.enter_context(workspace.memory(plan.needs))
+                session = Session(arguments.build, results(arguments), folder, plan, display)
+                if workspace.FreshExt4.is_possible():
+                    session.ext4 = workspace.FreshExt4(folder, plan.ext4_size)
+                    stack.callback(session.ext4.close)
+                measure(session, name)
 
 
 def measure(session, name):

@@ -8,6 +8,8 @@ import shutil
 import subprocess
 import sysconfig
 
+import workspace
+
 SEED = 20140915
 VERSION = 2  # changes with what the trees hold, so that packages of another kind aren't used
 
@@ -106,12 +108,12 @@ def system_tree(folder, size):
     _client(folder)
 
 
-def pack(folder, package, kind):
+def pack(folder, package, options):
     """Client and version come last, as in every package."""
     paths = sorted(str(path.relative_to(folder)) for path in folder.rglob("*"))
     paths = [path for path in paths if path not in (EXECUTABLE, INFO)] + [EXECUTABLE, INFO]
     partial = package.with_name(package.name + ".partial")
-    subprocess.run(["bsdtar", "-cf", partial, *FORMATS[kind], "-C", folder, "--null", "-n", "-T", "-"],
+    subprocess.run(["bsdtar", "-cf", partial, *options, "-C", folder, "--null", "-n", "-T", "-"],
                    input="\0".join(paths).encode(), check=True)
     partial.rename(package)
 
@@ -131,7 +133,7 @@ class Packages:
             folder = self.scratch / "tree"
             make_tree(folder)
             for kind in missing:
-                pack(folder, self.cache / f"{name}.{kind}", kind)
+                pack(folder, self.cache / f"{name}.{kind}", FORMATS[kind])
             remove(folder)
         return {kind: self.cache / f"{name}.{kind}" for kind in kinds}
 
@@ -146,6 +148,7 @@ class Bundle:
         platforms = self.root / "Contents/Frameworks/plugins/platforms"
         self.resources = self.root / "Contents/Resources"
         self.package = self.resources / "package/larkmoor.lpk"
+        self.carried = None
         for made in (programs, platforms, self.package.parent, self.home):
             made.mkdir(parents=True)
         shutil.copy(build / "src/launcher/launcher", programs)
@@ -176,19 +179,28 @@ class Bundle:
         return chosen
 
     def carry(self, package):
-        shutil.copyfile(package, self.package)
+        if self.carried != package:
+            shutil.copyfile(package, self.package)
+            self.carried = package
+
+    def empty(self):
+        """As it was at first: nothing carried, nothing installed."""
+        self.package.unlink(missing_ok=True)
+        self.carried = None
+        self.forget_installation()
 
     def forget_installation(self):
         remove(self.home / ".Larkmoor")
 
     def install_same_build(self):
         """So that a start has nothing to upgrade."""
-        self.forget_installation()
-        _client(self.installed)
+        if not self.installed.exists():
+            _client(self.installed)
 
     def check_installation(self):
         if not (self.installed / INFO).exists():
-            raise RuntimeError("the launcher installed nothing")
+            log = (self.home / ".Larkmoor/log/launcher.log").read_text(errors="replace")
+            raise workspace.Failure(f"the launcher installed nothing and says:\n{log}")
 
 
 def size(path):

@@ -1,9 +1,9 @@
 """Runs programs in turn and compares them."""
 
 import dataclasses
-import random
 import statistics
 import subprocess
+import tempfile
 
 import workspace
 
@@ -30,20 +30,21 @@ class Runner:
         if size > 0:
             subprocess.run([self.warm_memory, str(size)], check=False)
 
-    def run(self, command, environment=None, folder=None):
-        words = [str(word) for word in command]
-        done = subprocess.run([self.timed_run, *words], env=environment, cwd=folder, text=True,
-                              stdin=subprocess.DEVNULL, capture_output=True)
-        if done.returncode != 0:
-            raise RuntimeError(f"status {done.returncode}: {' '.join(words)}\n{done.stderr}")
+    def run(self, command, environment=None):
+        with tempfile.TemporaryFile() as errors:
+            done = subprocess.run([self.timed_run, *map(str, command)], env=environment,
+                                  stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=errors)
+            errors.seek(0)
+            workspace.check(done.returncode, command, errors.read())
         wall, user, system, memory = map(int, done.stdout.split())
         return Sample(wall / 1e6, (user + system) / 1e6, memory * 1024)
 
 
 @dataclasses.dataclass
 class Contender:
-    """One side of a comparison. `prepare` runs before each run, outside of the time; `check` after
-    it. A run takes about `memory` bytes, files on the tmpfs included."""
+    """One side of a comparison. `prepare` runs before each run, outside of the time, and makes ready
+    all that the run needs: another side may have gone before, or none. `check` runs after it. A run
+    takes about `memory` bytes, files on the tmpfs included."""
 
     name: str
     command: list
@@ -57,20 +58,19 @@ def median(samples, of):
     return statistics.median(getattr(sample, of) for sample in samples)
 
 
-def in_turn(runner, contenders, rounds):
-    """Each of them once in a round: what changes on the machine meanwhile meets all of them. Their
-    order is drawn anew for each round, since a program also meets what the one before it has left
-    behind: a client that was just started, for one. A list of samples for each contender."""
-    lots = random.Random(rounds)
+def in_turn(runner, contenders, orders):
+    """Each of them once in a round: what changes on the machine meanwhile meets all of them. `orders`
+    holds one order of the contenders for each round, since a program also meets what the one before
+    it has left behind: a client that was just started, for one. A list of samples for each
+    contender."""
     samples = [[] for _ in contenders]
-    for _ in range(rounds):
-        turns = list(zip(contenders, samples))
-        lots.shuffle(turns)
-        for contender, taken in turns:
+    for order in orders:
+        for i in order:
+            contender = contenders[i]
             if contender.prepare:
                 contender.prepare()
             runner.warm(contender.memory)
-            taken.append(runner.run(contender.command, contender.environment))
+            samples[i].append(runner.run(contender.command, contender.environment))
             if contender.check:
                 contender.check()
     return samples
@@ -83,13 +83,12 @@ def noise(samples):
     return abs(median(samples[::2], "wall") / median(samples[1::2], "wall") - 1)
 
 
-def compare(runner, contenders, rounds, goal=None):
+def compare(contenders, samples, goal=None):
     """The first contender is ours, the second the peer, a third one the floor."""
-    samples = in_turn(runner, contenders, rounds)
     wall = [median(taken, "wall") for taken in samples]
     cpu = [median(taken, "cpu") for taken in samples]
     result = {
-        "pairs": rounds,
+        "pairs": len(samples[0]),
         "goal": goal,
         "noise": noise(samples[0]),
         "ratio": wall[0] / wall[1],

@@ -2,13 +2,14 @@
 
 import json
 import re
-import subprocess
 
 import inputs
-from measure import Contender, compare, in_turn, median
+import workspace
+from measure import Contender, median
 
 MIB = 2**20
 
+ONE_PASS = 'bsdtar -xf "$1" -C "$2"'
 TWO_PASSES = 'bsdtar -tf "$1" >/dev/null && bsdtar -xf "$1" -C "$2"'
 
 
@@ -24,14 +25,13 @@ def _starts(session, display=None, fonts=None):
         "bare minimal": "bench-minimal",
         "the least that a start takes": "bench-start-floor",
     }
-    return [Contender(name, [bundle.program(program)], environment)
+    return [Contender(name, [bundle.program(program)], environment, bundle.install_same_build)
             for name, program in names.items()]
 
 
 def start(session):
     """A plain start: nothing to upgrade. Once more with a single font, since reading what the system
     says about fonts is a good part of what each of them does."""
-    session.bundle.install_same_build()
     places = [(where, display, None) for where, display in session.displays()]
     places.append(("offscreen, one font", None, session.bundle.one_font))
     for where, display, fonts in places:
@@ -43,15 +43,14 @@ def start(session):
 
 def memory(session):
     """Peaks of a plain start and of an installation."""
-    session.bundle.install_same_build()
     launcher, _, bare, _ = _starts(session)
-    ours, least = in_turn(session.runner, [launcher, bare], session.plan.memory_runs)
+    ours, least = session.in_turn([launcher, bare], session.plan.memory_runs)
     limit = median(least, "memory") + 4 * MIB
     session.memory("plain start, offscreen", "bare minimal + 4 MiB", median(ours, "memory"), limit)
     package = session.big_package("tar.zst")
     for where, display in session.displays():
         installing = _install(session, package, display)
-        peak = median(in_turn(session.runner, [installing], session.plan.memory_runs)[0], "memory")
+        peak = median(session.in_turn([installing], session.plan.memory_runs)[0], "memory")
         session.memory(f"install of tar.zst, {where}", "", peak, (40 if display else 32) * MIB)
 
 
@@ -62,7 +61,7 @@ def notify(session):
     for count in (few, many):
         sender = Contender("", [session.bundle.program("bench-notify"), count],
                            session.bundle.environment())
-        peaks.append(median(in_turn(session.runner, [sender], session.plan.memory_runs)[0],
+        peaks.append(median(session.in_turn([sender], session.plan.memory_runs)[0],
                             "memory"))
     session.memory(f"growth from {few} to {many} notifications", "", max(0, peaks[1] - peaks[0]),
                    2 * MIB)
@@ -70,13 +69,12 @@ def notify(session):
 
 def calls(session):
     """The system calls of a plain start, counted."""
-    session.bundle.install_same_build()
     counts = []
     for contender in _starts(session)[:2]:
         log = session.folder / "calls"
-        subprocess.run(["strace", "-f", "-qq", "-o", log, *contender.command], check=True,
-                       env=contender.environment, stdout=subprocess.DEVNULL,
-                       stderr=subprocess.DEVNULL)
+        contender.prepare()
+        workspace.run(["strace", "-f", "-qq", "-o", log, *contender.command],
+                      env=contender.environment)
         counts.append(_count_calls(log.read_text(errors="replace").splitlines()))
         (session.results / f"calls-{contender.command[0].name}.txt").write_bytes(log.read_bytes())
         log.unlink()
@@ -105,19 +103,18 @@ def _install(session, package, display=None, name="launcher"):
 
     def prepare():
         bundle.forget_installation()
-        if session.carried != package:
-            bundle.carry(package)
-            session.carried = package
+        bundle.carry(package)
 
     return Contender(name, [bundle.program("launcher")], bundle.environment(display), prepare,
                      bundle.check_installation, session.plan.install_memory)
 
 
-def _into_fresh_folder(session, name, command):
-    """A command that unpacks the carried package."""
+def _into_fresh_folder(session, package, name, command):
+    """A command that unpacks the package from where the launcher finds it."""
     folder = session.folder / "unpacked"
 
     def prepare():
+        session.bundle.carry(package)
         inputs.remove(folder)
         folder.mkdir()
 
@@ -129,8 +126,8 @@ def _against_bsdtar(session, package):
     floor = session.build / "bench/bench-install-floor"
     return [
         _install(session, package),
-        _into_fresh_folder(session, "bsdtar -tf, -xf", ["sh", "-c", TWO_PASSES, "sh"]),
-        _into_fresh_folder(session, "libarchive alone", [floor]),
+        _into_fresh_folder(session, package, "bsdtar -tf, -xf", ["sh", "-c", TWO_PASSES, "sh"]),
+        _into_fresh_folder(session, package, "libarchive alone", [floor]),
     ]
 
 
@@ -147,8 +144,9 @@ def install(session):
     package = many["tar.gz"]
     session.compare(f"install {plan.many_name}, tar.gz", [
         _install(session, package),
-        _into_fresh_folder(session, "bsdtar -xf alone", ["sh", "-c", 'bsdtar -xf "$1" -C "$2"', "sh"]),
-        _into_fresh_folder(session, "libarchive alone", [session.build / "bench/bench-install-floor"]),
+        _into_fresh_folder(session, package, "bsdtar -xf alone", ["sh", "-c", ONE_PASS, "sh"]),
+        _into_fresh_folder(session, package, "libarchive alone",
+                           [session.build / "bench/bench-install-floor"]),
     ], plan.installs, 0.80)
     for where, display in session.displays()[1:]:
         session.compare(f"install {plan.many_name}, {where}", [
@@ -199,9 +197,9 @@ def _removals(session, source, ext4=None):
             ext4.renew()
         else:
             inputs.remove(target)
-        subprocess.run(["cp", "-r", source, target], check=True)
+        workspace.run(["cp", "-r", source, target])
         if ext4:
-            subprocess.run(["sync", "-f", target], check=True)
+            workspace.run(["sync", "-f", target])
 
     programs = session.build / "bench"
     return [
@@ -301,11 +299,10 @@ def parts(session):
     threads: what they wait for each other shows in it as calls of the system."""
     plan = session.plan
     out = session.folder / "parts.json"
-    subprocess.run(
+    workspace.run(
         [session.build / "bench/bench-parts", f"--benchmark_repetitions={plan.part_repetitions}",
          f"--benchmark_min_time={plan.part_seconds}", "--benchmark_enable_random_interleaving=true",
          f"--benchmark_out={out}", "--benchmark_out_format=json"],
-        check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
         env={"LARKMOOR_BENCH_FOLDER": str(session.folder), "LC_ALL": "C.UTF-8"})
     runs = [run for run in json.loads(out.read_text())["benchmarks"]
             if run["run_type"] == "iteration"]

@@ -19,6 +19,19 @@ class Failure(Exception):
     """Says what is wrong and what mends it."""
 
 
+def run(command, **options):
+    """Runs a command, its output thrown away; what it says of a failure is in the exception."""
+    done = subprocess.run([str(word) for word in command], stdin=subprocess.DEVNULL,
+                          stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, **options)
+    check(done.returncode, command, done.stderr)
+
+
+def check(status, command, words):
+    if status != 0:
+        words = words.decode(errors="replace").strip() or "it says nothing"
+        raise Failure(f"{' '.join(map(str, command))}\n   ended with status {status}: {words}")
+
+
 @contextlib.contextmanager
 def memory(size):
     """A folder on a tmpfs with that many bytes free, removed at the end."""
@@ -45,16 +58,14 @@ class FreshExt4:
         self.close()
         with open(self.image, "wb") as image:
             image.truncate(self.size)
-        quiet = {"check": True, "stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
-        subprocess.run(["mkfs.ext4", "-q", "-F", "-E", "lazy_itable_init=0,nodiscard", self.image],
-                       **quiet)
-        subprocess.run(["mount", "-o", "loop", self.image, self.folder], **quiet)
+        run(["mkfs.ext4", "-q", "-F", "-E", "lazy_itable_init=0,nodiscard", self.image])
+        run(["mount", "-o", "loop", self.image, self.folder])
         self.mounted = True
         return self.folder
 
     def close(self):
         if self.mounted:
-            subprocess.run(["umount", self.folder], check=True)
+            run(["umount", self.folder])
         self.mounted = False
         self.image.unlink(missing_ok=True)
 

@@ -1,4 +1,4 @@
-// Runs a command with its output thrown away and prints what it took, children included:
+// Runs a command with its standard output thrown away and prints what it took, children included:
 // wall time, user time and system time in microseconds, peak memory in KiB.
 //
 // usage: timed-run COMMAND ARGUMENT...
@@ -22,8 +22,8 @@ long long Microseconds(timeval const& time) { return time.tv_sec * 1000000LL + t
 [[noreturn]] void Become(char** command) {
   int const sink = open("/dev/null", O_WRONLY | O_CLOEXEC);
   dup2(sink, STDOUT_FILENO);
-  dup2(sink, STDERR_FILENO);
   execvp(command[0], command);
+  std::perror(command[0]);
   _exit(127);
 }
 
