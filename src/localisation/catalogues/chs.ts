@@ -191,7 +191,7 @@
     <message>
         <source>Inactive</source>
         <extracomment>37 desc_inactive, 292 title_inactive</extracomment>
-        <translation>未启用</translation>
+        <translation>非活动</translation>
     </message>
     <message>
         <source>You have read-only access to this folder. Files will be downloaded to this computer, but local changes will not be uploaded.</source>
@@ -251,7 +251,7 @@
     <message>
         <source>Resume</source>
         <extracomment>49 tray_resume, 262 session_resume_btn</extracomment>
-        <translation>恢复</translation>
+        <translation>继续</translation>
     </message>
     <message>
         <source>Disabled</source>
@@ -371,7 +371,7 @@
     <message>
         <source>File names that begin with a period (.)</source>
         <extracomment>74 block_point_prefix</extracomment>
-        <translation>以句点 (.) 开头的文件名</translation>
+        <translation>以句点（.）开头的文件名</translation>
     </message>
     <message>
         <source>Files with these names will not be synced. Separate the names with semicolons.</source>
@@ -716,7 +716,7 @@
     <message>
         <source>Next %1 pages</source>
         <extracomment>148 next_x_pages</extracomment>
-        <translation>后 %1 页</translation>
+        <translation>向后 %1 页</translation>
     </message>
     <message>
         <source>Testing the connection...</source>
@@ -771,7 +771,7 @@
     <message>
         <source>Resume Connection</source>
         <extracomment>159 resume_connection</extracomment>
-        <translation>恢复连接</translation>
+        <translation>继续连接</translation>
     </message>
     <message>
         <source>May</source>
@@ -1961,7 +1961,7 @@
     <message>
         <source>Some files that need to be updated are currently in use.</source>
         <extracomment>421 msi_filesinuse_dlg_description</extracomment>
-        <translation>某些需要更新的文件当前正在使用。</translation>
+        <translation>某些需要更新的文件当前正在使用中。</translation>
     </message>
     <message>
         <source>Upgrade</source>
@@ -2171,7 +2171,7 @@
     <message>
         <source>Previous %1 pages</source>
         <extracomment>474 prev_x_pages</extracomment>
-        <translation>前 %1 页</translation>
+        <translation>向前 %1 页</translation>
     </message>
     <message>
         <source>%1 cannot be synced because it is in use, or acccess is denied.</source>

@@ -331,7 +331,7 @@
     <message>
         <source>Destination</source>
         <extracomment>65 col_file_destination</extracomment>
-        <translation>目的地</translation>
+        <translation>目標位置</translation>
     </message>
     <message>
         <source>The SSL certificate of the NAS has changed. Please confirm the new certificate to resume syncing.</source>
@@ -371,7 +371,7 @@
     <message>
         <source>File names that begin with a period (.)</source>
         <extracomment>74 block_point_prefix</extracomment>
-        <translation>以句點 (.) 開頭的檔案名稱</translation>
+        <translation>以句點（.）開頭的檔案名稱</translation>
     </message>
     <message>
         <source>Files with these names will not be synced. Separate the names with semicolons.</source>
@@ -551,7 +551,7 @@
     <message>
         <source>ID</source>
         <extracomment>114 title_id, 464 col_id</extracomment>
-        <translation>ID</translation>
+        <translation>識別碼</translation>
     </message>
     <message>
         <source>The quota of the shared folder &quot;%1&quot; has been reached. Please free up some space or contact the NAS administrator.</source>
@@ -716,7 +716,7 @@
     <message>
         <source>Next %1 pages</source>
         <extracomment>148 next_x_pages</extracomment>
-        <translation>後 %1 頁</translation>
+        <translation>往後 %1 頁</translation>
     </message>
     <message>
         <source>Testing the connection...</source>
@@ -1031,7 +1031,7 @@
     <message>
         <source>SSL</source>
         <extracomment>211 title_ssl_enable</extracomment>
-        <translation>SSL</translation>
+        <translation>SSL 加密</translation>
     </message>
     <message>
         <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
@@ -2171,7 +2171,7 @@
     <message>
         <source>Previous %1 pages</source>
         <extracomment>474 prev_x_pages</extracomment>
-        <translation>前 %1 頁</translation>
+        <translation>往前 %1 頁</translation>
     </message>
     <message>
         <source>%1 cannot be synced because it is in use, or acccess is denied.</source>
@@ -2266,7 +2266,7 @@
     <message>
         <source>Step %1 of %2</source>
         <extracomment>497 msg_progress</extracomment>
-        <translation>步驟 %1 / %2</translation>
+        <translation>第 %1 步，共 %2 步</translation>
     </message>
     <message>
         <source>The shared folder does not exist or has been removed. Please choose another one.</source>

@@ -201,7 +201,7 @@
     <message>
         <source>Applying settings...</source>
         <extracomment>39 manage_setting_applying</extracomment>
-        <translation>Probíhá použití nastavení...</translation>
+        <translation>Použití nastavení...</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -501,7 +501,7 @@
     <message>
         <source>A new version of Larkmoor Drive is available. Click here to update.</source>
         <extracomment>104 tray_click_to_update</extracomment>
-        <translation>K dispozici je nová verze aplikace Larkmoor Drive. Kliknutím sem ji aktualizujete.</translation>
+        <translation>K dispozici je nová verze aplikace Larkmoor Drive. Kliknutím sem spustíte aktualizaci.</translation>
     </message>
     <message>
         <source>A newer version of Larkmoor Drive is already installed. To install this version, please uninstall the current version first.</source>
@@ -1636,7 +1636,7 @@
     <message>
         <source>Open containing folder</source>
         <extracomment>351 open_contain_folder</extracomment>
-        <translation>Otevřít nadřazenou složku</translation>
+        <translation>Otevřít složku se souborem</translation>
     </message>
     <message>
         <source>Larkmoor Drive is running.</source>
@@ -2071,7 +2071,7 @@
     <message>
         <source>No NAS yet? Visit our website to learn more.</source>
         <extracomment>450 wizard_welcome_footer_info</extracomment>
-        <translation>Ještě nemáte NAS? Více informací najdete na našem webu.</translation>
+        <translation>Ještě nemáte zařízení NAS? Více informací najdete na našem webu.</translation>
     </message>
     <message>
         <source>July</source>
@@ -2201,7 +2201,7 @@
     <message>
         <source>Date range</source>
         <extracomment>480 history_date_range</extracomment>
-        <translation>Rozsah dat</translation>
+        <translation>Období</translation>
     </message>
     <message>
         <source>Delete</source>

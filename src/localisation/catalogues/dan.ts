@@ -11,7 +11,7 @@
     <message>
         <source>April</source>
         <extracomment>1 month_apr</extracomment>
-        <translation>april</translation>
+        <translation>April</translation>
     </message>
     <message>
         <source>You have read-only access to this folder. Changes made on this computer will not be uploaded to the NAS.</source>
@@ -141,7 +141,7 @@
     <message>
         <source>October</source>
         <extracomment>27 month_oct</extracomment>
-        <translation>oktober</translation>
+        <translation>Oktober</translation>
     </message>
     <message>
         <source>Computer name</source>
@@ -151,12 +151,12 @@
     <message>
         <source>Saturday</source>
         <extracomment>29 saturday</extracomment>
-        <translation>lørdag</translation>
+        <translation>Lørdag</translation>
     </message>
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Fjern forbindelsens tilknytning</translation>
+        <translation>Fjern tilknyttet forbindelse</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -246,7 +246,7 @@
     <message>
         <source>June</source>
         <extracomment>48 month_jun</extracomment>
-        <translation>juni</translation>
+        <translation>Juni</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -326,7 +326,7 @@
     <message>
         <source>Friday</source>
         <extracomment>64 friday</extracomment>
-        <translation>fredag</translation>
+        <translation>Fredag</translation>
     </message>
     <message>
         <source>Destination</source>
@@ -551,7 +551,7 @@
     <message>
         <source>ID</source>
         <extracomment>114 title_id, 464 col_id</extracomment>
-        <translation>ID</translation>
+        <translation>Id</translation>
     </message>
     <message>
         <source>The quota of the shared folder &quot;%1&quot; has been reached. Please free up some space or contact the NAS administrator.</source>
@@ -606,7 +606,7 @@
     <message>
         <source>March</source>
         <extracomment>125 month_mar</extracomment>
-        <translation>marts</translation>
+        <translation>Marts</translation>
     </message>
     <message>
         <source>Your files, wherever you are</source>
@@ -631,7 +631,7 @@
     <message>
         <source>February</source>
         <extracomment>130 month_feb</extracomment>
-        <translation>februar</translation>
+        <translation>Februar</translation>
     </message>
     <message>
         <source>Incompatible version</source>
@@ -776,7 +776,7 @@
     <message>
         <source>May</source>
         <extracomment>160 month_may</extracomment>
-        <translation>maj</translation>
+        <translation>Maj</translation>
     </message>
     <message>
         <source>Larkmoor Drive is starting...</source>
@@ -1251,7 +1251,7 @@
     <message>
         <source>Wednesday</source>
         <extracomment>259 wednesday</extracomment>
-        <translation>onsdag</translation>
+        <translation>Onsdag</translation>
     </message>
     <message>
         <source>There is not enough free space on this computer. Please free up some space to resume syncing.</source>
@@ -1296,7 +1296,7 @@
     <message>
         <source>Trust and Continue</source>
         <extracomment>270 btn_ssl_continue</extracomment>
-        <translation>Stol på og fortsæt</translation>
+        <translation>Godkend og fortsæt</translation>
     </message>
     <message>
         <source>Choose the folder on this computer that you want to sync.</source>
@@ -1501,7 +1501,7 @@
     <message>
         <source>Monday</source>
         <extracomment>319 monday</extracomment>
-        <translation>mandag</translation>
+        <translation>Mandag</translation>
     </message>
     <message>
         <source>Sync Tasks</source>
@@ -1531,7 +1531,7 @@
     <message>
         <source>January</source>
         <extracomment>325 month_jan</extracomment>
-        <translation>januar</translation>
+        <translation>Januar</translation>
     </message>
     <message>
         <source>An invalid value was entered. Please check your input and try again.</source>
@@ -1621,7 +1621,7 @@
     <message>
         <source>November</source>
         <extracomment>346 month_nov</extracomment>
-        <translation>november</translation>
+        <translation>November</translation>
     </message>
     <message>
         <source>Reading the connection mode...</source>
@@ -1631,12 +1631,12 @@
     <message>
         <source>Thursday</source>
         <extracomment>350 thursday</extracomment>
-        <translation>torsdag</translation>
+        <translation>Torsdag</translation>
     </message>
     <message>
         <source>Open containing folder</source>
         <extracomment>351 open_contain_folder</extracomment>
-        <translation>Åbn den overordnede mappe</translation>
+        <translation>Åbn mappen med filen</translation>
     </message>
     <message>
         <source>Larkmoor Drive is running.</source>
@@ -1661,7 +1661,7 @@
     <message>
         <source>August</source>
         <extracomment>357 month_aug</extracomment>
-        <translation>august</translation>
+        <translation>August</translation>
     </message>
     <message>
         <source>Watching for file changes...</source>
@@ -1711,12 +1711,12 @@
     <message>
         <source>Sunday</source>
         <extracomment>368 sunday</extracomment>
-        <translation>søndag</translation>
+        <translation>Søndag</translation>
     </message>
     <message>
         <source>Tuesday</source>
         <extracomment>369 tuesday</extracomment>
-        <translation>tirsdag</translation>
+        <translation>Tirsdag</translation>
     </message>
     <message>
         <source>Put Your Files Here</source>
@@ -1816,7 +1816,7 @@
     <message>
         <source>Options</source>
         <extracomment>390 manage_option_title</extracomment>
-        <translation>Indstillinger</translation>
+        <translation>Valgmuligheder</translation>
     </message>
     <message>
         <source>The local sync folder &quot;%1&quot; cannot be found. It may have been moved, renamed or deleted.</source>
@@ -1991,7 +1991,7 @@
     <message>
         <source>December</source>
         <extracomment>431 month_dec</extracomment>
-        <translation>december</translation>
+        <translation>December</translation>
     </message>
     <message>
         <source>This Bridgeway ID does not exist. Please check the ID and try again.</source>
@@ -2046,7 +2046,7 @@
     <message>
         <source>September</source>
         <extracomment>443 month_sep</extracomment>
-        <translation>september</translation>
+        <translation>September</translation>
     </message>
     <message>
         <source>No options available</source>
@@ -2076,7 +2076,7 @@
     <message>
         <source>July</source>
         <extracomment>451 month_jul</extracomment>
-        <translation>juli</translation>
+        <translation>Juli</translation>
     </message>
     <message>
         <source>Unable to create the folder &quot;%1&quot; on this computer.</source>
@@ -2351,7 +2351,7 @@
     <message>
         <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
-        <translation>Luk &amp;ikke programmerne (en genstart er nødvendig)</translation>
+        <translation>Luk i&amp;kke programmerne (en genstart af computeren er nødvendig)</translation>
     </message>
     <message>
         <source>Larkmoor Drive is ready.</source>

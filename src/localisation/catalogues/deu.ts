@@ -51,7 +51,7 @@
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
         <extracomment>9 msi_exit_dlg_description, 297 msi_userexit_dlg_description2, 445 msi_exit_dlg_text, 461 msi_fatalerror_dlg_description2</extracomment>
-        <translation>Klicken Sie auf „Fertig stellen“, um den Setup-Assistenten zu beenden.</translation>
+        <translation>Klicken Sie auf „Fertigstellen“, um den Setup-Assistenten zu beenden.</translation>
     </message>
     <message>
         <source>Unable to reach the network. Please check your network connection and try again.</source>
@@ -96,7 +96,7 @@
     <message>
         <source>The SSL certificate of the NAS could not be verified. Please check the certificate or contact the NAS administrator.</source>
         <extracomment>18 wizard_ssl_verify_fail_sync_folder_warning, 521 err_ssl_verify_fail</extracomment>
-        <translation>Das SSL-Zertifikat des NAS konnte nicht überprüft werden. Bitte prüfen Sie das Zertifikat oder wenden Sie sich an den NAS-Administrator.</translation>
+        <translation>Das SSL-Zertifikat des NAS konnte nicht verifiziert werden. Bitte überprüfen Sie das Zertifikat oder wenden Sie sich an den NAS-Administrator.</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Verbindung trennen</translation>
+        <translation>Verknüpfte Verbindung entfernen</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -291,7 +291,7 @@
     <message>
         <source>Please review the settings below, and then click Finish to start syncing.</source>
         <extracomment>57 msg_info_description</extracomment>
-        <translation>Überprüfen Sie die folgenden Einstellungen und klicken Sie dann auf „Fertig stellen“, um die Synchronisierung zu starten.</translation>
+        <translation>Überprüfen Sie die folgenden Einstellungen und klicken Sie dann auf „Fertigstellen“, um die Synchronisierung zu starten.</translation>
     </message>
     <message>
         <source>Keep the most recently modified version</source>
@@ -361,7 +361,7 @@
     <message>
         <source>&amp;Finish</source>
         <extracomment>72 msi_button_finish</extracomment>
-        <translation>&amp;Fertig stellen</translation>
+        <translation>&amp;Fertigstellen</translation>
     </message>
     <message>
         <source>File name</source>
@@ -701,7 +701,7 @@
     <message>
         <source>Finish</source>
         <extracomment>144 finish</extracomment>
-        <translation>Fertig stellen</translation>
+        <translation>Fertigstellen</translation>
     </message>
     <message>
         <source>Enter your 6-digit verification code</source>
@@ -926,7 +926,7 @@
     <message>
         <source>Unlink</source>
         <extracomment>190 action_unlink, 338 session_unlink_btn</extracomment>
-        <translation>Trennen</translation>
+        <translation>Verknüpfung aufheben</translation>
     </message>
     <message>
         <source>SSL Certificate Warning</source>
@@ -1636,7 +1636,7 @@
     <message>
         <source>Open containing folder</source>
         <extracomment>351 open_contain_folder</extracomment>
-        <translation>Übergeordneten Ordner öffnen</translation>
+        <translation>Ordner der Datei öffnen</translation>
     </message>
     <message>
         <source>Larkmoor Drive is running.</source>
@@ -1981,7 +1981,7 @@
     <message>
         <source>Unlinking...</source>
         <extracomment>429 msg_unlinking</extracomment>
-        <translation>Wird getrennt ...</translation>
+        <translation>Verknüpfung wird aufgehoben ...</translation>
     </message>
     <message>
         <source>Choose what you want to do with the installation.</source>
@@ -2236,7 +2236,7 @@
     <message>
         <source>When the tray icon is double-clicked</source>
         <extracomment>489 title_icon_double_clicked</extracomment>
-        <translation>Beim Doppelklicken auf das Symbol im Infobereich</translation>
+        <translation>Beim Doppelklick auf das Symbol im Infobereich</translation>
     </message>
     <message>
         <source>Next</source>
@@ -2311,7 +2311,7 @@
     <message>
         <source>Are you sure you want to unlink this computer from %1?</source>
         <extracomment>508 msg_confirm_unlink</extracomment>
-        <translation>Möchten Sie diesen Computer wirklich von %1 trennen?</translation>
+        <translation>Möchten Sie die Verknüpfung dieses Computers mit %1 wirklich aufheben?</translation>
     </message>
     <message>
         <source>Domain name, IP address or Bridgeway ID</source>

@@ -341,7 +341,7 @@
     <message>
         <source>The folders that you have deselected will be permantely removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <extracomment>67 selective_sync_remove_msg</extracomment>
-        <translation>Las carpetas cuya selección ha anulado se eliminarán de este equipo de forma permanente. Las copias del NAS se conservarán. ¿Desea continuar?</translation>
+        <translation>Las carpetas que ha deseleccionado se eliminarán de este equipo de forma permanente. Las copias del NAS se conservarán. ¿Desea continuar?</translation>
     </message>
     <message>
         <source>Selective Sync</source>
@@ -451,7 +451,7 @@
     <message>
         <source>Advanced Setup</source>
         <extracomment>93 wizard_setup_advan_mode_title</extracomment>
-        <translation>Configuración avanzada</translation>
+        <translation>Modo avanzado</translation>
     </message>
     <message>
         <source>Paused</source>
@@ -471,7 +471,7 @@
     <message>
         <source>Link this computer to your NAS in a few clicks. All your files will be synced to a single folder with the recommended settings.</source>
         <extracomment>97 wizard_setup_quick_mode_desc</extracomment>
-        <translation>Vincule este equipo a su NAS en unos pocos clics. Todos sus archivos se sincronizarán en una sola carpeta con la configuración recomendada.</translation>
+        <translation>Vincule este equipo a su NAS con unos pocos clics. Todos sus archivos se sincronizarán en una sola carpeta con la configuración recomendada.</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -501,7 +501,7 @@
     <message>
         <source>A new version of Larkmoor Drive is available. Click here to update.</source>
         <extracomment>104 tray_click_to_update</extracomment>
-        <translation>Hay disponible una nueva versión de Larkmoor Drive. Haga clic aquí para actualizarla.</translation>
+        <translation>Hay disponible una nueva versión de Larkmoor Drive. Haga clic aquí para actualizar.</translation>
     </message>
     <message>
         <source>A newer version of Larkmoor Drive is already installed. To install this version, please uninstall the current version first.</source>
@@ -2166,7 +2166,7 @@
     <message>
         <source>Quick Setup</source>
         <extracomment>473 wizard_setup_quick_mode_title</extracomment>
-        <translation>Configuración rápida</translation>
+        <translation>Modo rápido</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>

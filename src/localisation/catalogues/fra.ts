@@ -21,7 +21,7 @@
     <message>
         <source>Choose the folders, sync direction and file filters yourself (recommended for experienced users)&#x200b;.</source>
         <extracomment>3 wizard_setup_advan_mode_desc</extracomment>
-        <translation>Choisissez vous-même les dossiers, le sens de synchronisation et les filtres de fichiers (recommandé aux utilisateurs expérimentés).</translation>
+        <translation>Choisissez vous-même les dossiers, le sens de synchronisation et les filtres de fichiers (recommandé pour les utilisateurs expérimentés).</translation>
     </message>
     <message>
         <source>From</source>
@@ -31,7 +31,7 @@
     <message>
         <source>Do you want to stop the installation of [ProductName]?</source>
         <extracomment>5 msi_cancel_dlg_text</extracomment>
-        <translation>Voulez-vous interrompre l&apos;installation de [ProductName] ?</translation>
+        <translation>Voulez-vous interrompre l&apos;installation de [ProductName]&#xa0;?</translation>
     </message>
     <message>
         <source>[ProductName] Setup</source>
@@ -106,7 +106,7 @@
     <message>
         <source>Syncing of &quot;%1&quot; has stopped because of an error. Click here for details.</source>
         <extracomment>20 notify_abnormal</extracomment>
-        <translation>La synchronisation de « %1 » s&apos;est arrêtée en raison d&apos;une erreur. Cliquez ici pour plus de détails.</translation>
+        <translation>La synchronisation de «&#xa0;%1&#xa0;» s&apos;est arrêtée en raison d&apos;une erreur. Cliquez ici pour plus de détails.</translation>
     </message>
     <message>
         <source>The username or password is incorrect. Please try again.</source>
@@ -121,7 +121,7 @@
     <message>
         <source>Larkmoor Drive will keep the following folder in sync with your NAS:</source>
         <extracomment>23 quick_mode_finish_page_desc</extracomment>
-        <translation>Larkmoor Drive synchronisera en permanence le dossier suivant avec votre NAS :</translation>
+        <translation>Larkmoor Drive synchronisera en permanence le dossier suivant avec votre NAS&#xa0;:</translation>
     </message>
     <message>
         <source>Set up the proxy manually</source>
@@ -271,7 +271,7 @@
     <message>
         <source>This computer is already linked to %1. Linking it to the same NAS again may cause file conflicts. Do you want to continue?</source>
         <extracomment>53 wizard_setup_repeat_warning2</extracomment>
-        <translation>Cet ordinateur est déjà associé à %1. Une nouvelle association au même NAS peut entraîner des conflits de fichiers. Voulez-vous continuer ?</translation>
+        <translation>Cet ordinateur est déjà associé à %1. Une nouvelle association au même NAS peut entraîner des conflits de fichiers. Voulez-vous continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -341,7 +341,7 @@
     <message>
         <source>The folders that you have deselected will be permantely removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <extracomment>67 selective_sync_remove_msg</extracomment>
-        <translation>Les dossiers que vous avez désélectionnés seront définitivement supprimés de cet ordinateur. Les copies sur le NAS seront conservées. Voulez-vous continuer ?</translation>
+        <translation>Les dossiers que vous avez désélectionnés seront définitivement supprimés de cet ordinateur. Les copies sur le NAS seront conservées. Voulez-vous continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Selective Sync</source>
@@ -391,7 +391,7 @@
     <message>
         <source>You are not signed in as an administrator. Larkmoor Drive will be installed for your user account only. Do you want to continue?</source>
         <extracomment>79 NSIS_NOT_ADMIN_CONFIRM</extracomment>
-        <translation>Vous n&apos;êtes pas connecté en tant qu&apos;administrateur. Larkmoor Drive sera installé uniquement pour votre compte d&apos;utilisateur. Voulez-vous continuer ?</translation>
+        <translation>Vous n&apos;êtes pas connecté en tant qu&apos;administrateur. Larkmoor Drive sera installé uniquement pour votre compte d&apos;utilisateur. Voulez-vous continuer&#xa0;?</translation>
     </message>
     <message>
         <source>The sync service is disabled for your account. Please contact the NAS administrator.</source>
@@ -416,7 +416,7 @@
     <message>
         <source>Your changes have not been saved. Do you want to discard them?</source>
         <extracomment>85 manage_setting_not_save</extracomment>
-        <translation>Vos modifications n&apos;ont pas été enregistrées. Voulez-vous les abandonner ?</translation>
+        <translation>Vos modifications n&apos;ont pas été enregistrées. Voulez-vous les abandonner&#xa0;?</translation>
     </message>
     <message>
         <source>Username</source>
@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>Un autre NAS a été détecté à cette adresse. Veuillez l&apos;associer de nouveau.</translation>
+        <translation>Un autre NAS a été détecté à cette adresse. Associez de nouveau cet ordinateur.</translation>
     </message>
     <message>
         <source>Merge mode</source>
@@ -556,7 +556,7 @@
     <message>
         <source>The quota of the shared folder &quot;%1&quot; has been reached. Please free up some space or contact the NAS administrator.</source>
         <extracomment>115 msg_share_quotafull</extracomment>
-        <translation>Le quota du dossier partagé « %1 » est atteint. Libérez de l&apos;espace ou contactez l&apos;administrateur du NAS.</translation>
+        <translation>Le quota du dossier partagé «&#xa0;%1&#xa0;» est atteint. Libérez de l&apos;espace ou contactez l&apos;administrateur du NAS.</translation>
     </message>
     <message>
         <source>Proxy Settings</source>
@@ -646,7 +646,7 @@
     <message>
         <source>Do not sync the following files:</source>
         <extracomment>133 file_black_list_label</extracomment>
-        <translation>Ne pas synchroniser les fichiers suivants :</translation>
+        <translation>Ne pas synchroniser les fichiers suivants&#xa0;:</translation>
     </message>
     <message>
         <source>Linking...</source>
@@ -666,7 +666,7 @@
     <message>
         <source>The folder &quot;%1&quot; already exists on this computer. Do you want to merge it with the folder on the NAS?</source>
         <extracomment>137 msg_mergefolder</extracomment>
-        <translation>Le dossier « %1 » existe déjà sur cet ordinateur. Voulez-vous le fusionner avec le dossier du NAS ?</translation>
+        <translation>Le dossier «&#xa0;%1&#xa0;» existe déjà sur cet ordinateur. Voulez-vous le fusionner avec le dossier du NAS&#xa0;?</translation>
     </message>
     <message>
         <source>Just now</source>
@@ -696,7 +696,7 @@
     <message>
         <source>Unable to enable sync for the folder &quot;%1&quot;. Please try again.</source>
         <extracomment>143 err_share_fail_enable</extracomment>
-        <translation>Impossible d&apos;activer la synchronisation pour le dossier « %1 ». Veuillez réessayer.</translation>
+        <translation>Impossible d&apos;activer la synchronisation pour le dossier «&#xa0;%1&#xa0;». Veuillez réessayer.</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -806,7 +806,7 @@
     <message>
         <source>Unable to resolve a conflict for the file &quot;%1&quot;.</source>
         <extracomment>166 err_conflict</extracomment>
-        <translation>Impossible de résoudre un conflit pour le fichier « %1 ».</translation>
+        <translation>Impossible de résoudre un conflit pour le fichier «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Loading the folder list...</source>
@@ -816,7 +816,7 @@
     <message>
         <source>Are you sure you want to remove this sync folder? Your files on the NAS and on this computer will be kept.</source>
         <extracomment>168 msg_shareitem_delete</extracomment>
-        <translation>Voulez-vous vraiment supprimer ce dossier de synchronisation ? Vos fichiers seront conservés sur le NAS et sur cet ordinateur.</translation>
+        <translation>Voulez-vous vraiment supprimer ce dossier de synchronisation&#xa0;? Vos fichiers seront conservés sur le NAS et sur cet ordinateur.</translation>
     </message>
     <message>
         <source>Verifying your account...</source>
@@ -831,7 +831,7 @@
     <message>
         <source>The folder &quot;%1&quot; is not empty. Its contents will be merged with the folder on the NAS.</source>
         <extracomment>171 msg_folder_not_empty</extracomment>
-        <translation>Le dossier « %1 » n&apos;est pas vide. Son contenu sera fusionné avec le dossier du NAS.</translation>
+        <translation>Le dossier «&#xa0;%1&#xa0;» n&apos;est pas vide. Son contenu sera fusionné avec le dossier du NAS.</translation>
     </message>
     <message>
         <source>Unable to create a sharing link. Please try again later.</source>
@@ -871,12 +871,12 @@
     <message>
         <source>File names:</source>
         <extracomment>179 block_file_name_label</extracomment>
-        <translation>Noms de fichiers :</translation>
+        <translation>Noms de fichiers&#xa0;:</translation>
     </message>
     <message>
         <source>The volume that holds the sync folder &quot;%1&quot; is not mounted. Please mount it to resume syncing.</source>
         <extracomment>180 err_syncfolder_not_mounted</extracomment>
-        <translation>Le volume qui contient le dossier de synchronisation « %1 » n&apos;est pas monté. Montez-le pour reprendre la synchronisation.</translation>
+        <translation>Le volume qui contient le dossier de synchronisation «&#xa0;%1&#xa0;» n&apos;est pas monté. Montez-le pour reprendre la synchronisation.</translation>
     </message>
     <message>
         <source>Use the system proxy settings</source>
@@ -901,12 +901,12 @@
     <message>
         <source>File extensions:</source>
         <extracomment>185 file_ext_label</extracomment>
-        <translation>Extensions de fichiers :</translation>
+        <translation>Extensions de fichiers&#xa0;:</translation>
     </message>
     <message>
         <source>Are you sure you want to stop syncing &quot;%1&quot;? Your files on the NAS and on this computer will be kept.</source>
         <extracomment>186 session_unlink_confirm_msg</extracomment>
-        <translation>Voulez-vous vraiment arrêter de synchroniser « %1 » ? Vos fichiers seront conservés sur le NAS et sur cet ordinateur.</translation>
+        <translation>Voulez-vous vraiment arrêter de synchroniser «&#xa0;%1&#xa0;»&#xa0;? Vos fichiers seront conservés sur le NAS et sur cet ordinateur.</translation>
     </message>
     <message>
         <source>Size</source>
@@ -916,12 +916,12 @@
     <message>
         <source>Status:</source>
         <extracomment>188 msi_progress_dlg_status_label</extracomment>
-        <translation>État :</translation>
+        <translation>État&#xa0;:</translation>
     </message>
     <message>
         <source>%1 upgrade failed (error code: %2).</source>
         <extracomment>189 wizard_client_upgrade_failed</extracomment>
-        <translation>Échec de la mise à niveau de %1 (code d&apos;erreur : %2).</translation>
+        <translation>Échec de la mise à niveau de %1 (code d&apos;erreur&#xa0;: %2).</translation>
     </message>
     <message>
         <source>Unlink</source>
@@ -941,7 +941,7 @@
     <message>
         <source>There is not enough free space on the NAS to upload &quot;%1&quot;.</source>
         <extracomment>193 msg_diskfull</extracomment>
-        <translation>L&apos;espace libre sur le NAS est insuffisant pour envoyer « %1 ».</translation>
+        <translation>L&apos;espace libre sur le NAS est insuffisant pour envoyer «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Please enter your verification code.</source>
@@ -966,7 +966,7 @@
     <message>
         <source>Welcome!</source>
         <extracomment>198 msg_welcome</extracomment>
-        <translation>Bienvenue !</translation>
+        <translation>Bienvenue&#xa0;!</translation>
     </message>
     <message>
         <source>Choose a Folder</source>
@@ -1071,7 +1071,7 @@
     <message>
         <source>How would you like to set up Larkmoor Drive?</source>
         <extracomment>219 wizard_setup_mode_page_desc</extracomment>
-        <translation>Comment souhaitez-vous configurer Larkmoor Drive ?</translation>
+        <translation>Comment souhaitez-vous configurer Larkmoor Drive&#xa0;?</translation>
     </message>
     <message>
         <source>Keyword</source>
@@ -1381,7 +1381,7 @@
     <message>
         <source>File deleted:</source>
         <extracomment>293 del</extracomment>
-        <translation>Fichier supprimé :</translation>
+        <translation>Fichier supprimé&#xa0;:</translation>
     </message>
     <message>
         <source>The NAS sent an unexpected response. Please check the address and port and try again.</source>
@@ -1421,7 +1421,7 @@
     <message>
         <source>The SSL certificate of %1 has changed. Do you want to trust the new certificate?</source>
         <extracomment>302 msg_ssl_change</extracomment>
-        <translation>Le certificat SSL de %1 a changé. Voulez-vous faire confiance au nouveau certificat ?</translation>
+        <translation>Le certificat SSL de %1 a changé. Voulez-vous faire confiance au nouveau certificat&#xa0;?</translation>
     </message>
     <message>
         <source>Do not sync files larger than %1 MB</source>
@@ -1451,7 +1451,7 @@
     <message>
         <source>The download of &quot;%1&quot; is complete.</source>
         <extracomment>309 msg_download_done</extracomment>
-        <translation>Le téléchargement de « %1 » est terminé.</translation>
+        <translation>Le téléchargement de «&#xa0;%1&#xa0;» est terminé.</translation>
     </message>
     <message>
         <source>This computer is already linked to %1. Each connection to the same NAS needs a seperate sync folder.</source>
@@ -1476,12 +1476,12 @@
     <message>
         <source>File added: </source>
         <extracomment>314 add</extracomment>
-        <translation>Fichier ajouté : </translation>
+        <translation>Fichier ajouté&#xa0;: </translation>
     </message>
     <message>
         <source>Maximum file size:</source>
         <extracomment>315 file_max_size_label</extracomment>
-        <translation>Taille maximale des fichiers :</translation>
+        <translation>Taille maximale des fichiers&#xa0;:</translation>
     </message>
     <message>
         <source>No data </source>
@@ -1516,7 +1516,7 @@
     <message>
         <source>Unable to download &quot;%1&quot;.</source>
         <extracomment>322 msg_download_fail</extracomment>
-        <translation>Impossible de télécharger « %1 ».</translation>
+        <translation>Impossible de télécharger «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Auto Upgrade</source>
@@ -1551,7 +1551,7 @@
     <message>
         <source>The folder &quot;%1&quot; is read-only. Please choose a folder that you can write to.</source>
         <extracomment>329 msg_folder_readonly</extracomment>
-        <translation>Le dossier « %1 » est en lecture seule. Choisissez un dossier accessible en écriture.</translation>
+        <translation>Le dossier «&#xa0;%1&#xa0;» est en lecture seule. Choisissez un dossier accessible en écriture.</translation>
     </message>
     <message>
         <source>The following applications are using files that need to be updated. You can let the Setup Wizard close them, or restart your computer later.</source>
@@ -1566,7 +1566,7 @@
     <message>
         <source>The shared folder &quot;%1&quot; is not mounted on the NAS.</source>
         <extracomment>332 err_share_not_mounted</extracomment>
-        <translation>Le dossier partagé « %1 » n&apos;est pas monté sur le NAS.</translation>
+        <translation>Le dossier partagé «&#xa0;%1&#xa0;» n&apos;est pas monté sur le NAS.</translation>
     </message>
     <message>
         <source>This wizard will install [ProductName] on your computer. Click Next to continue or Cancel to exit the Setup Wizard.</source>
@@ -1706,7 +1706,7 @@
     <message>
         <source>The folder &quot;%1&quot; is already part of another sync folder.</source>
         <extracomment>367 err_share_folder_conflict</extracomment>
-        <translation>Le dossier « %1 » fait déjà partie d&apos;un autre dossier de synchronisation.</translation>
+        <translation>Le dossier «&#xa0;%1&#xa0;» fait déjà partie d&apos;un autre dossier de synchronisation.</translation>
     </message>
     <message>
         <source>Sunday</source>
@@ -1771,7 +1771,7 @@
     <message>
         <source>Unable to sign in. Please check your username and password.</source>
         <extracomment>381 err_auth</extracomment>
-        <translation>Impossible de se connecter. Vérifiez votre nom d&apos;utilisateur et votre mot de passe.</translation>
+        <translation>Échec de la connexion à votre compte. Vérifiez votre nom d&apos;utilisateur et votre mot de passe.</translation>
     </message>
     <message>
         <source>To</source>
@@ -1791,12 +1791,12 @@
     <message>
         <source>Downloading &quot;%1&quot;...</source>
         <extracomment>385 msg_download_downloading</extracomment>
-        <translation>Téléchargement de « %1 »...</translation>
+        <translation>Téléchargement de «&#xa0;%1&#xa0;»...</translation>
     </message>
     <message>
         <source>Syncing: %1</source>
         <extracomment>386 status_desc_syncing</extracomment>
-        <translation>Synchronisation : %1</translation>
+        <translation>Synchronisation&#xa0;: %1</translation>
     </message>
     <message>
         <source>Today</source>
@@ -1821,12 +1821,12 @@
     <message>
         <source>The local sync folder &quot;%1&quot; cannot be found. It may have been moved, renamed or deleted.</source>
         <extracomment>391 err_local_sync_folder_miss</extracomment>
-        <translation>Le dossier de synchronisation local « %1 » est introuvable. Il a peut-être été déplacé, renommé ou supprimé.</translation>
+        <translation>Le dossier de synchronisation local «&#xa0;%1&#xa0;» est introuvable. Il a peut-être été déplacé, renommé ou supprimé.</translation>
     </message>
     <message>
         <source>Unable to remove the sync folder &quot;%1&quot;.</source>
         <extracomment>392 err_shareitem_delete</extracomment>
-        <translation>Impossible de supprimer le dossier de synchronisation « %1 ».</translation>
+        <translation>Impossible de supprimer le dossier de synchronisation «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Initializing</source>
@@ -1886,7 +1886,7 @@
     <message>
         <source>The shared folder &quot;%1&quot; is now available. Click here to sync it.</source>
         <extracomment>404 notify_new_share</extracomment>
-        <translation>Le dossier partagé « %1 » est maintenant disponible. Cliquez ici pour le synchroniser.</translation>
+        <translation>Le dossier partagé «&#xa0;%1&#xa0;» est maintenant disponible. Cliquez ici pour le synchroniser.</translation>
     </message>
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
@@ -2036,7 +2036,7 @@
     <message>
         <source>The volume on the NAS is not mounted. Please contact the NAS administrator.</source>
         <extracomment>440 err_remote_not_mounted</extracomment>
-        <translation>Le volume n&apos;est pas monté sur le NAS. Contactez l&apos;administrateur du NAS.</translation>
+        <translation>Le volume du NAS n&apos;est pas monté. Contactez l&apos;administrateur du NAS.</translation>
     </message>
     <message>
         <source>Please enter the address and port of the proxy server.</source>
@@ -2056,7 +2056,7 @@
     <message>
         <source>Almost Done!</source>
         <extracomment>446 wizard_set_sync_folder_title</extracomment>
-        <translation>Presque terminé !</translation>
+        <translation>Presque terminé&#xa0;!</translation>
     </message>
     <message>
         <source>Copy to %1</source>
@@ -2071,7 +2071,7 @@
     <message>
         <source>No NAS yet? Visit our website to learn more.</source>
         <extracomment>450 wizard_welcome_footer_info</extracomment>
-        <translation>Vous n&apos;avez pas encore de NAS ? Visitez notre site Web pour en savoir plus.</translation>
+        <translation>Vous n&apos;avez pas encore de NAS&#xa0;? Visitez notre site Web pour en savoir plus.</translation>
     </message>
     <message>
         <source>July</source>
@@ -2081,7 +2081,7 @@
     <message>
         <source>Unable to create the folder &quot;%1&quot; on this computer.</source>
         <extracomment>452 wizard_create_local_folder_failed</extracomment>
-        <translation>Impossible de créer le dossier « %1 » sur cet ordinateur.</translation>
+        <translation>Impossible de créer le dossier «&#xa0;%1&#xa0;» sur cet ordinateur.</translation>
     </message>
     <message>
         <source>Service disabled</source>
@@ -2101,7 +2101,7 @@
     <message>
         <source>File edited:</source>
         <extracomment>458 edit</extracomment>
-        <translation>Fichier modifié :</translation>
+        <translation>Fichier modifié&#xa0;:</translation>
     </message>
     <message>
         <source>Start Larkmoor Drive when you sign in to your computer</source>
@@ -2186,7 +2186,7 @@
     <message>
         <source>If a file has been changed both on this computer and on the NAS:</source>
         <extracomment>477 conflict_policy_desc</extracomment>
-        <translation>Si un fichier a été modifié à la fois sur cet ordinateur et sur le NAS :</translation>
+        <translation>Si un fichier a été modifié à la fois sur cet ordinateur et sur le NAS&#xa0;:</translation>
     </message>
     <message>
         <source>Upgrading...</source>
@@ -2256,7 +2256,7 @@
     <message>
         <source>Your quota on the NAS is not large enough to upload &quot;%1&quot;.</source>
         <extracomment>494 msg_quotafull</extracomment>
-        <translation>Votre quota sur le NAS est insuffisant pour envoyer « %1 ».</translation>
+        <translation>Votre quota sur le NAS est insuffisant pour envoyer «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>%1 minute(s) ago</source>
@@ -2276,7 +2276,7 @@
     <message>
         <source>This folder contains, or lies inside, another sync folder. Please choose another one.</source>
         <extracomment>500 wizard_conflict_sync_folder_warning</extracomment>
-        <translation>Ce dossier contient un autre dossier de synchronisation ou se trouve dans l&apos;un d&apos;eux. Veuillez en choisir un autre.</translation>
+        <translation>Ce dossier contient un autre dossier de synchronisation ou est lui-même situé dans un dossier de synchronisation. Veuillez en choisir un autre.</translation>
     </message>
     <message>
         <source>No Thanks</source>
@@ -2311,7 +2311,7 @@
     <message>
         <source>Are you sure you want to unlink this computer from %1?</source>
         <extracomment>508 msg_confirm_unlink</extracomment>
-        <translation>Voulez-vous vraiment dissocier cet ordinateur de %1 ?</translation>
+        <translation>Voulez-vous vraiment dissocier cet ordinateur de %1&#xa0;?</translation>
     </message>
     <message>
         <source>Domain name, IP address or Bridgeway ID</source>

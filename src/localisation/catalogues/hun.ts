@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Kapcsolat leválasztása</translation>
+        <translation>Társított kapcsolat törlése</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -491,7 +491,7 @@
     <message>
         <source>Advanced Setup Wizard</source>
         <extracomment>102 advan_setup_wizard</extracomment>
-        <translation>Speciális beállítás varázsló</translation>
+        <translation>Speciális beállítási varázsló</translation>
     </message>
     <message>
         <source>Do not sync these folders</source>
@@ -926,7 +926,7 @@
     <message>
         <source>Unlink</source>
         <extracomment>190 action_unlink, 338 session_unlink_btn</extracomment>
-        <translation>Leválasztás</translation>
+        <translation>Társítás megszüntetése</translation>
     </message>
     <message>
         <source>SSL Certificate Warning</source>
@@ -1061,7 +1061,7 @@
     <message>
         <source>Do not use a proxy</source>
         <extracomment>217 manage_proxy_chk_no_proxy</extracomment>
-        <translation>Nincs proxy</translation>
+        <translation>Proxy mellőzése</translation>
     </message>
     <message>
         <source>The version of Larkmoor Server on the NAS is too old. Please update it and try again.</source>
@@ -1816,7 +1816,7 @@
     <message>
         <source>Options</source>
         <extracomment>390 manage_option_title</extracomment>
-        <translation>Beállítások</translation>
+        <translation>Lehetőségek</translation>
     </message>
     <message>
         <source>The local sync folder &quot;%1&quot; cannot be found. It may have been moved, renamed or deleted.</source>
@@ -1981,7 +1981,7 @@
     <message>
         <source>Unlinking...</source>
         <extracomment>429 msg_unlinking</extracomment>
-        <translation>Leválasztás...</translation>
+        <translation>Társítás megszüntetése...</translation>
     </message>
     <message>
         <source>Choose what you want to do with the installation.</source>
@@ -2006,7 +2006,7 @@
     <message>
         <source>Global Settings</source>
         <extracomment>434 main_settings</extracomment>
-        <translation>Általános beállítások</translation>
+        <translation>Globális beállítások</translation>
     </message>
     <message>
         <source>Recently updated files</source>
@@ -2311,7 +2311,7 @@
     <message>
         <source>Are you sure you want to unlink this computer from %1?</source>
         <extracomment>508 msg_confirm_unlink</extracomment>
-        <translation>Biztosan leválasztja ezt a számítógépet a következőről: %1?</translation>
+        <translation>Biztosan megszünteti a számítógép társítását a következővel: %1?</translation>
     </message>
     <message>
         <source>Domain name, IP address or Bridgeway ID</source>

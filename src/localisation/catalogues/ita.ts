@@ -226,7 +226,7 @@
     <message>
         <source>%1 hour(s) ago</source>
         <extracomment>44 time_hour_ago</extracomment>
-        <translation>%1 ora/e fa</translation>
+        <translation>%1 h fa</translation>
     </message>
     <message>
         <source>This field cannot be left blank.</source>
@@ -306,7 +306,7 @@
     <message>
         <source>%1 day(s) ago</source>
         <extracomment>60 time_day_ago</extracomment>
-        <translation>%1 giorno/i fa</translation>
+        <translation>%1 gg fa</translation>
     </message>
     <message>
         <source>The port number must be between 1 and 65535.</source>
@@ -416,7 +416,7 @@
     <message>
         <source>Your changes have not been saved. Do you want to discard them?</source>
         <extracomment>85 manage_setting_not_save</extracomment>
-        <translation>Le modifiche non sono state salvate. Ignorare le modifiche?</translation>
+        <translation>Le modifiche non sono state salvate. Scartare le modifiche?</translation>
     </message>
     <message>
         <source>Username</source>
@@ -611,7 +611,7 @@
     <message>
         <source>Your files, wherever you are</source>
         <extracomment>126 msg_slogan</extracomment>
-        <translation>I tuoi file, ovunque</translation>
+        <translation>I file sempre a portata di mano</translation>
     </message>
     <message>
         <source>[DlgTitleFont]License Agreement</source>
@@ -1196,7 +1196,7 @@
     <message>
         <source>%1 item(s)</source>
         <extracomment>247 history_items</extracomment>
-        <translation>%1 elemento/i</translation>
+        <translation>Elementi: %1</translation>
     </message>
     <message>
         <source>&amp;Start [ProductName] now</source>
@@ -1321,7 +1321,7 @@
     <message>
         <source>has been shared with you.</source>
         <extracomment>279 msg_share_bubble_suffix</extracomment>
-        <translation>è stata condivisa con te.</translation>
+        <translation>è stata condivisa con questo account.</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -1871,7 +1871,7 @@
     <message>
         <source>Standby</source>
         <extracomment>401 title_standby</extracomment>
-        <translation>In attesa</translation>
+        <translation>In standby</translation>
     </message>
     <message>
         <source>Done</source>
@@ -2261,7 +2261,7 @@
     <message>
         <source>%1 minute(s) ago</source>
         <extracomment>495 time_minute_ago</extracomment>
-        <translation>%1 minuto/i fa</translation>
+        <translation>%1 min fa</translation>
     </message>
     <message>
         <source>Step %1 of %2</source>
@@ -2276,7 +2276,7 @@
     <message>
         <source>This folder contains, or lies inside, another sync folder. Please choose another one.</source>
         <extracomment>500 wizard_conflict_sync_folder_warning</extracomment>
-        <translation>Questa cartella contiene un&apos;altra cartella di sincronizzazione o si trova al suo interno. Scegliere un&apos;altra cartella.</translation>
+        <translation>Questa cartella contiene un&apos;altra cartella di sincronizzazione o è contenuta in un&apos;altra. Sceglierne una diversa.</translation>
     </message>
     <message>
         <source>No Thanks</source>

@@ -1336,7 +1336,7 @@
     <message>
         <source>Got It</source>
         <extracomment>282 got_it</extracomment>
-        <translation>了解</translation>
+        <translation>わかりました</translation>
     </message>
     <message>
         <source>Remove the installation</source>
@@ -1636,7 +1636,7 @@
     <message>
         <source>Open containing folder</source>
         <extracomment>351 open_contain_folder</extracomment>
-        <translation>保存先のフォルダーを開く</translation>
+        <translation>ファイルのあるフォルダーを開く</translation>
     </message>
     <message>
         <source>Larkmoor Drive is running.</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>異常</translation>
+        <translation>問題があります</translation>
     </message>
     <message>
         <source>Date range</source>

@@ -71,7 +71,7 @@
     <message>
         <source>Sync is enabled for this folder.</source>
         <extracomment>13 share_enabled</extracomment>
-        <translation>이 폴더에 동기화가 설정되어 있습니다.</translation>
+        <translation>이 폴더의 동기화가 켜져 있습니다.</translation>
     </message>
     <message>
         <source>Some fields contain invalid values. Please correct them before you continue.</source>
@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>연결 해제</translation>
+        <translation>연동된 연결 해제</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -271,7 +271,7 @@
     <message>
         <source>This computer is already linked to %1. Linking it to the same NAS again may cause file conflicts. Do you want to continue?</source>
         <extracomment>53 wizard_setup_repeat_warning2</extracomment>
-        <translation>이 컴퓨터는 이미 %1에 연결되어 있습니다. 같은 NAS에 다시 연결하면 파일 충돌이 발생할 수 있습니다. 계속하시겠습니까?</translation>
+        <translation>이 컴퓨터는 이미 %1에 연동되어 있습니다. 같은 NAS에 다시 연동하면 파일 충돌이 발생할 수 있습니다. 계속하시겠습니까?</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -396,12 +396,12 @@
     <message>
         <source>The sync service is disabled for your account. Please contact the NAS administrator.</source>
         <extracomment>81 err_orlaqdisable</extracomment>
-        <translation>사용자 계정에서 동기화 서비스를 사용할 수 없습니다. NAS 관리자에게 문의하십시오.</translation>
+        <translation>사용자 계정의 동기화 서비스가 비활성화되어 있습니다. NAS 관리자에게 문의하십시오.</translation>
     </message>
     <message>
         <source>This is not the NAS that was originally linked. Please check the address or set up a new connection.</source>
         <extracomment>82 err_hb_not_match</extracomment>
-        <translation>처음에 연결했던 NAS가 아닙니다. 주소를 확인하거나 새 연결을 설정하십시오.</translation>
+        <translation>처음에 연동했던 NAS가 아닙니다. 주소를 확인하거나 새 연결을 설정하십시오.</translation>
     </message>
     <message>
         <source>You do not have permission to share this file. Please contact the NAS administrator.</source>
@@ -471,7 +471,7 @@
     <message>
         <source>Link this computer to your NAS in a few clicks. All your files will be synced to a single folder with the recommended settings.</source>
         <extracomment>97 wizard_setup_quick_mode_desc</extracomment>
-        <translation>몇 번의 클릭으로 이 컴퓨터를 NAS에 연결합니다. 모든 파일이 권장 설정으로 하나의 폴더에 동기화됩니다.</translation>
+        <translation>몇 번의 클릭으로 이 컴퓨터를 NAS에 연동합니다. 모든 파일이 권장 설정으로 하나의 폴더에 동기화됩니다.</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>이 주소에서 다른 NAS가 발견되었습니다. 다시 연결하십시오.</translation>
+        <translation>이 주소에서 다른 NAS가 발견되었습니다. 이 컴퓨터를 다시 연동하십시오.</translation>
     </message>
     <message>
         <source>Merge mode</source>
@@ -541,7 +541,7 @@
     <message>
         <source>Everything you put into this folder is synced to your NAS and to all your linked computers.</source>
         <extracomment>112 tutorial_first_desc</extracomment>
-        <translation>이 폴더에 넣은 모든 항목은 NAS 및 연결된 모든 컴퓨터에 동기화됩니다.</translation>
+        <translation>이 폴더에 넣은 모든 항목은 NAS 및 연동된 모든 컴퓨터에 동기화됩니다.</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -596,7 +596,7 @@
     <message>
         <source>The home folder service is disabled on the NAS. Please contact the NAS administrator.</source>
         <extracomment>123 err_user_home_disabled</extracomment>
-        <translation>NAS에서 홈 폴더 서비스를 사용할 수 없습니다. NAS 관리자에게 문의하십시오.</translation>
+        <translation>NAS에서 홈 폴더 서비스가 비활성화되어 있습니다. NAS 관리자에게 문의하십시오.</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Ready to Install [ProductName]</source>
@@ -651,7 +651,7 @@
     <message>
         <source>Linking...</source>
         <extracomment>134 msg_linking, 308 status_desc_linking</extracomment>
-        <translation>연결 중...</translation>
+        <translation>연동 중...</translation>
     </message>
     <message>
         <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
@@ -696,7 +696,7 @@
     <message>
         <source>Unable to enable sync for the folder &quot;%1&quot;. Please try again.</source>
         <extracomment>143 err_share_fail_enable</extracomment>
-        <translation>폴더 &quot;%1&quot;에 동기화를 설정할 수 없습니다. 다시 시도하십시오.</translation>
+        <translation>폴더 &quot;%1&quot;의 동기화를 켤 수 없습니다. 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -886,7 +886,7 @@
     <message>
         <source>Enable sync</source>
         <extracomment>182 manage_share_enable</extracomment>
-        <translation>동기화 사용</translation>
+        <translation>동기화 켜기</translation>
     </message>
     <message>
         <source>You do not have permission to download this file.</source>
@@ -926,7 +926,7 @@
     <message>
         <source>Unlink</source>
         <extracomment>190 action_unlink, 338 session_unlink_btn</extracomment>
-        <translation>연결 해제</translation>
+        <translation>연동 해제</translation>
     </message>
     <message>
         <source>SSL Certificate Warning</source>
@@ -1056,7 +1056,7 @@
     <message>
         <source>This computer is already linked to this NAS.</source>
         <extracomment>216 err_link_same_hb</extracomment>
-        <translation>이 컴퓨터는 이미 이 NAS에 연결되어 있습니다.</translation>
+        <translation>이 컴퓨터는 이미 이 NAS에 연동되어 있습니다.</translation>
     </message>
     <message>
         <source>Do not use a proxy</source>
@@ -1131,7 +1131,7 @@
     <message>
         <source>Sync will be disabled for this folder, and its files will be permantely removed from this computer. The copies on the NAS will be kept.</source>
         <extracomment>231 share_enable_remove_msg</extracomment>
-        <translation>이 폴더의 동기화가 해제되고 폴더의 파일이 이 컴퓨터에서 영구적으로 삭제됩니다. NAS에 있는 사본은 유지됩니다.</translation>
+        <translation>이 폴더의 동기화가 꺼지고 폴더의 파일이 이 컴퓨터에서 영구적으로 삭제됩니다. NAS에 있는 사본은 유지됩니다.</translation>
     </message>
     <message>
         <source>&amp;Ignore</source>
@@ -1281,7 +1281,7 @@
     <message>
         <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
-        <translation>다시 연결</translation>
+        <translation>다시 연동</translation>
     </message>
     <message>
         <source>Set Up Larkmoor Drive</source>
@@ -1321,7 +1321,7 @@
     <message>
         <source>has been shared with you.</source>
         <extracomment>279 msg_share_bubble_suffix</extracomment>
-        <translation>이(가) 사용자와 공유되었습니다.</translation>
+        <translation>이(가) 공유되었습니다.</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -1366,7 +1366,7 @@
     <message>
         <source>This computer is now linked to %1.</source>
         <extracomment>289 wizard_finish_pairing_desc</extracomment>
-        <translation>이제 이 컴퓨터가 %1에 연결되었습니다.</translation>
+        <translation>이제 이 컴퓨터가 %1에 연동되었습니다.</translation>
     </message>
     <message>
         <source>Setup is complete. Your files are being synced.</source>
@@ -1456,7 +1456,7 @@
     <message>
         <source>This computer is already linked to %1. Each connection to the same NAS needs a seperate sync folder.</source>
         <extracomment>310 wizard_setup_repeat_warning</extracomment>
-        <translation>이 컴퓨터는 이미 %1에 연결되어 있습니다. 같은 NAS에 대한 각 연결에는 별도의 동기화 폴더가 필요합니다.</translation>
+        <translation>이 컴퓨터는 이미 %1에 연동되어 있습니다. 같은 NAS에 대한 각 연결에는 별도의 동기화 폴더가 필요합니다.</translation>
     </message>
     <message>
         <source>Remove [ProductName] from this computer.</source>
@@ -1836,7 +1836,7 @@
     <message>
         <source>Link a New NAS</source>
         <extracomment>394 link_new_nas</extracomment>
-        <translation>새 NAS 연결</translation>
+        <translation>새 NAS 연동</translation>
     </message>
     <message>
         <source>{\\DlgFont8}I do not accept the terms of the License Agreement</source>
@@ -1981,7 +1981,7 @@
     <message>
         <source>Unlinking...</source>
         <extracomment>429 msg_unlinking</extracomment>
-        <translation>연결 해제 중...</translation>
+        <translation>연동 해제 중...</translation>
     </message>
     <message>
         <source>Choose what you want to do with the installation.</source>
@@ -2311,7 +2311,7 @@
     <message>
         <source>Are you sure you want to unlink this computer from %1?</source>
         <extracomment>508 msg_confirm_unlink</extracomment>
-        <translation>이 컴퓨터와 %1의 연결을 해제하시겠습니까?</translation>
+        <translation>이 컴퓨터와 %1의 연동을 해제하시겠습니까?</translation>
     </message>
     <message>
         <source>Domain name, IP address or Bridgeway ID</source>

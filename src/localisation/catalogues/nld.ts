@@ -876,7 +876,7 @@
     <message>
         <source>The volume that holds the sync folder &quot;%1&quot; is not mounted. Please mount it to resume syncing.</source>
         <extracomment>180 err_syncfolder_not_mounted</extracomment>
-        <translation>Het volume met de synchronisatiemap “%1” is niet aangekoppeld. Koppel het aan om de synchronisatie te hervatten.</translation>
+        <translation>Het volume met de synchronisatiemap “%1” is niet gemount. Mount het om de synchronisatie te hervatten.</translation>
     </message>
     <message>
         <source>Use the system proxy settings</source>
@@ -1316,7 +1316,7 @@
     <message>
         <source>A mount point cannot be used as a sync folder. Please choose another one.</source>
         <extracomment>278 msg_folder_mount_point</extracomment>
-        <translation>Een koppelpunt kan niet als synchronisatiemap worden gebruikt. Kies een andere map.</translation>
+        <translation>Een mountpunt kan niet als synchronisatiemap worden gebruikt. Kies een andere map.</translation>
     </message>
     <message>
         <source>has been shared with you.</source>
@@ -1566,7 +1566,7 @@
     <message>
         <source>The shared folder &quot;%1&quot; is not mounted on the NAS.</source>
         <extracomment>332 err_share_not_mounted</extracomment>
-        <translation>De gedeelde map “%1” is niet aangekoppeld op de NAS.</translation>
+        <translation>De gedeelde map “%1” is niet gemount op de NAS.</translation>
     </message>
     <message>
         <source>This wizard will install [ProductName] on your computer. Click Next to continue or Cancel to exit the Setup Wizard.</source>
@@ -1636,7 +1636,7 @@
     <message>
         <source>Open containing folder</source>
         <extracomment>351 open_contain_folder</extracomment>
-        <translation>Bovenliggende map openen</translation>
+        <translation>Map met het bestand openen</translation>
     </message>
     <message>
         <source>Larkmoor Drive is running.</source>
@@ -1771,7 +1771,7 @@
     <message>
         <source>Unable to sign in. Please check your username and password.</source>
         <extracomment>381 err_auth</extracomment>
-        <translation>Kan niet aanmelden. Controleer uw gebruikersnaam en wachtwoord.</translation>
+        <translation>Aanmelden is mislukt. Controleer uw gebruikersnaam en wachtwoord.</translation>
     </message>
     <message>
         <source>To</source>
@@ -2036,7 +2036,7 @@
     <message>
         <source>The volume on the NAS is not mounted. Please contact the NAS administrator.</source>
         <extracomment>440 err_remote_not_mounted</extracomment>
-        <translation>Het volume op de NAS is niet aangekoppeld. Neem contact op met de NAS-beheerder.</translation>
+        <translation>Het volume op de NAS is niet gemount. Neem contact op met de NAS-beheerder.</translation>
     </message>
     <message>
         <source>Please enter the address and port of the proxy server.</source>
@@ -2121,7 +2121,7 @@
     <message>
         <source>Uninstall</source>
         <extracomment>463 msi_maintenance_dlg_remove_label</extracomment>
-        <translation>Verwijderen</translation>
+        <translation>Installatie verwijderen</translation>
     </message>
     <message>
         <source>[DlgTitleFont]Setting Up [ProductName]</source>
@@ -2211,7 +2211,7 @@
     <message>
         <source>Mount points are not supported</source>
         <extracomment>483 err_share_mountpt_short</extracomment>
-        <translation>Koppelpunten worden niet ondersteund</translation>
+        <translation>Mountpunten worden niet ondersteund</translation>
     </message>
     <message>
         <source>Copyright (c) %1 Larkmoor. All rights reserved.</source>
@@ -2276,7 +2276,7 @@
     <message>
         <source>This folder contains, or lies inside, another sync folder. Please choose another one.</source>
         <extracomment>500 wizard_conflict_sync_folder_warning</extracomment>
-        <translation>Deze map bevat een andere synchronisatiemap of bevindt zich daarin. Kies een andere map.</translation>
+        <translation>Deze map bevat een andere synchronisatiemap of bevindt zich in een andere synchronisatiemap. Kies een andere map.</translation>
     </message>
     <message>
         <source>No Thanks</source>

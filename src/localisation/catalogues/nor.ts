@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Fjern tilkoblingens tilknytning</translation>
+        <translation>Fjern tilknyttet tilkobling</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -316,7 +316,7 @@
     <message>
         <source>Sync History</source>
         <extracomment>62 history_page_title</extracomment>
-        <translation>Synkroniseringslogg</translation>
+        <translation>Synkroniseringshistorikk</translation>
     </message>
     <message>
         <source>Edit Connection</source>
@@ -341,7 +341,7 @@
     <message>
         <source>The folders that you have deselected will be permantely removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <extracomment>67 selective_sync_remove_msg</extracomment>
-        <translation>Mappene du har fjernet merkingen for, fjernes permanent fra denne datamaskinen. Kopiene på NAS-enheten beholdes. Vil du fortsette?</translation>
+        <translation>Mappene du har valgt bort, fjernes permanent fra denne datamaskinen. Kopiene på NAS-enheten beholdes. Vil du fortsette?</translation>
     </message>
     <message>
         <source>Selective Sync</source>
@@ -1081,7 +1081,7 @@
     <message>
         <source>Download History</source>
         <extracomment>221 main_download_history</extracomment>
-        <translation>Nedlastingslogg</translation>
+        <translation>Nedlastingshistorikk</translation>
     </message>
     <message>
         <source>Show sync status icons on files and folders</source>
@@ -1296,7 +1296,7 @@
     <message>
         <source>Trust and Continue</source>
         <extracomment>270 btn_ssl_continue</extracomment>
-        <translation>Stol på og fortsett</translation>
+        <translation>Godkjenn og fortsett</translation>
     </message>
     <message>
         <source>Choose the folder on this computer that you want to sync.</source>
@@ -1636,7 +1636,7 @@
     <message>
         <source>Open containing folder</source>
         <extracomment>351 open_contain_folder</extracomment>
-        <translation>Åpne overordnet mappe</translation>
+        <translation>Åpne mappen med filen</translation>
     </message>
     <message>
         <source>Larkmoor Drive is running.</source>
@@ -1891,7 +1891,7 @@
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
         <extracomment>405 tutorial_fourth_desc</extracomment>
-        <translation>Klikk på ikonet i systemstatusfeltet for å sette synkroniseringen på pause, vise synkroniseringsloggen eller endre innstillingene.</translation>
+        <translation>Klikk på ikonet i systemstatusfeltet for å sette synkroniseringen på pause, vise synkroniseringshistorikken eller endre innstillingene.</translation>
     </message>
     <message>
         <source>Connected successfully.</source>
@@ -2351,7 +2351,7 @@
     <message>
         <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
-        <translation>&amp;Ikke lukk programmene (en omstart vil være nødvendig)</translation>
+        <translation>I&amp;kke lukk programmene (en omstart av datamaskinen vil være nødvendig)</translation>
     </message>
     <message>
         <source>Larkmoor Drive is ready.</source>

@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Usuń połączenie</translation>
+        <translation>Usuń powiązane połączenie</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -271,7 +271,7 @@
     <message>
         <source>This computer is already linked to %1. Linking it to the same NAS again may cause file conflicts. Do you want to continue?</source>
         <extracomment>53 wizard_setup_repeat_warning2</extracomment>
-        <translation>Ten komputer jest już połączony z serwerem %1. Ponowne połączenie go z tym samym serwerem NAS może spowodować konflikty plików. Czy chcesz kontynuować?</translation>
+        <translation>Ten komputer jest już powiązany z serwerem %1. Ponowne powiązanie go z tym samym serwerem NAS może spowodować konflikty plików. Czy chcesz kontynuować?</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -306,7 +306,7 @@
     <message>
         <source>%1 day(s) ago</source>
         <extracomment>60 time_day_ago</extracomment>
-        <translation>%1 dzień/dni temu</translation>
+        <translation>%1 dn. temu</translation>
     </message>
     <message>
         <source>The port number must be between 1 and 65535.</source>
@@ -401,7 +401,7 @@
     <message>
         <source>This is not the NAS that was originally linked. Please check the address or set up a new connection.</source>
         <extracomment>82 err_hb_not_match</extracomment>
-        <translation>To nie jest serwer NAS, z którym pierwotnie nawiązano połączenie. Sprawdź adres lub skonfiguruj nowe połączenie.</translation>
+        <translation>To nie jest serwer NAS, z którym pierwotnie powiązano ten komputer. Sprawdź adres lub skonfiguruj nowe połączenie.</translation>
     </message>
     <message>
         <source>You do not have permission to share this file. Please contact the NAS administrator.</source>
@@ -471,7 +471,7 @@
     <message>
         <source>Link this computer to your NAS in a few clicks. All your files will be synced to a single folder with the recommended settings.</source>
         <extracomment>97 wizard_setup_quick_mode_desc</extracomment>
-        <translation>Połącz ten komputer z serwerem NAS za pomocą kilku kliknięć. Wszystkie pliki będą synchronizowane z jednym folderem przy użyciu zalecanych ustawień.</translation>
+        <translation>Powiąż ten komputer z serwerem NAS za pomocą kilku kliknięć. Wszystkie pliki będą synchronizowane z jednym folderem przy użyciu zalecanych ustawień.</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -501,7 +501,7 @@
     <message>
         <source>A new version of Larkmoor Drive is available. Click here to update.</source>
         <extracomment>104 tray_click_to_update</extracomment>
-        <translation>Dostępna jest nowa wersja aplikacji Larkmoor Drive. Kliknij tutaj, aby ją zaktualizować.</translation>
+        <translation>Dostępna jest nowa wersja aplikacji Larkmoor Drive. Kliknij tutaj, aby zaktualizować.</translation>
     </message>
     <message>
         <source>A newer version of Larkmoor Drive is already installed. To install this version, please uninstall the current version first.</source>
@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>Pod tym adresem znaleziono inny serwer NAS. Połącz się z nim ponownie.</translation>
+        <translation>Pod tym adresem znaleziono inny serwer NAS. Powiąż ten komputer ponownie.</translation>
     </message>
     <message>
         <source>Merge mode</source>
@@ -541,7 +541,7 @@
     <message>
         <source>Everything you put into this folder is synced to your NAS and to all your linked computers.</source>
         <extracomment>112 tutorial_first_desc</extracomment>
-        <translation>Wszystko, co umieścisz w tym folderze, jest synchronizowane z serwerem NAS i wszystkimi połączonymi komputerami.</translation>
+        <translation>Wszystko, co umieścisz w tym folderze, jest synchronizowane z serwerem NAS i wszystkimi powiązanymi komputerami.</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -651,7 +651,7 @@
     <message>
         <source>Linking...</source>
         <extracomment>134 msg_linking, 308 status_desc_linking</extracomment>
-        <translation>Łączenie...</translation>
+        <translation>Tworzenie powiązania...</translation>
     </message>
     <message>
         <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
@@ -926,7 +926,7 @@
     <message>
         <source>Unlink</source>
         <extracomment>190 action_unlink, 338 session_unlink_btn</extracomment>
-        <translation>Odłącz</translation>
+        <translation>Usuń powiązanie</translation>
     </message>
     <message>
         <source>SSL Certificate Warning</source>
@@ -956,7 +956,7 @@
     <message>
         <source>Exit</source>
         <extracomment>196 tray_exit</extracomment>
-        <translation>Zakończ</translation>
+        <translation>Zamknij</translation>
     </message>
     <message>
         <source>Please confirm the folders to be synced.</source>
@@ -1056,7 +1056,7 @@
     <message>
         <source>This computer is already linked to this NAS.</source>
         <extracomment>216 err_link_same_hb</extracomment>
-        <translation>Ten komputer jest już połączony z tym serwerem NAS.</translation>
+        <translation>Ten komputer jest już powiązany z tym serwerem NAS.</translation>
     </message>
     <message>
         <source>Do not use a proxy</source>
@@ -1281,7 +1281,7 @@
     <message>
         <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
-        <translation>Połącz ponownie</translation>
+        <translation>Powiąż ponownie</translation>
     </message>
     <message>
         <source>Set Up Larkmoor Drive</source>
@@ -1366,7 +1366,7 @@
     <message>
         <source>This computer is now linked to %1.</source>
         <extracomment>289 wizard_finish_pairing_desc</extracomment>
-        <translation>Ten komputer jest teraz połączony z serwerem %1.</translation>
+        <translation>Ten komputer jest teraz powiązany z serwerem %1.</translation>
     </message>
     <message>
         <source>Setup is complete. Your files are being synced.</source>
@@ -1456,7 +1456,7 @@
     <message>
         <source>This computer is already linked to %1. Each connection to the same NAS needs a seperate sync folder.</source>
         <extracomment>310 wizard_setup_repeat_warning</extracomment>
-        <translation>Ten komputer jest już połączony z serwerem %1. Każde połączenie z tym samym serwerem NAS wymaga osobnego folderu synchronizacji.</translation>
+        <translation>Ten komputer jest już powiązany z serwerem %1. Każde połączenie z tym samym serwerem NAS wymaga osobnego folderu synchronizacji.</translation>
     </message>
     <message>
         <source>Remove [ProductName] from this computer.</source>
@@ -1836,7 +1836,7 @@
     <message>
         <source>Link a New NAS</source>
         <extracomment>394 link_new_nas</extracomment>
-        <translation>Połącz z nowym serwerem NAS</translation>
+        <translation>Powiąż z nowym serwerem NAS</translation>
     </message>
     <message>
         <source>{\\DlgFont8}I do not accept the terms of the License Agreement</source>
@@ -1981,7 +1981,7 @@
     <message>
         <source>Unlinking...</source>
         <extracomment>429 msg_unlinking</extracomment>
-        <translation>Odłączanie...</translation>
+        <translation>Usuwanie powiązania...</translation>
     </message>
     <message>
         <source>Choose what you want to do with the installation.</source>
@@ -2106,7 +2106,7 @@
     <message>
         <source>Start Larkmoor Drive when you sign in to your computer</source>
         <extracomment>459 manage_option_enable_startup</extracomment>
-        <translation>Uruchamiaj aplikację Larkmoor Drive po zalogowaniu do komputera</translation>
+        <translation>Uruchamiaj aplikację Larkmoor Drive po zalogowaniu się do komputera</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -2276,7 +2276,7 @@
     <message>
         <source>This folder contains, or lies inside, another sync folder. Please choose another one.</source>
         <extracomment>500 wizard_conflict_sync_folder_warning</extracomment>
-        <translation>Ten folder zawiera inny folder synchronizacji lub znajduje się w jego obrębie. Wybierz inny.</translation>
+        <translation>Ten folder zawiera folder synchronizacji lub sam znajduje się w takim folderze. Wybierz inny.</translation>
     </message>
     <message>
         <source>No Thanks</source>
@@ -2311,7 +2311,7 @@
     <message>
         <source>Are you sure you want to unlink this computer from %1?</source>
         <extracomment>508 msg_confirm_unlink</extracomment>
-        <translation>Czy na pewno chcesz odłączyć ten komputer od serwera %1?</translation>
+        <translation>Czy na pewno chcesz usunąć powiązanie tego komputera z serwerem %1?</translation>
     </message>
     <message>
         <source>Domain name, IP address or Bridgeway ID</source>

@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>Um NAS diferente foi encontrado neste endereço. Vincule-o novamente.</translation>
+        <translation>Um NAS diferente foi encontrado neste endereço. Vincule este computador novamente.</translation>
     </message>
     <message>
         <source>Merge mode</source>
@@ -921,7 +921,7 @@
     <message>
         <source>%1 upgrade failed (error code: %2).</source>
         <extracomment>189 wizard_client_upgrade_failed</extracomment>
-        <translation>Falha na atualização de %1 (código do erro: %2).</translation>
+        <translation>Falha na atualização do %1 (código do erro: %2).</translation>
     </message>
     <message>
         <source>Unlink</source>
@@ -966,7 +966,7 @@
     <message>
         <source>Welcome!</source>
         <extracomment>198 msg_welcome</extracomment>
-        <translation>Bem-vindo!</translation>
+        <translation>Boas-vindas!</translation>
     </message>
     <message>
         <source>Choose a Folder</source>

@@ -21,7 +21,7 @@
     <message>
         <source>Choose the folders, sync direction and file filters yourself (recommended for experienced users)&#x200b;.</source>
         <extracomment>3 wizard_setup_advan_mode_desc</extracomment>
-        <translation>Escolha as pastas, o sentido da sincronização e os filtros de ficheiros (recomendado para utilizadores experientes).</translation>
+        <translation>Escolha pessoalmente as pastas, o sentido da sincronização e os filtros de ficheiros (recomendado para utilizadores experientes).</translation>
     </message>
     <message>
         <source>From</source>
@@ -211,12 +211,12 @@
     <message>
         <source>Pause Connection</source>
         <extracomment>41 pause_connection</extracomment>
-        <translation>Colocar ligação em pausa</translation>
+        <translation>Pausar ligação</translation>
     </message>
     <message>
         <source>The text cannot be longer than %1 characters.</source>
         <extracomment>42 common_maxlengthtext</extracomment>
-        <translation>O texto não pode ter mais de %1 carateres.</translation>
+        <translation>O texto não pode ter mais de %1 caracteres.</translation>
     </message>
     <message>
         <source>Error</source>
@@ -341,7 +341,7 @@
     <message>
         <source>The folders that you have deselected will be permantely removed from this computer. The copies on the NAS will be kept. Do you want to continue?</source>
         <extracomment>67 selective_sync_remove_msg</extracomment>
-        <translation>As pastas cuja seleção anulou serão removidas permanentemente deste computador. As cópias no NAS serão mantidas. Pretende continuar?</translation>
+        <translation>As pastas que desmarcou serão removidas permanentemente deste computador. As cópias no NAS serão mantidas. Pretende continuar?</translation>
     </message>
     <message>
         <source>Selective Sync</source>
@@ -921,7 +921,7 @@
     <message>
         <source>%1 upgrade failed (error code: %2).</source>
         <extracomment>189 wizard_client_upgrade_failed</extracomment>
-        <translation>Falha na atualização de %1 (código de erro: %2).</translation>
+        <translation>Falha na atualização da %1 (código de erro: %2).</translation>
     </message>
     <message>
         <source>Unlink</source>
@@ -1266,7 +1266,7 @@
     <message>
         <source>Pause</source>
         <extracomment>263 session_pause_btn, 364 tray_pause</extracomment>
-        <translation>Colocar em pausa</translation>
+        <translation>Pausar</translation>
     </message>
     <message>
         <source>The icons on your files and folders show whether they are up to date, syncing or not synced.</source>
@@ -1576,7 +1576,7 @@
     <message>
         <source>Disconnected from the NAS. Trying to reconnect...</source>
         <extracomment>334 err_disconn</extracomment>
-        <translation>Desligado do NAS. A tentar restabelecer a ligação...</translation>
+        <translation>Sem ligação ao NAS. A tentar restabelecer a ligação...</translation>
     </message>
     <message>
         <source>Apply</source>

@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Разорвать связь</translation>
+        <translation>Разорвать связь с NAS</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>Подождите, пока мастер установки выполнит необходимые действия с [ProductName]. Это может занять несколько минут.</translation>
+        <translation>Подождите, пока мастер установки настраивает [ProductName]. Это может занять несколько минут.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -2006,7 +2006,7 @@
     <message>
         <source>Global Settings</source>
         <extracomment>434 main_settings</extracomment>
-        <translation>Общие настройки</translation>
+        <translation>Глобальные настройки</translation>
     </message>
     <message>
         <source>Recently updated files</source>
@@ -2276,7 +2276,7 @@
     <message>
         <source>This folder contains, or lies inside, another sync folder. Please choose another one.</source>
         <extracomment>500 wizard_conflict_sync_folder_warning</extracomment>
-        <translation>Эта папка содержит другую папку синхронизации или находится внутри нее. Выберите другую папку.</translation>
+        <translation>Эта папка содержит папку синхронизации или сама находится внутри такой папки. Выберите другую.</translation>
     </message>
     <message>
         <source>No Thanks</source>

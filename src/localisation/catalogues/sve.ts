@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Avlänka anslutning</translation>
+        <translation>Ta bort länkad anslutning</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -926,7 +926,7 @@
     <message>
         <source>Unlink</source>
         <extracomment>190 action_unlink, 338 session_unlink_btn</extracomment>
-        <translation>Avlänka</translation>
+        <translation>Ta bort länk</translation>
     </message>
     <message>
         <source>SSL Certificate Warning</source>
@@ -1296,7 +1296,7 @@
     <message>
         <source>Trust and Continue</source>
         <extracomment>270 btn_ssl_continue</extracomment>
-        <translation>Lita på och fortsätt</translation>
+        <translation>Godkänn och fortsätt</translation>
     </message>
     <message>
         <source>Choose the folder on this computer that you want to sync.</source>
@@ -1806,7 +1806,7 @@
     <message>
         <source>See the Status at a Glance</source>
         <extracomment>388 tutorial_second_title</extracomment>
-        <translation>Se statusen med en enda blick</translation>
+        <translation>Statusen i en blick</translation>
     </message>
     <message>
         <source>Proxy</source>
@@ -1981,7 +1981,7 @@
     <message>
         <source>Unlinking...</source>
         <extracomment>429 msg_unlinking</extracomment>
-        <translation>Avlänkar...</translation>
+        <translation>Tar bort länken...</translation>
     </message>
     <message>
         <source>Choose what you want to do with the installation.</source>
@@ -2311,7 +2311,7 @@
     <message>
         <source>Are you sure you want to unlink this computer from %1?</source>
         <extracomment>508 msg_confirm_unlink</extracomment>
-        <translation>Vill du verkligen avlänka den här datorn från %1?</translation>
+        <translation>Vill du verkligen ta bort länken mellan den här datorn och %1?</translation>
     </message>
     <message>
         <source>Domain name, IP address or Bridgeway ID</source>
@@ -2351,7 +2351,7 @@
     <message>
         <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
-        <translation>Stäng &amp;inte programmen (en omstart kommer att krävas)</translation>
+        <translation>Stäng i&amp;nte programmen (en omstart av datorn kommer att krävas)</translation>
     </message>
     <message>
         <source>Larkmoor Drive is ready.</source>

@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Bağlantıyı Kaldır</translation>
+        <translation>İlişkili Bağlantıyı Kaldır</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -271,7 +271,7 @@
     <message>
         <source>This computer is already linked to %1. Linking it to the same NAS again may cause file conflicts. Do you want to continue?</source>
         <extracomment>53 wizard_setup_repeat_warning2</extracomment>
-        <translation>Bu bilgisayar zaten %1 cihazına bağlı. Aynı NAS cihazına yeniden bağlamak dosya çakışmalarına yol açabilir. Devam etmek istiyor musunuz?</translation>
+        <translation>Bu bilgisayar zaten %1 cihazıyla ilişkilendirilmiş. Aynı NAS cihazıyla yeniden ilişkilendirmek dosya çakışmalarına yol açabilir. Devam etmek istiyor musunuz?</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -401,7 +401,7 @@
     <message>
         <source>This is not the NAS that was originally linked. Please check the address or set up a new connection.</source>
         <extracomment>82 err_hb_not_match</extracomment>
-        <translation>Bu, başlangıçta bağlanan NAS cihazı değil. Lütfen adresi denetleyin veya yeni bir bağlantı kurun.</translation>
+        <translation>Bu, başlangıçta ilişkilendirilen NAS cihazı değil. Lütfen adresi denetleyin veya yeni bir bağlantı kurun.</translation>
     </message>
     <message>
         <source>You do not have permission to share this file. Please contact the NAS administrator.</source>
@@ -416,7 +416,7 @@
     <message>
         <source>Your changes have not been saved. Do you want to discard them?</source>
         <extracomment>85 manage_setting_not_save</extracomment>
-        <translation>Değişiklikleriniz kaydedilmedi. Bunlardan vazgeçmek istiyor musunuz?</translation>
+        <translation>Değişiklikleriniz kaydedilmedi. Bunları atmak istiyor musunuz?</translation>
     </message>
     <message>
         <source>Username</source>
@@ -471,7 +471,7 @@
     <message>
         <source>Link this computer to your NAS in a few clicks. All your files will be synced to a single folder with the recommended settings.</source>
         <extracomment>97 wizard_setup_quick_mode_desc</extracomment>
-        <translation>Bu bilgisayarı birkaç tıklamayla NAS cihazınıza bağlayın. Tüm dosyalarınız önerilen ayarlarla tek bir klasöre eşitlenecek.</translation>
+        <translation>Bu bilgisayarı birkaç tıklamayla NAS cihazınızla ilişkilendirin. Tüm dosyalarınız önerilen ayarlarla tek bir klasöre eşitlenecek.</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>Bu adreste farklı bir NAS cihazı bulundu. Lütfen bu cihazla yeniden bağlantı kurun.</translation>
+        <translation>Bu adreste farklı bir NAS cihazı bulundu. Lütfen bu bilgisayarı yeniden ilişkilendirin.</translation>
     </message>
     <message>
         <source>Merge mode</source>
@@ -541,7 +541,7 @@
     <message>
         <source>Everything you put into this folder is synced to your NAS and to all your linked computers.</source>
         <extracomment>112 tutorial_first_desc</extracomment>
-        <translation>Bu klasöre koyduğunuz her şey NAS cihazınızla ve bağlı tüm bilgisayarlarınızla eşitlenir.</translation>
+        <translation>Bu klasöre koyduğunuz her şey NAS cihazınızla ve ilişkilendirilmiş tüm bilgisayarlarınızla eşitlenir.</translation>
     </message>
     <message>
         <source>Connection mode</source>
@@ -621,7 +621,7 @@
     <message>
         <source>Get link</source>
         <extracomment>128 context_menu_share_link</extracomment>
-        <translation>Bağlantı al</translation>
+        <translation>Paylaşım bağlantısını al</translation>
     </message>
     <message>
         <source>Valid from</source>
@@ -651,7 +651,7 @@
     <message>
         <source>Linking...</source>
         <extracomment>134 msg_linking, 308 status_desc_linking</extracomment>
-        <translation>Bağlanıyor...</translation>
+        <translation>İlişkilendiriliyor...</translation>
     </message>
     <message>
         <source>[ProductName] could not be installed because an error occurred. No changes have been made to your computer. To try again later, please run the installer again.</source>
@@ -926,7 +926,7 @@
     <message>
         <source>Unlink</source>
         <extracomment>190 action_unlink, 338 session_unlink_btn</extracomment>
-        <translation>Bağlantıyı Kaldır</translation>
+        <translation>İlişkiyi Kaldır</translation>
     </message>
     <message>
         <source>SSL Certificate Warning</source>
@@ -1056,7 +1056,7 @@
     <message>
         <source>This computer is already linked to this NAS.</source>
         <extracomment>216 err_link_same_hb</extracomment>
-        <translation>Bu bilgisayar zaten bu NAS cihazına bağlı.</translation>
+        <translation>Bu bilgisayar zaten bu NAS cihazıyla ilişkilendirilmiş.</translation>
     </message>
     <message>
         <source>Do not use a proxy</source>
@@ -1281,7 +1281,7 @@
     <message>
         <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
-        <translation>Yeniden Bağla</translation>
+        <translation>Yeniden İlişkilendir</translation>
     </message>
     <message>
         <source>Set Up Larkmoor Drive</source>
@@ -1346,12 +1346,12 @@
     <message>
         <source>Right-click a file and choose Get link to share it with others.</source>
         <extracomment>284 tutorial_third_desc</extracomment>
-        <translation>Bir dosyayı başkalarıyla paylaşmak için dosyaya sağ tıklayıp Bağlantı al seçeneğini belirleyin.</translation>
+        <translation>Bir dosyayı başkalarıyla paylaşmak için dosyaya sağ tıklayıp Paylaşım bağlantısını al seçeneğini belirleyin.</translation>
     </message>
     <message>
         <source>Continue</source>
         <extracomment>286 btn_continue</extracomment>
-        <translation>Devam</translation>
+        <translation>Devam Et</translation>
     </message>
     <message>
         <source>The verification code is incorrect. Please try again.</source>
@@ -1366,7 +1366,7 @@
     <message>
         <source>This computer is now linked to %1.</source>
         <extracomment>289 wizard_finish_pairing_desc</extracomment>
-        <translation>Bu bilgisayar artık %1 cihazına bağlı.</translation>
+        <translation>Bu bilgisayar artık %1 cihazıyla ilişkilendirildi.</translation>
     </message>
     <message>
         <source>Setup is complete. Your files are being synced.</source>
@@ -1456,7 +1456,7 @@
     <message>
         <source>This computer is already linked to %1. Each connection to the same NAS needs a seperate sync folder.</source>
         <extracomment>310 wizard_setup_repeat_warning</extracomment>
-        <translation>Bu bilgisayar zaten %1 cihazına bağlı. Aynı NAS cihazına yapılan her bağlantı için ayrı bir eşitleme klasörü gerekir.</translation>
+        <translation>Bu bilgisayar zaten %1 cihazıyla ilişkilendirilmiş. Aynı NAS cihazına yapılan her bağlantı için ayrı bir eşitleme klasörü gerekir.</translation>
     </message>
     <message>
         <source>Remove [ProductName] from this computer.</source>
@@ -1606,7 +1606,7 @@
     <message>
         <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
-        <translation>Bağlantı paylaşma izniniz yok.</translation>
+        <translation>Paylaşım bağlantısı oluşturma izniniz yok.</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1836,7 +1836,7 @@
     <message>
         <source>Link a New NAS</source>
         <extracomment>394 link_new_nas</extracomment>
-        <translation>Yeni Bir NAS Cihazı Bağla</translation>
+        <translation>Yeni Bir NAS Cihazı İlişkilendir</translation>
     </message>
     <message>
         <source>{\\DlgFont8}I do not accept the terms of the License Agreement</source>
@@ -1981,7 +1981,7 @@
     <message>
         <source>Unlinking...</source>
         <extracomment>429 msg_unlinking</extracomment>
-        <translation>Bağlantı kaldırılıyor...</translation>
+        <translation>İlişki kaldırılıyor...</translation>
     </message>
     <message>
         <source>Choose what you want to do with the installation.</source>
@@ -2276,7 +2276,7 @@
     <message>
         <source>This folder contains, or lies inside, another sync folder. Please choose another one.</source>
         <extracomment>500 wizard_conflict_sync_folder_warning</extracomment>
-        <translation>Bu klasör başka bir eşitleme klasörünü içeriyor veya onun içinde yer alıyor. Lütfen başka bir klasör seçin.</translation>
+        <translation>Bu klasör başka bir eşitleme klasörünü içeriyor veya başka bir eşitleme klasörünün içinde yer alıyor. Lütfen başka bir klasör seçin.</translation>
     </message>
     <message>
         <source>No Thanks</source>
@@ -2311,7 +2311,7 @@
     <message>
         <source>Are you sure you want to unlink this computer from %1?</source>
         <extracomment>508 msg_confirm_unlink</extracomment>
-        <translation>Bu bilgisayarın %1 cihazıyla bağlantısını kaldırmak istediğinizden emin misiniz?</translation>
+        <translation>Bu bilgisayarın %1 cihazıyla ilişkisini kaldırmak istediğinizden emin misiniz?</translation>
     </message>
     <message>
         <source>Domain name, IP address or Bridgeway ID</source>
