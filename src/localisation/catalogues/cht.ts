@@ -481,7 +481,7 @@
     <message>
         <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
-        <translation>同步模式</translation>
+        <translation>同步方向</translation>
     </message>
     <message>
         <source>Add a sync folder to an existing connection</source>
@@ -1606,7 +1606,7 @@
     <message>
         <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
-        <translation>您沒有分享連結的權限。</translation>
+        <translation>您沒有建立分享連結的權限。</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>下列應用程式正在使用需要更新的檔案。請關閉這些應用程式並按「重試」繼續，或按「取消」結束。</translation>
+        <translation>下列應用程式正在使用需要更新的檔案。請關閉這些應用程式並按「重試」繼續，或按「結束」來中止安裝。</translation>
     </message>
     <message>
         <source>November</source>
@@ -2016,7 +2016,7 @@
     <message>
         <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
-        <translation>NAS 已更換</translation>
+        <translation>NAS 已更換。</translation>
     </message>
     <message>
         <source>Add a sync folder on another NAS</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>異常</translation>
+        <translation>需要注意</translation>
     </message>
     <message>
         <source>Date range</source>
@@ -2281,7 +2281,7 @@
     <message>
         <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
-        <translation>暫時不要</translation>
+        <translation>不用了</translation>
     </message>
     <message>
         <source>Choose a Sync Direction</source>

@@ -481,7 +481,7 @@
     <message>
         <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
-        <translation>Režim synchronizace</translation>
+        <translation>Směr synchronizace</translation>
     </message>
     <message>
         <source>Add a sync folder to an existing connection</source>
@@ -1606,7 +1606,7 @@
     <message>
         <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
-        <translation>Nemáte oprávnění sdílet odkazy.</translation>
+        <translation>Nemáte oprávnění vytvářet odkazy pro sdílení.</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>Následující aplikace používají soubory, které je třeba aktualizovat. Zavřete je a pokračujte kliknutím na tlačítko Opakovat, nebo instalaci ukončete tlačítkem Zrušit.</translation>
+        <translation>Následující aplikace používají soubory, které je třeba aktualizovat. Zavřete je a pokračujte kliknutím na tlačítko Opakovat, nebo instalaci ukončete tlačítkem Ukončit.</translation>
     </message>
     <message>
         <source>November</source>
@@ -2016,7 +2016,7 @@
     <message>
         <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
-        <translation>Zařízení NAS bylo vyměněno</translation>
+        <translation>Zařízení NAS bylo vyměněno.</translation>
     </message>
     <message>
         <source>Add a sync folder on another NAS</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>Neobvyklý stav</translation>
+        <translation>Vyžaduje pozornost</translation>
     </message>
     <message>
         <source>Date range</source>
@@ -2281,7 +2281,7 @@
     <message>
         <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
-        <translation>Nyní ne</translation>
+        <translation>Ne, děkuji</translation>
     </message>
     <message>
         <source>Choose a Sync Direction</source>

@@ -481,7 +481,7 @@
     <message>
         <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
-        <translation>Synchronisierungsmodus</translation>
+        <translation>Synchronisierungsrichtung</translation>
     </message>
     <message>
         <source>Add a sync folder to an existing connection</source>
@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>Die folgenden Anwendungen verwenden Dateien, die aktualisiert werden müssen. Schließen Sie diese und klicken Sie auf „Wiederholen“, um fortzufahren, oder klicken Sie auf „Abbrechen“, um den Vorgang zu beenden.</translation>
+        <translation>Die folgenden Anwendungen verwenden Dateien, die aktualisiert werden müssen. Schließen Sie diese und klicken Sie auf „Wiederholen“, um fortzufahren, oder klicken Sie auf „Beenden“, um die Installation zu beenden.</translation>
     </message>
     <message>
         <source>November</source>
@@ -2016,7 +2016,7 @@
     <message>
         <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
-        <translation>Das NAS wurde ausgetauscht</translation>
+        <translation>Das NAS wurde ausgetauscht.</translation>
     </message>
     <message>
         <source>Add a sync folder on another NAS</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>Gestört</translation>
+        <translation>Aktion erforderlich</translation>
     </message>
     <message>
         <source>Date range</source>
@@ -2281,7 +2281,7 @@
     <message>
         <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
-        <translation>Nicht jetzt</translation>
+        <translation>Nein danke</translation>
     </message>
     <message>
         <source>Choose a Sync Direction</source>
@@ -2351,7 +2351,7 @@
     <message>
         <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
-        <translation>Anwendungen &amp;nicht schließen (ein Neustart ist erforderlich)</translation>
+        <translation>Anwendungen &amp;nicht schließen (ein Neustart des Computers ist erforderlich)</translation>
     </message>
     <message>
         <source>Larkmoor Drive is ready.</source>

@@ -481,7 +481,7 @@
     <message>
         <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
-        <translation>Mode de synchronisation</translation>
+        <translation>Sens de synchronisation</translation>
     </message>
     <message>
         <source>Add a sync folder to an existing connection</source>
@@ -1606,7 +1606,7 @@
     <message>
         <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
-        <translation>Vous n&apos;êtes pas autorisé à partager des liens.</translation>
+        <translation>Vous n&apos;êtes pas autorisé à créer des liens de partage.</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>Les applications suivantes utilisent des fichiers qui doivent être mis à jour. Fermez-les et cliquez sur Réessayer pour continuer, ou cliquez sur Annuler pour quitter.</translation>
+        <translation>Les applications suivantes utilisent des fichiers qui doivent être mis à jour. Fermez-les et cliquez sur Réessayer pour continuer, ou cliquez sur Quitter pour mettre fin à l&apos;installation.</translation>
     </message>
     <message>
         <source>November</source>
@@ -2016,7 +2016,7 @@
     <message>
         <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
-        <translation>Le NAS a été remplacé</translation>
+        <translation>Le NAS a été remplacé.</translation>
     </message>
     <message>
         <source>Add a sync folder on another NAS</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>Anomalie</translation>
+        <translation>Attention requise</translation>
     </message>
     <message>
         <source>Date range</source>
@@ -2281,7 +2281,7 @@
     <message>
         <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
-        <translation>Pas maintenant</translation>
+        <translation>Non merci</translation>
     </message>
     <message>
         <source>Choose a Sync Direction</source>
@@ -2351,7 +2351,7 @@
     <message>
         <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
-        <translation>&amp;Ne pas fermer les applications (un redémarrage sera nécessaire)</translation>
+        <translation>&amp;Ne pas fermer les applications (un redémarrage de l&apos;ordinateur sera nécessaire)</translation>
     </message>
     <message>
         <source>Larkmoor Drive is ready.</source>

@@ -481,7 +481,7 @@
     <message>
         <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
-        <translation>Szinkronizálási mód</translation>
+        <translation>Szinkronizálási irány</translation>
     </message>
     <message>
         <source>Add a sync folder to an existing connection</source>
@@ -1606,7 +1606,7 @@
     <message>
         <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
-        <translation>Nincs jogosultsága hivatkozások megosztásához.</translation>
+        <translation>Nincs jogosultsága megosztási hivatkozások létrehozásához.</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>A következő alkalmazások frissítendő fájlokat használnak. Zárja be őket, és kattintson az Újra gombra a folytatáshoz, vagy a Mégse gombra a kilépéshez.</translation>
+        <translation>A következő alkalmazások frissítendő fájlokat használnak. Zárja be őket, és kattintson az Újra gombra a folytatáshoz, vagy a Kilépés gombra a telepítés befejezéséhez.</translation>
     </message>
     <message>
         <source>November</source>
@@ -2016,7 +2016,7 @@
     <message>
         <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
-        <translation>A NAS-t kicserélték</translation>
+        <translation>A NAS-t kicserélték.</translation>
     </message>
     <message>
         <source>Add a sync folder on another NAS</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>Rendellenes állapot</translation>
+        <translation>Figyelmet igényel</translation>
     </message>
     <message>
         <source>Date range</source>
@@ -2281,7 +2281,7 @@
     <message>
         <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
-        <translation>Most nem</translation>
+        <translation>Köszönöm, nem</translation>
     </message>
     <message>
         <source>Choose a Sync Direction</source>
@@ -2351,7 +2351,7 @@
     <message>
         <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
-        <translation>Az alkalmazások &amp;ne legyenek bezárva (újraindításra lesz szükség)</translation>
+        <translation>Az alkalmazások &amp;ne legyenek bezárva (a számítógép újraindítására lesz szükség)</translation>
     </message>
     <message>
         <source>Larkmoor Drive is ready.</source>

@@ -481,7 +481,7 @@
     <message>
         <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
-        <translation>同期モード</translation>
+        <translation>同期方向</translation>
     </message>
     <message>
         <source>Add a sync folder to an existing connection</source>
@@ -1606,7 +1606,7 @@
     <message>
         <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
-        <translation>リンクを共有する権限がありません。</translation>
+        <translation>共有リンクを作成する権限がありません。</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>次のアプリケーションが、更新の必要なファイルを使用しています。これらのアプリケーションを閉じてから、続行するには「再試行」を、終了するには「キャンセル」をクリックしてください。</translation>
+        <translation>次のアプリケーションが、更新の必要なファイルを使用しています。これらのアプリケーションを閉じてから、続行するには「再試行」を、インストールを終了するには「終了」をクリックしてください。</translation>
     </message>
     <message>
         <source>November</source>
@@ -2016,7 +2016,7 @@
     <message>
         <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
-        <translation>NAS が交換されました</translation>
+        <translation>NAS が交換されました。</translation>
     </message>
     <message>
         <source>Add a sync folder on another NAS</source>
@@ -2281,7 +2281,7 @@
     <message>
         <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
-        <translation>後で</translation>
+        <translation>いいえ</translation>
     </message>
     <message>
         <source>Choose a Sync Direction</source>
@@ -2351,7 +2351,7 @@
     <message>
         <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
-        <translation>アプリケーションを閉じない (再起動が必要になります)(&amp;D)</translation>
+        <translation>アプリケーションを閉じない (コンピューターの再起動が必要になります)(&amp;D)</translation>
     </message>
     <message>
         <source>Larkmoor Drive is ready.</source>

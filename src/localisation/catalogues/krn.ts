@@ -481,7 +481,7 @@
     <message>
         <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
-        <translation>동기화 모드</translation>
+        <translation>동기화 방향</translation>
     </message>
     <message>
         <source>Add a sync folder to an existing connection</source>
@@ -1606,7 +1606,7 @@
     <message>
         <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
-        <translation>링크를 공유할 권한이 없습니다.</translation>
+        <translation>공유 링크를 만들 권한이 없습니다.</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>다음 응용 프로그램에서 업데이트해야 하는 파일을 사용하고 있습니다. 응용 프로그램을 닫은 다음 계속하려면 &quot;다시 시도&quot;를 클릭하고, 종료하려면 &quot;취소&quot;를 클릭하십시오.</translation>
+        <translation>다음 응용 프로그램에서 업데이트해야 하는 파일을 사용하고 있습니다. 응용 프로그램을 닫은 다음 계속하려면 &quot;다시 시도&quot;를 클릭하고, 설치를 종료하려면 &quot;끝내기&quot;를 클릭하십시오.</translation>
     </message>
     <message>
         <source>November</source>
@@ -2016,7 +2016,7 @@
     <message>
         <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
-        <translation>NAS가 교체됨</translation>
+        <translation>NAS가 교체되었습니다.</translation>
     </message>
     <message>
         <source>Add a sync folder on another NAS</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>비정상</translation>
+        <translation>주의 필요</translation>
     </message>
     <message>
         <source>Date range</source>
@@ -2281,7 +2281,7 @@
     <message>
         <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
-        <translation>나중에</translation>
+        <translation>아니요</translation>
     </message>
     <message>
         <source>Choose a Sync Direction</source>
@@ -2351,7 +2351,7 @@
     <message>
         <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
-        <translation>응용 프로그램을 닫지 않음(다시 시작해야 함)(&amp;D)</translation>
+        <translation>응용 프로그램을 닫지 않음(컴퓨터를 다시 시작해야 함)(&amp;D)</translation>
     </message>
     <message>
         <source>Larkmoor Drive is ready.</source>

@@ -481,7 +481,7 @@
     <message>
         <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
-        <translation>Synchronisatiemodus</translation>
+        <translation>Synchronisatierichting</translation>
     </message>
     <message>
         <source>Add a sync folder to an existing connection</source>
@@ -1606,7 +1606,7 @@
     <message>
         <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
-        <translation>U bent niet gemachtigd om links te delen.</translation>
+        <translation>U bent niet gemachtigd om deellinks te maken.</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>De volgende toepassingen gebruiken bestanden die moeten worden bijgewerkt. Sluit deze toepassingen en klik op Opnieuw proberen om door te gaan, of klik op Annuleren om af te sluiten.</translation>
+        <translation>De volgende toepassingen gebruiken bestanden die moeten worden bijgewerkt. Sluit deze toepassingen en klik op Opnieuw proberen om door te gaan, of klik op Afsluiten om de installatie te beëindigen.</translation>
     </message>
     <message>
         <source>November</source>
@@ -2016,7 +2016,7 @@
     <message>
         <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
-        <translation>De NAS is vervangen</translation>
+        <translation>De NAS is vervangen.</translation>
     </message>
     <message>
         <source>Add a sync folder on another NAS</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>Storing</translation>
+        <translation>Aandacht vereist</translation>
     </message>
     <message>
         <source>Date range</source>
@@ -2281,7 +2281,7 @@
     <message>
         <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
-        <translation>Niet nu</translation>
+        <translation>Nee, bedankt</translation>
     </message>
     <message>
         <source>Choose a Sync Direction</source>
@@ -2351,7 +2351,7 @@
     <message>
         <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
-        <translation>De toepassingen &amp;niet sluiten (opnieuw opstarten is vereist)</translation>
+        <translation>De toepassingen &amp;niet sluiten (de computer moet opnieuw worden opgestart)</translation>
     </message>
     <message>
         <source>Larkmoor Drive is ready.</source>

@@ -481,7 +481,7 @@
     <message>
         <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
-        <translation>Tryb synchronizacji</translation>
+        <translation>Kierunek synchronizacji</translation>
     </message>
     <message>
         <source>Add a sync folder to an existing connection</source>
@@ -1606,7 +1606,7 @@
     <message>
         <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
-        <translation>Nie masz uprawnień do udostępniania linków.</translation>
+        <translation>Nie masz uprawnień do tworzenia linków udostępniania.</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>Następujące aplikacje używają plików, które muszą zostać zaktualizowane. Zamknij je i kliknij przycisk Ponów próbę, aby kontynuować, lub kliknij przycisk Anuluj, aby zakończyć.</translation>
+        <translation>Następujące aplikacje używają plików, które muszą zostać zaktualizowane. Zamknij je i kliknij przycisk Ponów próbę, aby kontynuować, lub kliknij przycisk Wyjdź, aby zakończyć instalację.</translation>
     </message>
     <message>
         <source>November</source>
@@ -2016,7 +2016,7 @@
     <message>
         <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
-        <translation>Serwer NAS został wymieniony</translation>
+        <translation>Serwer NAS został wymieniony.</translation>
     </message>
     <message>
         <source>Add a sync folder on another NAS</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>Nieprawidłowy stan</translation>
+        <translation>Wymaga uwagi</translation>
     </message>
     <message>
         <source>Date range</source>
@@ -2281,7 +2281,7 @@
     <message>
         <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
-        <translation>Nie teraz</translation>
+        <translation>Nie, dziękuję</translation>
     </message>
     <message>
         <source>Choose a Sync Direction</source>

@@ -481,7 +481,7 @@
     <message>
         <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
-        <translation>Modo de sincronização</translation>
+        <translation>Sentido de sincronização</translation>
     </message>
     <message>
         <source>Add a sync folder to an existing connection</source>
@@ -1606,7 +1606,7 @@
     <message>
         <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
-        <translation>Não tem permissão para partilhar hiperligações.</translation>
+        <translation>Não tem permissão para criar hiperligações de partilha.</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>As seguintes aplicações estão a utilizar ficheiros que têm de ser atualizados. Feche-as e clique em Repetir para continuar ou clique em Cancelar para sair.</translation>
+        <translation>As seguintes aplicações estão a utilizar ficheiros que têm de ser atualizados. Feche-as e clique em Repetir para continuar ou clique em Sair para terminar a instalação.</translation>
     </message>
     <message>
         <source>November</source>
@@ -2016,7 +2016,7 @@
     <message>
         <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
-        <translation>O NAS foi substituído</translation>
+        <translation>O NAS foi substituído.</translation>
     </message>
     <message>
         <source>Add a sync folder on another NAS</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>Anomalia</translation>
+        <translation>Requer atenção</translation>
     </message>
     <message>
         <source>Date range</source>
@@ -2281,7 +2281,7 @@
     <message>
         <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
-        <translation>Agora não</translation>
+        <translation>Não, obrigado</translation>
     </message>
     <message>
         <source>Choose a Sync Direction</source>
@@ -2351,7 +2351,7 @@
     <message>
         <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
-        <translation>&amp;Não fechar as aplicações (será necessário reiniciar)</translation>
+        <translation>&amp;Não fechar as aplicações (será necessário reiniciar o computador)</translation>
     </message>
     <message>
         <source>Larkmoor Drive is ready.</source>

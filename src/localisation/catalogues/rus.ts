@@ -481,7 +481,7 @@
     <message>
         <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
-        <translation>Режим синхронизации</translation>
+        <translation>Направление синхронизации</translation>
     </message>
     <message>
         <source>Add a sync folder to an existing connection</source>
@@ -1606,7 +1606,7 @@
     <message>
         <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
-        <translation>У вас нет прав на предоставление доступа по ссылкам.</translation>
+        <translation>У вас нет прав на создание ссылок для общего доступа.</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>Следующие приложения используют файлы, которые необходимо обновить. Закройте их и нажмите кнопку «Повторить», чтобы продолжить, или «Отмена», чтобы выйти.</translation>
+        <translation>Следующие приложения используют файлы, которые необходимо обновить. Закройте их и нажмите кнопку «Повторить», чтобы продолжить, или «Выход», чтобы прервать установку.</translation>
     </message>
     <message>
         <source>November</source>
@@ -2016,7 +2016,7 @@
     <message>
         <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
-        <translation>NAS был заменен</translation>
+        <translation>NAS был заменен.</translation>
     </message>
     <message>
         <source>Add a sync folder on another NAS</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>Сбой</translation>
+        <translation>Требует внимания</translation>
     </message>
     <message>
         <source>Date range</source>
@@ -2281,7 +2281,7 @@
     <message>
         <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
-        <translation>Не сейчас</translation>
+        <translation>Нет, спасибо</translation>
     </message>
     <message>
         <source>Choose a Sync Direction</source>
@@ -2351,7 +2351,7 @@
     <message>
         <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
-        <translation>&amp;Не закрывать приложения (потребуется перезагрузка)</translation>
+        <translation>&amp;Не закрывать приложения (потребуется перезагрузка компьютера)</translation>
     </message>
     <message>
         <source>Larkmoor Drive is ready.</source>

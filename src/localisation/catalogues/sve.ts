@@ -481,7 +481,7 @@
     <message>
         <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
-        <translation>Synkroniseringsläge</translation>
+        <translation>Synkroniseringsriktning</translation>
     </message>
     <message>
         <source>Add a sync folder to an existing connection</source>
@@ -1606,7 +1606,7 @@
     <message>
         <source>You do not have permission to create sharing links.</source>
         <extracomment>341 desc_cannot_share_link</extracomment>
-        <translation>Du har inte behörighet att dela länkar.</translation>
+        <translation>Du har inte behörighet att skapa delningslänkar.</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>Följande program använder filer som måste uppdateras. Stäng dem och klicka på Försök igen för att fortsätta, eller klicka på Avbryt för att avsluta.</translation>
+        <translation>Följande program använder filer som måste uppdateras. Stäng dem och klicka på Försök igen för att fortsätta, eller klicka på Avsluta för att avsluta installationen.</translation>
     </message>
     <message>
         <source>November</source>
@@ -2016,7 +2016,7 @@
     <message>
         <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
-        <translation>NAS-enheten har bytts ut</translation>
+        <translation>NAS-enheten har bytts ut.</translation>
     </message>
     <message>
         <source>Add a sync folder on another NAS</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>Onormalt tillstånd</translation>
+        <translation>Kräver uppmärksamhet</translation>
     </message>
     <message>
         <source>Date range</source>
@@ -2281,7 +2281,7 @@
     <message>
         <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
-        <translation>Inte nu</translation>
+        <translation>Nej tack</translation>
     </message>
     <message>
         <source>Choose a Sync Direction</source>

@@ -481,7 +481,7 @@
     <message>
         <source>Sync direction</source>
         <extracomment>100 manage_option_synchronization_mode</extracomment>
-        <translation>Eşitleme modu</translation>
+        <translation>Eşitleme yönü</translation>
     </message>
     <message>
         <source>Add a sync folder to an existing connection</source>
@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>Aşağıdaki uygulamalar güncellenmesi gereken dosyaları kullanıyor. Lütfen bunları kapatın ve devam etmek için Yeniden Dene, çıkmak için İptal düğmesine tıklayın.</translation>
+        <translation>Aşağıdaki uygulamalar güncellenmesi gereken dosyaları kullanıyor. Lütfen bunları kapatın ve devam etmek için Yeniden Dene, kurulumu sonlandırmak için Çık düğmesine tıklayın.</translation>
     </message>
     <message>
         <source>November</source>
@@ -2016,7 +2016,7 @@
     <message>
         <source>The NAS has been replaced.</source>
         <extracomment>436 tray_hb_change</extracomment>
-        <translation>NAS cihazı değiştirildi</translation>
+        <translation>NAS cihazı değiştirildi.</translation>
     </message>
     <message>
         <source>Add a sync folder on another NAS</source>
@@ -2196,7 +2196,7 @@
     <message>
         <source>Needs attention</source>
         <extracomment>479 status_desc_abnormal_short</extracomment>
-        <translation>Anormal durum</translation>
+        <translation>İlgilenilmesi gerekiyor</translation>
     </message>
     <message>
         <source>Date range</source>
@@ -2281,7 +2281,7 @@
     <message>
         <source>No Thanks</source>
         <extracomment>501 no_need</extracomment>
-        <translation>Şimdi Değil</translation>
+        <translation>Hayır, Teşekkürler</translation>
     </message>
     <message>
         <source>Choose a Sync Direction</source>
@@ -2351,7 +2351,7 @@
     <message>
         <source>&amp;Do not close the applications (you will need to restart your computer)</source>
         <extracomment>518 msi_filesinuse_dlg_closenone</extracomment>
-        <translation>Uygulamalar kapatıl&amp;masın (yeniden başlatma gerekecek)</translation>
+        <translation>Uygulamalar kapatıl&amp;masın (bilgisayarın yeniden başlatılması gerekecek)</translation>
     </message>
     <message>
         <source>Larkmoor Drive is ready.</source>
