@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Zrušit propojení</translation>
+        <translation>Zrušit propojené připojení</translation>
     </message>
     <message>
         <source>Proxy server address</source>

@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Разорвать связь с NAS</translation>
+        <translation>Удалить связанное подключение</translation>
     </message>
     <message>
         <source>Proxy server address</source>

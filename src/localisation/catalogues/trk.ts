@@ -1656,7 +1656,7 @@
     <message>
         <source>Apply and Copy Link</source>
         <extracomment>355 sharing_apply_and_copy_button</extracomment>
-        <translation>Uygula ve Bağlantıyı Kopyala</translation>
+        <translation>Uygula ve Paylaşım Bağlantısını Kopyala</translation>
     </message>
     <message>
         <source>August</source>

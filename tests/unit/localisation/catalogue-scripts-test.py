@@ -48,7 +48,7 @@ class InAFolder(unittest.TestCase):
         for inner in ('catalogues', 'glossary'):
             os.mkdir(os.path.join(self.folder, inner))
         self.write_table(ROWS)
-        self.list_names('enu', 'deu', 'chs', 'cht', 'rus', 'hun')
+        self.list_names('enu', 'deu', 'chs', 'cht', 'rus', 'hun', 'dan')
 
     def write_table(self, rows):
         self.write('str-table-rows.inc', rows)
@@ -226,6 +226,13 @@ class CheckCatalogues(InAFolder):
     def test_finds_too_few_texts_that_read_like_their_source(self):
         self.assert_finds('1 texts read like their source', {'OK': 'In Ordnung'})
 
+    def test_finds_another_count_in_the_languages_that_have_the_fewest_and_the_most(self):
+        base = dict(GERMAN, **self.chinese('資料夾'))
+        self.assert_clean('cht', base=base)
+        self.assert_finds('cht: 3 texts read like their source, but 2 do, such as names and '
+                          'abbreviations: "NAS", "OK", "&Next"', {'&Next': '&Next'}, 'cht', base)
+        self.assert_finds('dan: 2 texts read like their source, but 20 do', {}, 'dan')
+
     def test_finds_any_change_in_the_english_catalogue(self):
         english = {text: text for text in self.groups}
         self.assert_clean('enu', base=english)
@@ -296,6 +303,58 @@ class CheckCatalogues(InAFolder):
         self.assert_finds('the glossary says "verknüpf" for "link"',
                           {'Link this computer': 'Freigabelink'}, base=base)
 
+    def test_does_not_take_the_word_of_another_term_that_holds_this_one(self):
+        base = self.glossary_table({'connection': 'ligaç', 'sharing link': 'hiperligaç'},
+                                   connection='Connection lost', share='Sharing link')
+        self.assert_clean('deu', {'Connection lost': 'Ligação perdida',
+                                  'Sharing link': 'Hiperligação'}, base)
+        self.assert_finds('the glossary says "ligaç" for "connection"',
+                          {'Connection lost': 'Hiperligação perdida',
+                           'Sharing link': 'Hiperligação'}, base=base)
+
+    def test_finds_a_word_that_two_terms_have_in_common(self):
+        for connection, link in (('연결', '링크|연결'), ('bağlantı', 'bağl'), ('связ', 'связь')):
+            self.write_glossary({'terms': {'connection': connection, 'link': link}})
+            self.assert_finds('deu: the glossary has one word for "connection" and "link": ', {})
+
+    def test_accepts_a_word_that_a_term_and_its_own_part_have_in_common(self):
+        self.write_glossary({'terms': {'folder': 'ordner', 'shared folder': 'ordner, freigegeben',
+                                       'connect|connection': 'verbind', 'disconnect': 'verbind'}})
+        self.assert_clean('deu')
+
+    def test_finds_a_mark_without_its_space(self):
+        self.write_glossary({'spaces': {'before': ':?»', 'after': '«', 'character': 'U+00A0'}})
+        self.assert_clean('deu', {'OK': 'À 12:30\u00a0: «\u00a0OK\u00a0»\u00a0?', '&Next': '&NAS',
+                                  'Open folder': 'Open folder',
+                                  'File added: ': 'Ajout\u00a0: '})
+        for text, fault in (('Dossier ?', 'no U+00A0 before "?"'),
+                            ('Dossier?', 'no U+00A0 before "?"'),
+                            ('Dossier\u202f: OK', 'no U+00A0 before ":"'),
+                            ('« OK\u00a0»', 'no U+00A0 after "«"'),
+                            ('«\u00a0OK »', 'no U+00A0 before "»"')):
+            self.assert_finds(f'row 1 btn_ok: {fault}',
+                              {'OK': text, 'File added: ': 'Ajout\u00a0: '})
+
+    def dialog(self, *buttons):
+        return self.glossary_table({}, **{f'msi_{key}': f'&{key}' for key in buttons})
+
+    def test_finds_an_accelerator_that_one_dialog_has_twice(self):
+        base = self.dialog('button_retry', 'button_ignore', 'button_next')
+        right = {'&button_retry': '&Wiederholen', '&button_ignore': '&Ignorieren',
+                 '&button_next': '&Weiter'}
+        self.assert_clean('deu', right, base)
+        base.update(right)
+        output = self.assert_finds('row 3 msi_button_ignore: the accelerator W is taken in the '
+                                   'dialog of files in use: "&Wiederholen"',
+                                   {'&button_ignore': '&weglassen'}, base=base)
+        self.assertIn('in the dialog of an error', output)
+        self.assertEqual(output.count('accelerator'), 2)
+
+    def test_finds_a_doubled_accelerator_of_the_english_table(self):
+        self.write_table('ROW(0, "msi_button_yes", "&Yes")\nROW(1, "msi_button_no", "Na&y")\n')
+        self.assert_finds('row 1 msi_button_no: the accelerator Y is taken in the dialog of an error',
+                          {}, 'enu', {text: text for text in self.groups})
+
     def test_finds_a_term_that_begins_with_a_turkish_capital(self):
         base = self.glossary_table({'cancel': 'iptal', 'slow': 'ağır|ısı'},
                                    cancel='Cancel', slow='Slow', heat='Slowly')
@@ -317,7 +376,7 @@ class CheckCatalogues(InAFolder):
     def test_finds_a_field_that_a_glossary_does_not_have(self):
         self.write_glossary({'folder': 'ordner'})
         self.assert_finds('deu: cannot be read: the glossary has a field "folder"; it knows '
-                          '"terms", "kept", "fixed"', {})
+                          '"terms", "spaces", "kept", "fixed"', {})
 
     def test_finds_a_changed_text_that_is_fixed(self):
         self.write_glossary({'fixed': {'add': 'Datei hinzugefügt: ', 'nas': 'NAS'}})
