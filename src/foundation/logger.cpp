@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 #include <ctime>
+#include <new>
 
 #include "service/config.h"
 
@@ -58,30 +59,31 @@ struct GenerationName {
 
 }  // namespace
 
+// The names are never destroyed: a destructor may log.
 namespace log_component {
 
 ustring const& launcher() {
-  static ustring const name("launcher_debug");
+  static ustring const& name = *new ustring("launcher_debug");
   return name;
 }
 
 ustring const& service() {
-  static ustring const name("service_debug");
+  static ustring const& name = *new ustring("service_debug");
   return name;
 }
 
 ustring const& extractor() {
-  static ustring const name("extractor_debug");
+  static ustring const& name = *new ustring("extractor_debug");
   return name;
 }
 
 ustring const& file_op() {
-  static ustring const name("file_op_debug");
+  static ustring const& name = *new ustring("file_op_debug");
   return name;
 }
 
 ustring const& default_component() {
-  static ustring const name("default_component");
+  static ustring const& name = *new ustring("default_component");
   return name;
 }
 
@@ -89,6 +91,7 @@ ustring const& default_component() {
 
 int Logger::Initialize(Type type, ustring const& log_file, ustring const& level_file,
                        int rotate_count) {
+  Start();
   DestroySharedData();
   DestroyLock();
   InitializeLock();
@@ -115,11 +118,13 @@ int Logger::Initialize(Type type, ustring const& log_file, ustring const& level_
   }
   *log_rotated_count_shared = 0;
   log_rotated_count_private = 0;
+  shared_data_set = true;
   log_initialized = true;
   return 0;
 }
 
 void Logger::Destroy() {
+  Start();
   log_initialized = false;
   if (log_type == TYPE_FILE) {
     CloseLogFile();
@@ -141,24 +146,28 @@ void Logger::LogMsg(Level level, ustring const& component, char const* format, .
 
 void Logger::LogMsg2(Level level, ustring const& component, char const* format, va_list args) {
   if (!log_initialized) return;
+  Start();
   InitializeLock();
   InitializeSharedData();
   if (!HasSharedData()) return;
   if (log_type != TYPE_SYSLOG && log_fp.load(std::memory_order_relaxed) == nullptr) return;
 
   Lock();
+  SetSharedData();
   FollowRotation();
   if (IsPassing(level, component)) CountWritten(WriteRecord(format, args));
   Unlock();
 }
 
 void Logger::ReloadLogFile() {
+  Start();
   if (IsStandardType()) return;
   CloseLogFile();
   if (!OpenLogFile(log_path)) log_fp = nullptr;
 }
 
 int Logger::Rotate() {
+  Start();
   for (int i = rotate_cnt - 2; i >= 0; --i) {
     std::rename(GenerationName(log_path, i).text, GenerationName(log_path, i + 1).text);
   }
@@ -171,6 +180,7 @@ int Logger::Rotate() {
   FILE* const stream = is_renamed ? OpenForAppending(log_path) : nullptr;
   log_fp = stream;
   if (stream == nullptr) return -1;
+  SetSharedData();
   ++*log_rotated_count_shared;
   ++log_rotated_count_private;
   return 0;
@@ -201,11 +211,33 @@ void Logger::InitializeSharedData() {
 void Logger::DestroySharedData() {
   std::free(log_size.exchange(nullptr));
   std::free(log_rotated_count_shared.exchange(nullptr));
+  shared_data_set = false;
+}
+
+/// Makes what the compiler can't. Safe from any thread at any time.
+bool Logger::Start() {
+  static bool const made = [] {
+    new (&log_level_room.object) std::map<ustring, int>;
+    new (&log_path_room.object) ustring;
+    log_fp = stderr;
+    return true;
+  }();
+  return made;
 }
 
 bool Logger::HasSharedData() {
   return log_size.load(std::memory_order_acquire) != nullptr &&
          log_rotated_count_shared.load(std::memory_order_acquire) != nullptr;
+}
+
+/// Gives the shared data the values that Initialize hasn't: it hasn't run, or it has failed.
+/// Nothing is to be followed then, and a stream that is no log file of ours is never rotated. The
+/// caller holds the lock.
+void Logger::SetSharedData() {
+  if (shared_data_set) return;
+  *log_rotated_count_shared = log_rotated_count_private;
+  *log_size = IsStandardType() || log_path.empty() ? -1 : 0;
+  shared_data_set = true;
 }
 
 bool Logger::IsStandardType() {

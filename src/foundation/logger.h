@@ -38,13 +38,27 @@ ustring const& file_op();
 ustring const& default_component();
 }  // namespace log_component
 
-/// The process-wide log. Works from the start of the process: until Initialize has run, records of
-/// LEVEL_ERROR and LEVEL_WARNING go to standard error.
+/// Room for an object of static storage that is made on demand and never destroyed. It stands
+/// outside its user, because a class can't set up its own static members with what it nests.
+template <class T>
+union Lasting {
+  constexpr Lasting() : none() {}
+  ~Lasting() {}
+  char none;
+  T object;
+};
+
+/// The process-wide log. Works from the first instruction of the process to the last, constructors
+/// and destructors of static objects included: until Initialize has run, records of LEVEL_ERROR and
+/// LEVEL_WARNING go to standard error.
 ///
 /// Threads: LogMsg, LogMsg2, LogMSG_c may be called from any thread at any time. Initialize,
 /// Destroy, ReloadLogFile and the functions that make and destroy the lock and the shared data may
-/// run only while no other thread logs. A process that shares the log file with another one loses
-/// no record, but doesn't notice the other's rotation.
+/// run only while no other thread logs.
+///
+/// Processes: nothing keeps apart those that share a log file. A rotation goes unnoticed by the
+/// others, which write on into the renamed file; where two rotate at the same time, records are
+/// lost.
 ///
 /// No failure of logging is ever reported through the log or to the writer of a record.
 class Logger {
@@ -71,9 +85,9 @@ class Logger {
   /// component=threshold lines, or is empty; when it is missing or malformed the thresholds stay
   /// as they are. A log file keeps `rotate_count` - 1 old generations, and one also for a count of
   /// 1; for the standard streams and syslog the count is ignored.
-  /// Returns 0, or -1 when memory is short or the log file has no name or can't be opened; the
-  /// type is then set already and the stream is still the earlier one. An earlier log file is not
-  /// closed.
+  /// Returns 0, or -1 when memory is short or the log file has no name or can't be opened. Records
+  /// then go on to where they went, standard error at first, in the form of the new type, which is
+  /// set already; an earlier log file goes on rotating. In no case is an earlier log file closed.
   static int Initialize(Type type, ustring const& log_file, ustring const& level_file,
                         int rotate_count);
   /// Ends logging and closes the log file. Records written from now on are dropped.
@@ -87,8 +101,9 @@ class Logger {
   static void LogMsg2(Level level, ustring const& component, char const* format, va_list args)
       __attribute__((format(printf, 3, 0)));
 
-  /// Closes the log file and opens its path anew. When that fails, the log is silent until the
-  /// next Initialize. Nothing to do when the log is no file.
+  /// Closes the stream and opens the log file's path anew. When that fails, also for want of a path
+  /// after a failed Initialize, the log is silent until the next Initialize. Nothing to do when the
+  /// type is no file.
   static void ReloadLogFile();
   /// Shifts the old generations ("PATH_0" is the youngest), makes the live file generation 0 and
   /// starts a new one. The caller holds the lock. Returns 0, or -1 when the live file couldn't be
@@ -102,14 +117,17 @@ class Logger {
   /// There is no lock between processes: these do nothing.
   static void InitializeFileLock();
   static void DestroyFileLock();
-  /// The size and the shared rotation counter, uncleared: Initialize gives them their values.
+  /// The size and the shared rotation counter, uncleared: Initialize or the next record gives them
+  /// their values.
   static void InitializeSharedData();
   static void DestroySharedData();
 
  private:
   friend struct LoggerProbe;  // lets the tests look at the members below
 
+  static bool Start();
   static bool HasSharedData();
+  static void SetSharedData();
   static bool IsStandardType();
   static bool IsPassing(Level level, ustring const& component);
   static bool OpenLogFile(ustring const& path);
@@ -118,24 +136,33 @@ class Logger {
   static int WriteRecord(char const* format, va_list args) __attribute__((format(printf, 1, 0)));
   static void CountWritten(int written);
 
-  // Inline, so that they are constructed before every object of static storage in a file that
-  // includes this header: such an object's constructor may log. What is read ahead of the lock, or
+  // A record may be written before any constructor of static objects has run, and after all of
+  // their destructors. So these members are set up by the compiler; what it can't set up is made by
+  // Start(), with which every function begins that touches it. What is read ahead of the lock, or
   // made on demand by whichever thread logs first, is atomic.
+  inline static Lasting<std::map<ustring, int>> log_level_room;
+  inline static Lasting<ustring> log_path_room;
+
   inline static Type log_type = TYPE_STDOUT;
   inline static int rotate_cnt = 50;
   inline static int log_flock = -1;           // reserved for a lock between processes
   inline static bool log_initialized = true;  // false only after Destroy
-  inline static std::map<ustring, int> log_level;
-  // On purpose not the stream that the type names: an early record belongs on standard error.
-  inline static std::atomic<FILE*> log_fp{stderr};
+  inline static std::map<ustring, int>& log_level = log_level_room.object;
+  // Standard error from Start() on. On purpose not the stream that the type names: an early record
+  // belongs there.
+  inline static std::atomic<FILE*> log_fp{nullptr};
   inline static std::atomic<int*> log_size{nullptr};  // bytes written since the file was opened
-  inline static ustring log_path;
+  inline static ustring& log_path = log_path_room.object;
   inline static std::atomic<std::mutex*> log_lock{nullptr};
   inline static bool inter_process_safe = false;  // reserved
   // Rotations done, and those that this process has followed. They differ only when the first one
   // lives in memory that another process writes too, which isn't so here.
   inline static std::atomic<std::uint64_t*> log_rotated_count_shared{nullptr};
   inline static std::uint64_t log_rotated_count_private = 0;
+
+  // Whether the shared data have their values; they are allocated without any.
+  inline static bool shared_data_set = false;
+  inline static bool const started = Start();
 };
 
 /// LogMsg2 for callers that hold neither a ustring nor a Logger::Level.

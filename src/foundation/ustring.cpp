@@ -87,13 +87,19 @@ void AppendCopies(Unit*& buffer, unsigned long& length, unsigned long& capacity,
   Terminate(buffer, length, length + n);
 }
 
-/// Leaves n units that stand inside the buffer. They move before the buffer shrinks.
+/// Leaves n units that stand inside the buffer, or none where it can't shrink. They move before it
+/// does.
 template <class Unit>
 void KeepPart(Unit*& buffer, unsigned long& length, unsigned long& capacity, Unit const* s,
               unsigned long n) {
   std::memmove(buffer, s, n * sizeof(Unit));
+  try {
+    Fit(buffer, capacity, Needed(n, 0));
+  } catch (std::bad_alloc const&) {
+    Terminate(buffer, length, 0);
+    throw;
+  }
   Terminate(buffer, length, n);
-  Fit(buffer, capacity, Needed(n, 0));
 }
 
 /// The text that `s.substr(pos, n)` holds, up to its first NUL.
@@ -233,7 +239,12 @@ int ustring::convert_from_wdata() {
   int32_t length = 0;
   u_strToUTF8(nullptr, 0, &length, Units(wdata), -1, &status);
   status = U_ZERO_ERROR;
-  realloc_data(Needed(static_cast<unsigned long>(length), 0));
+  try {
+    realloc_data(Needed(static_cast<unsigned long>(length), 0));
+  } catch (std::bad_alloc const&) {
+    clear_wdata();  // the text is still that of before the change
+    throw;
+  }
   u_strToUTF8(data, static_cast<int32_t>(data_capacity), &length, Units(wdata), -1, &status);
   if (U_FAILURE(status)) {
     Warn("u_strToUTF8", status, __LINE__);
@@ -306,9 +317,11 @@ ustring& ustring::assign(unsigned short const* s, unsigned long n) {
       clear();
       return append(s, n);
     }
+    clear_data();
     KeepPart(wdata, wdata_length, wdata_capacity, s, Length(s, n));
     convert_from_wdata();
   } else if (wdata_length > n) {
+    clear_data();
     Terminate(wdata, wdata_length, n);
     convert_from_wdata();
   }
@@ -335,8 +348,8 @@ ustring& ustring::assign_data(char const* s, unsigned long n) {
     clear();
     return append_data(s, n);
   }
-  KeepPart(data, data_length, data_capacity, s, n);
   clear_wdata();
+  KeepPart(data, data_length, data_capacity, s, n);
   return *this;
 }
 
@@ -432,16 +445,17 @@ ustring operator+(ustring const& a, ustring const& b) { return {a.data, b.data};
 ustring operator+(ustring const& a, char const* b) { return {a.data, b}; }
 ustring operator+(ustring const& a, char b) { return {a.data, ustring::text_of(b)}; }
 
+// The sum is copied out: a copy has no UTF-16 made.
 ustring operator+(ustring const& a, unsigned short const* b) {
-  ustring result(a);
-  result.append(b);
-  return result;
+  ustring sum(a);
+  sum.append(b);
+  return ustring(sum);
 }
 
 ustring operator+(ustring const& a, unsigned short b) {
-  ustring result(a);
-  result.append(b, 1);
-  return result;
+  ustring sum(a);
+  sum.append(b, 1);
+  return ustring(sum);
 }
 
 void swap(ustring& a, ustring& b) noexcept { a.swap(b); }

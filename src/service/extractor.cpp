@@ -82,13 +82,14 @@ int Extractor::Extract() {
             "[ERROR] extractor(%d): Failed to calculate total file numbers, ret: %d\n", total);
     return -1;
   }
+  Writer writer;  // freed after the reader
   Reader reader(archive_read_new());
   if (!reader) {
     LOG_MSG(LEVEL_ERROR, log_component::extractor(),
             "[ERROR] extractor(%d): Allocate extractor failed\n");
     return -1;
   }
-  Writer writer(archive_write_disk_new());
+  writer.reset(archive_write_disk_new());
   if (!writer) {
     LOG_MSG(LEVEL_ERROR, log_component::extractor(),
             "[ERROR] extractor(%d): Allocate extractor failed\n");

@@ -1,7 +1,14 @@
 // The whole log of each kind of run, line by line.
 #include <gmock/gmock.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <sstream>
+#include <string>
 
 #include "support/sandbox.h"
+#include "support/unprivileged.h"
 
 namespace fs = std::filesystem;
 
@@ -67,7 +74,46 @@ class WholeLog : public testing::Test {
     for (auto const& [path, node] : tree) Append(lines, Looked(root + "/" + path));
     return lines;
   }
+  /// The log of an upgrade from build 100 to build 200.
+  void ExpectUpgrade(Lines const& log, test::Tree const& old_tree) const {
+    Lines before = Running("100", "200");
+    Append(before, MovingAside());
+    Append(before, Unpacking());
+    Append(before, {"[INFO] larkmoor-service(0): user installation is ready, removing backup app"});
+    Lines const removal = RemovalOf(box.App() + "_tmp", old_tree);
+    ASSERT_EQ(log.size(), before.size() + removal.size() + Ending().size());
+    auto const removed = log.begin() + static_cast<std::ptrdiff_t>(before.size());
+    auto const ended = removed + static_cast<std::ptrdiff_t>(removal.size());
+    EXPECT_EQ(Lines(log.begin(), removed), before);
+    // Two lines an object; the order of a folder's entries is the file system's business.
+    EXPECT_EQ(*removed, removal.front());
+    Lines sorted(removed, ended);
+    Lines expected = removal;
+    std::sort(sorted.begin(), sorted.end());
+    std::sort(expected.begin(), expected.end());
+    EXPECT_EQ(sorted, expected);
+    EXPECT_EQ(Lines(ended, log.end()), Ending());
+  }
+  /// The records on standard error; Qt and the choice of language write there too.
+  static Lines Records(test::Outcome const& outcome) {
+    std::istringstream in(outcome.err);
+    std::string records;
+    for (std::string line; std::getline(in, line);) {
+      if (line.substr(0, 17).rfind(" [") == 15) records += line + "\n";  // behind a stamp
+    }
+    return test::NormaliseLog(records);
+  }
+  /// Makes what a rotation without a path would rename and remove.
+  void MakeGenerationsOfNothing() const {
+    for (char const* name : kGenerations) test::WriteFile(box.Home() + "/" + name, name);
+  }
+  void ExpectNothingRotated() const {
+    for (char const* name : kGenerations) EXPECT_EQ(test::ReadFile(box.Home() + "/" + name), name);
+    EXPECT_FALSE(fs::exists(box.Home() + "/_2"));
+    EXPECT_FALSE(fs::exists(box.LogFile() + "_0"));
+  }
 
+  static constexpr char const* kGenerations[] = {"_0", "_1", "_49"};
   test::Sandbox box;
 };
 
@@ -102,20 +148,7 @@ TEST_F(WholeLog, OfAnUpgrade) {
 
   EXPECT_EQ(box.Launch().status, 0);
 
-  Lines before = Running("100", "200");
-  Append(before, MovingAside());
-  Append(before, Unpacking());
-  Append(before, {"[INFO] larkmoor-service(0): user installation is ready, removing backup app"});
-  Lines const removal = RemovalOf(box.App() + "_tmp", old_tree);
-  Lines const log = box.Log();
-  ASSERT_EQ(log.size(), before.size() + removal.size() + Ending().size());
-  auto const removed = log.begin() + static_cast<std::ptrdiff_t>(before.size());
-  auto const ended = removed + static_cast<std::ptrdiff_t>(removal.size());
-  EXPECT_EQ(Lines(log.begin(), removed), before);
-  // Two lines an object; the order of a folder's entries is the file system's business.
-  EXPECT_EQ(*removed, removal.front());
-  EXPECT_THAT(Lines(removed, ended), testing::UnorderedElementsAreArray(removal));
-  EXPECT_EQ(Lines(ended, log.end()), Ending());
+  ExpectUpgrade(box.Log(), old_tree);
 }
 
 TEST_F(WholeLog, OfARollback) {
@@ -162,6 +195,64 @@ TEST_F(WholeLog, KeepsFortyNineOldFilesBesideTheLiveOne) {
   EXPECT_TRUE(fs::exists(box.LogFile() + "_0"));
   EXPECT_EQ(test::ReadFile(box.LogFile() + "_48"), "47");
   EXPECT_FALSE(fs::exists(box.LogFile() + "_49"));
+}
+
+TEST_F(WholeLog, GoesToStandardErrorWhereAFolderStandsInItsPlace) {
+  box.Carry(200);
+  box.Install(100);
+  test::Tree const old_tree = test::ReadTree(box.App());
+  fs::create_directories(box.LogFile());
+  MakeGenerationsOfNothing();
+
+  test::Outcome const outcome = box.Launch();
+
+  EXPECT_EQ(outcome.status, 0);
+  ExpectUpgrade(Records(outcome), old_tree);
+  ExpectNothingRotated();
+  EXPECT_TRUE(fs::is_empty(box.LogFile()));
+}
+
+TEST_F(WholeLog, GoesToStandardErrorWhereTheFileIsAnotherUsersOwn) {
+  box.Carry(200);
+  box.Install(100);
+  test::Tree const old_tree = test::ReadTree(box.App());
+  test::WriteFile(box.LogFile(), "of a start as root\n");
+  // Whoever isn't root can't make a file of root's; one that nobody may open does as well.
+  chmod(box.LogFile().c_str(), geteuid() == 0 ? 0600 : 0);
+  MakeGenerationsOfNothing();
+  test::GiveAway(box.folder().path().c_str());
+  for (auto const& entry : fs::recursive_directory_iterator(box.folder().path())) {
+    if (entry.path() != box.LogFile() && !entry.is_symlink()) {
+      test::GiveAway(entry.path().c_str());
+    }
+  }
+
+  test::RunUnprivileged([&] {
+    test::Outcome const outcome = box.Launch();
+    EXPECT_EQ(outcome.status, 0);
+    ExpectUpgrade(Records(outcome), old_tree);
+  });
+
+  ExpectNothingRotated();
+  chmod(box.LogFile().c_str(), 0600);
+  EXPECT_EQ(box.RawLog(), "of a start as root\n");
+}
+
+TEST_F(WholeLog, OnStandardErrorIsNotRotated) {
+  box.Carry(200);
+  box.Install(100);
+  for (int i = 0; i < 2000; ++i) {
+    test::WriteFile(box.App() + "/Contents/" + std::string(200, 'n') + std::to_string(i), "");
+  }
+  fs::create_directories(box.LogFile());
+  MakeGenerationsOfNothing();
+
+  test::Outcome const outcome = box.Launch();
+
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_GT(outcome.err.size(), 1100000U);
+  EXPECT_THAT(outcome.err, testing::EndsWith("): done\n"));
+  ExpectNothingRotated();
 }
 
 TEST_F(WholeLog, BeginsEachRecordWithAStamp) {

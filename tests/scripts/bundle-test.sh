@@ -239,6 +239,69 @@ TestCheckFindsClientInThePackageThatCannotBeExecuted() {
   expect_success check_bundle good/Larkmoor.app
 }
 
+# repack_twice FIRST SECOND: the executable stands in the package twice, with these modes.
+repack_twice() {
+  repack chmod "$1" Contents/MacOS/larkmoor-drive-ui
+  (cd unpacked && bsdtar -cf ../twice.tar --format gnutar Contents/MacOS/larkmoor-drive-ui &&
+    chmod "$2" Contents/MacOS/larkmoor-drive-ui &&
+    bsdtar -rf ../twice.tar --format gnutar Contents/MacOS/larkmoor-drive-ui Contents/Resources/INFO &&
+    gzip -c ../twice.tar >../good/Larkmoor.app/Contents/Resources/package/larkmoor.lpk) ||
+    fail "can't repack"
+}
+
+TestCheckGoesByTheLastEntryOfTheExecutablesName() {
+  make_good_bundle
+  repack_twice 755 644
+  expect_failure "can't be executed" check_bundle good/Larkmoor.app
+  repack_twice 644 755
+  check_bundle good/Larkmoor.app >out 2>err
+  expect_not_said "can't be executed"
+}
+
+TestCheckFollowsAnExecutableThatIsALink() {
+  make_good_bundle
+  repack sh -c 'cd Contents/MacOS && mv larkmoor-drive-ui real && ln -s real larkmoor-drive-ui'
+  check_bundle good/Larkmoor.app >out 2>err
+  expect_not_said "can't be executed"
+  repack chmod 644 Contents/MacOS/real
+  expect_failure "can't be executed" check_bundle good/Larkmoor.app
+  repack rm Contents/MacOS/real
+  expect_failure "can't be executed" check_bundle good/Larkmoor.app
+}
+
+TestCheckIsNotMisledByAnotherPathThatEndsInTheSameWay() {
+  make_good_bundle
+  repack sh -c 'mkdir -p "old Contents/MacOS" && cp Contents/MacOS/* "old Contents/MacOS" &&
+    chmod 644 Contents/MacOS/larkmoor-drive-ui'
+  expect_failure "can't be executed" check_bundle good/Larkmoor.app
+}
+
+# What has no modes unpacks with those that libarchive makes up.
+TestCheckFindsFormatsThatCarryNoExecutableBit() {
+  local package=good/Larkmoor.app/Contents/Resources/package/larkmoor.lpk format
+  make_good_bundle
+  mkdir unpacked && bsdtar -xf $package -C unpacked
+  rm unpacked/Contents/Resources/über
+  bsdtar -cf joliet --format iso9660 --options '!rockridge' -C unpacked Contents 2>messages ||
+    fail "can't make a Joliet image" "$(cat messages)"
+  for format in cab windows-zip; do
+    python3 "$PROJECT/tests/scripts/without-modes.py" $format unpacked $format
+  done
+  for format in joliet cab windows-zip; do
+    cp $format $package
+    expect_failure "in a format that has modes" check_bundle good/Larkmoor.app
+    expect_not_said "can't be read"
+    expect_not_said "has no Contents"
+  done
+}
+
+TestCheckFindsFoldersThatTheirOwnerCannotWrite() {
+  make_good_bundle
+  repack chmod 555 Contents/Resources
+  expect_failure "folders that their owner can't write" check_bundle good/Larkmoor.app
+  chmod 755 unpacked/Contents/Resources
+}
+
 TestCheckFindsPackageThatIsNotFromTheInsideOfAClient() {
   make_good_bundle
   repack mv Contents/MacOS/larkmoor-drive-ui Contents/MacOS/client

@@ -1,9 +1,14 @@
 #!/usr/bin/env bash
 # preset-stand-in.sh TOOL ARGUMENT...: stands in the place of cmake or ctest. With a preset it only
-# looks whether the tool has that one; anything else is the tool's own business.
+# looks whether the tool has that one. A build without one prints what it would do; anything else is
+# the tool's own business.
 tool=$1
 shift
-case " $* " in *" --preset "*) ;; *) exec "$tool" "$@" ;; esac
+case " $* " in
+  *" --preset "*) ;;
+  " --build "*) exec "$tool" "$@" -- -n ;;
+  *) exec "$tool" "$@" ;;
+esac
 
 case "$(basename "$tool") $1" in
   "cmake --build") kind=build ;;

@@ -4,6 +4,8 @@
 # shellcheck source=tests/scripts/harness.sh
 . "$(dirname "$0")/harness.sh"
 
+PROJECT=$(dirname "$SCRIPTS")
+
 # fake NAME COMMAND: a program in the folder "bin" that does this.
 fake() {
   mkdir -p bin
@@ -100,23 +102,99 @@ TestTestRefusesUnknownModesAndStrayWords() {
   expect_failure "only the mode fuzz" "$SCRIPTS/test" -n asan 60
 }
 
-# A copy of the project's scripts whose tools do nothing; ctest writes down what it is given.
-test_with_fakes() {
+# copy_with_fakes [COMMAND]: a copy of the project's scripts whose tools do nothing. ctest writes down
+# what it is given, and runs the command in the build folder.
+copy_with_fakes() {
   cp -r "$SCRIPTS" .
-  mkdir -p build/release bin
+  mkdir -p build/release
   fake cmake :
-  fake ctest 'echo "$@" >../../calls'
-  PATH=$PWD/bin:$PATH expect_success "$PWD/scripts/test" -n "$@"
+  fake ctest "echo \"\$@\" >../../calls; ${1:-:}"
 }
+
+test_copy() { PATH=$PWD/bin:$PATH "$PWD/scripts/test" -n "$@"; }
 
 TestTestHandsOnWhatFollowsTheDashesWithAndWithoutAMode() {
   local words
+  copy_with_fakes
   for words in "-- -R Extractor" "default -- -R Extractor"; do
     # shellcheck disable=SC2086  # a list of words
-    test_with_fakes $words
+    expect_success test_copy $words
     grep -q -e ' -R Extractor$' calls || fail "with '$words' ctest was given: $(cat calls)"
-    rm -r scripts calls
+    rm calls
   done
+}
+
+TestTestPrintsTheFiguresOfTheSweepsThatRan() {
+  copy_with_fakes 'mkdir -p tests/faults/figures && echo 268 points >tests/faults/figures/Crash.txt'
+  expect_success test_copy faults
+  expect_said "268 points"
+}
+
+TestTestEndsWellWhereTheSelectionLeavesNoFigures() {
+  copy_with_fakes
+  expect_success test_copy faults -- -R ManyStarts
+  expect_not_said "What the sweeps met"
+}
+
+# The fake ctest leaves the file "log" as its own.
+readonly LEAVE_LOG='mkdir -p Testing/Temporary && cp ../../log Testing/Temporary/LastTest.log'
+
+TestTestGivesTheReasonsOfTheTestsThatSkipped() {
+  copy_with_fakes "$LEAVE_LOG"
+  cat >log <<'END'
+1/4 Testing: Volume.Full
+1/4 Test: Volume.Full
+Output:
+/there/volume-test.cpp:83: Skipped
+only root can mount
+
+[  SKIPPED ] Volume.Full (0 ms)
+2/4 Testing: script-bundle
+2/4 Test: script-bundle
+Output:
+ok      TestThis
+skipped TestThat: strace is not installed
+3/4 Testing: Volume.Empty
+3/4 Test: Volume.Empty
+Output:
+[       OK ] Volume.Empty (0 ms)
+4/4 Testing: reference
+4/4 Test: reference
+Output:
+skipped: Doxygen is not installed
+END
+  expect_success test_copy
+  expect_equal "== Skipped
+  Volume.Full: only root can mount
+  script-bundle, TestThat: strace is not installed
+  reference: Doxygen is not installed" "$(sed -n '/^== Skipped/,$p' out)"
+}
+
+TestTestGivesThemAfterAFailureTooAndKeepsItsStatus() {
+  copy_with_fakes "$LEAVE_LOG; exit 8"
+  printf '1/1 Test: reference\nskipped: no Doxygen\n' >log
+  test_copy default >out 2>&1
+  expect_equal 8 $?
+  grep -qF "  reference: no Doxygen" out || fail "no reason is told" "$(cat out)"
+}
+
+TestTestSaysNothingOfSkippingWhereEveryTestRan() {
+  copy_with_fakes "$LEAVE_LOG"
+  printf '1/1 Test: reference\n' >log
+  expect_success test_copy
+  expect_not_said "Skipped"
+}
+
+TestASkippedFunctionIsNeitherPassedNorFailed() {
+  cat >some-test.sh <<END
+. "$PROJECT/tests/scripts/harness.sh"
+TestThis() { :; }
+TestThat() { skip "no moon"; }
+run_tests
+END
+  expect_success bash some-test.sh
+  expect_said "skipped TestThat: no moon"
+  expect_said "1 passed, 0 failed, 1 skipped"
 }
 
 run_tests

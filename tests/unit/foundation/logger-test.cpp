@@ -7,13 +7,17 @@
 #include <syslog.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
+#include <climits>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
 #include <filesystem>
 #include <functional>
 #include <future>
+#include <map>
 #include <regex>
 #include <sstream>
 #include <string>
@@ -23,6 +27,7 @@
 
 #include "support/files.h"
 #include "support/logger-probe.h"
+#include "support/process.h"
 
 namespace fs = std::filesystem;
 using test::ReadFile;
@@ -125,6 +130,40 @@ void WriteRecordOf(int length, char const* end = "\n") {
   Logger::LogMsg(Logger::LEVEL_ERROR, log_component::service(), "%s%s", text.c_str(), end);
 }
 
+/// The working folder for as long as it lives, made anew.
+class WorkingFolder {
+ public:
+  explicit WorkingFolder(fs::path const& folder) : former_(fs::current_path()) {
+    fs::create_directory(folder);
+    fs::current_path(folder);
+  }
+  ~WorkingFolder() { fs::current_path(former_); }
+  WorkingFolder(WorkingFolder const&) = delete;
+  WorkingFolder& operator=(WorkingFolder const&) = delete;
+
+ private:
+  fs::path former_;
+};
+
+std::vector<std::string> EntriesHere() {
+  std::vector<std::string> names;
+  for (auto const& entry : fs::directory_iterator(".")) names.push_back(entry.path().filename());
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+/// What memory may hold where nobody has written.
+struct Found {
+  int size;
+  std::uint64_t count;
+};
+constexpr Found kFound[] = {{0, 0}, {kRotateAt - 1, 1}, {INT_MAX, ~0ULL}, {-7, 2}};
+
+void LeaveInMemory(Found const& found) {
+  *LoggerProbe::Size() = found.size;
+  *LoggerProbe::SharedCount() = found.count;
+}
+
 void RotateLocked() {
   Logger::Lock();
   EXPECT_EQ(Logger::Rotate(), 0);
@@ -192,6 +231,47 @@ TEST_F(LoggerTest, WritesARecordBeforeMain) {
               MatchesRegex("[A-Z][a-z]+ [0-9]+ [0-9:]+ .ERROR. start.[0-9]+.: before main\n"));
 }
 
+/// Runs a program that logs from its first constructor to its last destructor.
+class LogOutsideMain : public LoggerTest {
+ protected:
+  std::string ErrorOutput(std::map<std::string, std::string> environment = {}) {
+    WriteFile(folder_ / "levels", "service_debug=7\n");
+    environment["LARKMOOR_TEST_LOG"] = LogPath();
+    environment["LARKMOOR_TEST_LEVELS"] = folder_ / "levels";
+    test::Process::Options options;
+    options.arguments = {LARKMOOR_TEST_LOG_OUTSIDE_MAIN};
+    options.environment = environment;
+    test::Outcome const outcome = test::Run(options);
+    EXPECT_EQ(outcome.status, 0);
+    return WithoutStamps(outcome.err);
+  }
+  /// The generation that the rotation has made, without what it was filled with.
+  std::string Rotated() const {
+    std::string const text = ReadFile(Generation(0));
+    return WithoutStamps(text.substr(0, text.find("xxxx") - kStampLength));
+  }
+};
+
+TEST_F(LogOutsideMain, RecordsAheadOfInitializeGoToStandardError) {
+  EXPECT_EQ(ErrorOutput(), "E first constructor\nE object made\n");
+}
+
+TEST_F(LogOutsideMain, RecordsOfDestructorsFindLevelsAndPath) {
+  ErrorOutput();
+  EXPECT_EQ(Rotated(),
+            "E main\nD main\nE object destroyed\nD object destroyed\n"
+            "E last destructor\nD last destructor\n");
+  EXPECT_EQ(WithoutStamps(Text()), "E after the rotation\nD after the rotation\n");
+}
+
+TEST_F(LogOutsideMain, LogOpenedByTheFirstConstructorStaysOpen) {
+  EXPECT_EQ(ErrorOutput({{"LARKMOOR_TEST_LOG_FROM_THE_BEGINNING", "1"}}), "");
+  EXPECT_EQ(Rotated(),
+            "E first constructor\nD first constructor\nE object made\nD object made\n"
+            "E main\nD main\nE object destroyed\nD object destroyed\n"
+            "E last destructor\nD last destructor\n");
+}
+
 TEST_F(LoggerTest, BeforeInitializeWritesStampedRecordsToStandardError) {
   std::string out;
   std::string const text = StandardErrorOf([&] {
@@ -231,6 +311,7 @@ TEST_F(LoggerTest, NoticesAChangeOfTheTimeZone) {
   std::string const former = zone == nullptr ? "" : zone;
   auto const hour = [&] {
     fs::resize_file(LogPath(), 0);
+    *LoggerProbe::Size() = 0;  // so many records would rotate the log meanwhile
     LOG_MSG(LEVEL_ERROR, log_component::service(), "x%d\n");
     return std::stoi(Text().substr(7, 2));
   };
@@ -356,6 +437,138 @@ TEST_F(LoggerTest, InitializeFailsForAFileThatCannotBeOpenedAndKeepsTheFormerStr
   EXPECT_EQ(LoggerProbe::Stream(), stdout);
   EXPECT_EQ(LoggerProbe::Path(), "");
   EXPECT_EQ(LoggerProbe::RotateCount(), 50);
+}
+
+TEST_F(LoggerTest, FileThatCannotBeOpenedLeavesEveryRecordToStandardError) {
+  WorkingFolder const here(folder_ / "here");
+  std::vector<std::string> const names = {"_0", "_1", "_48", "_49"};
+  for (std::string const& name : names) WriteFile(name, name);
+  for (Found const& found : kFound) {
+    LoggerProbe::Restart();
+    ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, folder_.path().c_str(), "", 50), -1);
+    LeaveInMemory(found);
+    std::string const text = StandardErrorOf([] {
+      LogThrough2(3, "%s\n", "first");
+      for (int i = 0; i < 3; ++i) WriteRecordOf(kRotateAt);
+      LogThrough2(7, "%s\n", "filtered");
+      LogThrough2(4, "%s\n", "last");
+    });
+    EXPECT_EQ(text.size(), 3U * kRotateAt + 2U * kStampLength + std::strlen("first\nlast\n"));
+    EXPECT_THAT(text.substr(0, kStampLength + 6),
+                MatchesRegex("[A-Z][a-z][a-z] [0-9][0-9] [0-9:]+ first\n"));
+    EXPECT_THAT(text, testing::EndsWith(" last\n"));
+    EXPECT_NE(fcntl(STDERR_FILENO, F_GETFD), -1);
+    EXPECT_EQ(LoggerProbe::Stream(), stderr);
+    EXPECT_EQ(LoggerProbe::Type(), Logger::TYPE_FILE);
+    EXPECT_EQ(LoggerProbe::Path(), "");
+    EXPECT_EQ(EntriesHere(), names);
+    for (std::string const& name : names) EXPECT_EQ(ReadFile(name), name);
+  }
+}
+
+TEST_F(LoggerTest, FileOfAnUnknownTypeThatCannotBeOpenedLeavesStandardErrorOpen) {
+  WorkingFolder const here(folder_ / "here");
+  for (Found const& found : kFound) {
+    LoggerProbe::Restart();
+    ASSERT_EQ(Logger::Initialize(static_cast<Logger::Type>(0), "", "", 50), -1);
+    LeaveInMemory(found);
+    EXPECT_EQ(StandardErrorOf([] {
+                for (char const* text : {"one", "two"}) LogThrough2(3, "%s\n", text);
+              }),
+              "one\ntwo\n");
+    EXPECT_EQ(LoggerProbe::Stream(), stderr);
+  }
+}
+
+TEST_F(LoggerTest, SecondFileThatCannotBeOpenedLeavesTheFirstInUse) {
+  for (Found const& found : kFound) {
+    LoggerProbe::Restart();
+    fs::remove(LogPath());
+    fs::remove(Generation(0));
+    ASSERT_EQ(OpenFile(3), 0);
+    RotateLocked();
+    LogThrough2(3, "%s\n", "before");
+    ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, folder_.path().c_str(), "", 50), -1);
+    LeaveInMemory(found);
+    EXPECT_EQ(LoggerProbe::Path(), LogPath());
+    EXPECT_EQ(LoggerProbe::RotateCount(), 3);
+    FILE* const stream = LoggerProbe::Stream();
+    LogThrough2(3, "%s\n", "after");
+    EXPECT_EQ(LoggerProbe::Stream(), stream);
+    EXPECT_EQ(WithoutStamps(Text()), "before\nafter\n");
+    // Rotates as if it had been opened when the second one wasn't.
+    WriteRecordOf(kRotateAt - 1 - (kStampLength + 6));
+    EXPECT_EQ(*LoggerProbe::Size(), kRotateAt - 1);
+    WriteRecordOf(20);
+    EXPECT_EQ(fs::file_size(Generation(0)), kRotateAt + 19U + kStampLength + 7U);
+    EXPECT_EQ(*LoggerProbe::SharedCount(), LoggerProbe::PrivateCount());
+    LogThrough2(3, "%s\n", "last");
+    EXPECT_EQ(WithoutStamps(Text()), "last\n");
+  }
+}
+
+TEST_F(LoggerTest, FirstFileCanBeReloadedAndRotatedWhereTheSecondCannotBeOpened) {
+  for (Found const& found : kFound) {
+    LoggerProbe::Restart();
+    fs::remove(LogPath());
+    ASSERT_EQ(OpenFile(), 0);
+    ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, folder_.path().c_str(), "", 50), -1);
+    LeaveInMemory(found);
+    Logger::ReloadLogFile();
+    EXPECT_EQ(*LoggerProbe::Size(), 0);
+    LogThrough2(3, "%s\n", "reloaded");
+    EXPECT_EQ(WithoutStamps(Text()), "reloaded\n");
+
+    ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, folder_.path().c_str(), "", 50), -1);
+    LeaveInMemory(found);
+    RotateLocked();
+    EXPECT_EQ(*LoggerProbe::SharedCount(), LoggerProbe::PrivateCount());
+    FILE* const stream = LoggerProbe::Stream();
+    LogThrough2(3, "%s\n", "rotated");
+    EXPECT_EQ(LoggerProbe::Stream(), stream);
+    EXPECT_EQ(WithoutStamps(ReadFile(Generation(0))), "reloaded\n");
+    EXPECT_EQ(WithoutStamps(Text()), "rotated\n");
+  }
+}
+
+TEST_F(LoggerTest, ReloadAndRotationWithoutALogFileSilenceTheLog) {
+  WorkingFolder const here(folder_ / "here");
+  auto const expect_silence = [&](std::function<void()> const& act) {
+    pid_t const child = fork();
+    if (child == 0) {  // closing standard error is nothing for a test to go on with
+      LoggerProbe::Restart();
+      Logger::Initialize(Logger::TYPE_FILE, "", "", 50);
+      act();
+      bool const is_silent = LoggerProbe::Stream() == nullptr;
+      LogThrough2(3, "%s\n", "lost");
+      _exit(is_silent && LoggerProbe::Stream() == nullptr ? 0 : 1);
+    }
+    int status = -1;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+  };
+  expect_silence([] { Logger::ReloadLogFile(); });
+  expect_silence([] {
+    Logger::Lock();
+    if (Logger::Rotate() != -1) _exit(2);
+    Logger::Unlock();
+  });
+  EXPECT_THAT(EntriesHere(), IsEmpty());
+}
+
+TEST_F(LoggerTest, FileThatCannotBeOpenedAfterSyslogLeavesTheLogSilent) {
+  ASSERT_EQ(Logger::Initialize(Logger::TYPE_SYSLOG, "", "", 50), 0);
+  ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, "", "", 50), -1);
+  EXPECT_EQ(LoggerProbe::Stream(), nullptr);
+  EXPECT_EQ(StandardErrorOf([] { WriteRecordOf(100); }), "");
+}
+
+TEST_F(LoggerTest, InitializeAfterAFailedOneLogsToTheFile) {
+  ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, "", "", 50), -1);
+  EXPECT_NE(StandardErrorOf([] { WriteRecordOf(100); }), "");
+  ASSERT_EQ(OpenFile(), 0);
+  EXPECT_EQ(StandardErrorOf([] { WriteRecordOf(kRotateAt); }), "");
+  EXPECT_EQ(fs::file_size(Generation(0)), kRotateAt + 0U);
 }
 
 TEST_F(LoggerTest, FailedInitializeDoesNotEndTheSilenceAfterDestroy) {

@@ -2,7 +2,9 @@
 #include <gmock/gmock.h>
 #include <unicode/unorm2.h>
 
+#include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <new>
 #include <string>
 
@@ -123,6 +125,156 @@ TEST_F(UstringFailure, AssignWithoutMemoryThrowsAndLeavesTheTargetEmpty) {
   ExpectBadAlloc(0, [&] { s.assign("longer than that"); });
   EXPECT_TRUE(s.empty());
   EXPECT_EQ(s.assign("longer than that"), "longer than that");
+}
+
+/// One way to change a text, and what the text is afterwards.
+struct Change {
+  char const* name;
+  bool keeps;  ///< whether the former text stands when memory runs out; else there is none
+  void (*apply)(ustring& s);
+  std::string (*outcome)(std::string const& former);
+};
+
+constexpr char kLong[] = "forty bytes that don't fit into what is had";
+std::basic_string<unsigned short> const kWide(43, 'w');
+
+unsigned short const* Own16(ustring const& s, unsigned long at) {
+  return UstringProbe::Wide(s) + std::min(at, UstringProbe::WideLength(s));
+}
+
+// Each text has five bytes at least, all of them ASCII.
+Change const kChanges[] = {
+    {"append", true, [](ustring& s) { s.append(kLong); },
+     [](std::string const& t) { return t + kLong; }},
+    {"append(n)", true, [](ustring& s) { s.append(kLong, 30); },
+     [](std::string const& t) { return t + std::string(kLong, 30); }},
+    {"append(c)", true, [](ustring& s) { s.append('c', 40); },
+     [](std::string const& t) { return t + std::string(40, 'c'); }},
+    {"append(string)", true, [](ustring& s) { s.append(std::string(kLong), 2, 30); },
+     [](std::string const& t) { return t + std::string(kLong + 2, 30); }},
+    {"append(ustring)", true, [](ustring& s) { s.append(ustring(kLong), 2, 30); },
+     [](std::string const& t) { return t + std::string(kLong + 2, 30); }},
+    {"append(self)", true, [](ustring& s) { s.append(s, 1, ustring::npos); },
+     [](std::string const& t) { return t + t.substr(1); }},
+    {"append(own)", true, [](ustring& s) { s.append(s.c_str()); },
+     [](std::string const& t) { return t + t; }},
+    {"append(inside)", true, [](ustring& s) { s.append(s.c_str() + 2, 3); },
+     [](std::string const& t) { return t + t.substr(2, 3); }},
+    {"wide append", true, [](ustring& s) { s.append(kWide.c_str()); },
+     [](std::string const& t) { return t + std::string(43, 'w'); }},
+    {"wide append(n)", true, [](ustring& s) { s.append(kWide.c_str(), 2); },
+     [](std::string const& t) { return t + "ww"; }},
+    {"wide append(c)", true, [](ustring& s) { s.append(kWide[0], 40); },
+     [](std::string const& t) { return t + std::string(40, 'w'); }},
+    {"wide append(own)", true, [](ustring& s) { s.append(s.c_str_utf16()); },
+     [](std::string const& t) { return t + t; }},
+    {"wide append(inside)", true, [](ustring& s) { s.append(s.c_str_utf16() + 2, 3); },
+     [](std::string const& t) { return t + t.substr(2, 3); }},
+    {"+=", true, [](ustring& s) { s += kLong; }, [](std::string const& t) { return t + kLong; }},
+    {"wide +=", true, [](ustring& s) { s += kWide[0]; },
+     [](std::string const& t) { return t + "w"; }},
+    {"assign", false, [](ustring& s) { s.assign(kLong); },
+     [](auto const&) { return std::string(kLong); }},
+    {"assign(n)", false, [](ustring& s) { s.assign(kLong, 2); },
+     [](auto const&) { return std::string("fo"); }},
+    {"assign(c)", false, [](ustring& s) { s.assign('c', 70); },
+     [](auto const&) { return std::string(70, 'c'); }},
+    {"assign(string)", false, [](ustring& s) { s.assign(std::string(kLong), 1, 30); },
+     [](auto const&) { return std::string(kLong + 1, 30); }},
+    {"assign(self)", false, [](ustring& s) { s.assign(s, 3, 1); },
+     [](std::string const& t) { return t.substr(3, 1); }},
+    {"assign(inside)", false, [](ustring& s) { s.assign(s.c_str() + 1, 2); },
+     [](std::string const& t) { return t.substr(1, 2); }},
+    {"assign(own)", false, [](ustring& s) { s.assign(s.c_str(), 3); },
+     [](std::string const& t) { return t.substr(0, 3); }},
+    {"wide assign", false, [](ustring& s) { s.assign(kWide.c_str()); },
+     [](auto const&) { return std::string(43, 'w'); }},
+    {"wide assign(n)", false, [](ustring& s) { s.assign(kWide.c_str(), 2); },
+     [](auto const&) { return std::string("ww"); }},
+    {"wide assign(c)", false, [](ustring& s) { s.assign(kWide[0], 70); },
+     [](auto const&) { return std::string(70, 'w'); }},
+    {"= wide c", false, [](ustring& s) { s = kWide[0]; },
+     [](auto const&) { return std::string("w"); }},
+    {"=", false, [](ustring& s) { s = kLong; }, [](auto const&) { return std::string(kLong); }},
+    {"ltrim", true, [](ustring& s) { s.ltrim("a"); },
+     [](std::string const& t) { return t.substr(1); }},
+    {"rtrim", true, [](ustring& s) { s.rtrim("z"); },
+     [](std::string const& t) { return t.substr(0, t.size() - 1); }},
+    {"trim", true, [](ustring& s) { s.trim("az"); },
+     [](std::string const& t) { return t.substr(1, t.size() - 2); }},
+};
+
+// These need the UTF-16 copy to stand before memory runs out: c_str_utf16() may throw by itself.
+Change const kChangesOfTheCopy[] = {
+    {"wide assign(own)", false, [](ustring& s) { s.assign(Own16(s, 0), 3); },
+     [](std::string const& t) { return t.substr(0, 3); }},
+    {"wide assign(inside)", false, [](ustring& s) { s.assign(Own16(s, 1), 2); },
+     [](std::string const& t) { return t.substr(1, 2); }},
+};
+
+std::string const kTexts[] = {"abcyz", "a text of middling length, z",
+                              "a" + std::string(300, 'b') + "z"};
+
+/// The copy holds the text, or nothing.
+void ExpectCopyOfTheText(ustring const& s) {
+  if (UstringProbe::WideLength(s) == 0) {
+    EXPECT_EQ(*UstringProbe::Wide(s), 0);
+    return;
+  }
+  std::string const text(s.c_str());
+  auto const* const wide = UstringProbe::Wide(s);
+  EXPECT_EQ(std::string(wide, wide + UstringProbe::WideLength(s)), text);
+}
+
+/// Refuses each allocation of the change in turn, until it needs no more than it is given.
+void RefuseEachAllocation(Change const& change, std::string const& text, bool with_copy) {
+  SCOPED_TRACE(std::string(change.name) + " of '" + text + (with_copy ? "' with its copy" : "'"));
+  for (int successes = 0;; ++successes) {
+    SCOPED_TRACE(successes);
+    ASSERT_LT(successes, 10);
+    ustring s(text);
+    if (with_copy) s.c_str_utf16();
+    bool threw = false;
+    allocations_left = successes;
+    try {
+      change.apply(s);
+    } catch (std::bad_alloc const&) {
+      threw = true;
+    }
+    allocations_left = -1;
+    EXPECT_EQ(std::strlen(s.c_str()), s.length());
+    EXPECT_LT(s.length(), UstringProbe::DataCapacity(s));
+    EXPECT_LT(UstringProbe::WideLength(s), UstringProbe::WideCapacity(s));
+    ExpectCopyOfTheText(s);
+    if (!threw) {
+      EXPECT_EQ(s.c_str(), change.outcome(text));
+      return;
+    }
+    EXPECT_EQ(s.c_str(), change.keeps ? text : "");
+    s.assign(text.c_str());
+    s.c_str_utf16();
+    change.apply(s);
+    EXPECT_EQ(s.c_str(), change.outcome(text));
+    ExpectCopyOfTheText(s);
+  }
+}
+
+TEST_F(UstringFailure, ChangeWithoutMemoryLeavesTheFormerTextOrNoneAndNoOtherCopy) {
+  for (std::string const& text : kTexts) {
+    for (Change const& change : kChanges) {
+      RefuseEachAllocation(change, text, false);
+      RefuseEachAllocation(change, text, true);
+    }
+    for (Change const& change : kChangesOfTheCopy) RefuseEachAllocation(change, text, true);
+  }
+}
+
+TEST_F(UstringFailure, AssigningAPartOfItselfWithoutMemoryLeavesNoCopyOfTheFormerText) {
+  ustring s("abcdefghijklmnop");
+  s.c_str_utf16();
+  ExpectBadAlloc(0, [&] { s.assign(s, 3, 4); });
+  EXPECT_EQ(s.c_str_utf16()[0], s[0]);
+  EXPECT_EQ(s.assign("abcdefghijklmnop").assign(s, 3, 4), "defg");
 }
 
 TEST_F(UstringFailure, ConversionWithoutMemoryThrowsAndKeepsTheText) {

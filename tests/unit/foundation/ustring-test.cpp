@@ -390,6 +390,17 @@ TEST(Ustring, PlusJoinsEveryKindOfText) {
   EXPECT_EQ(s, ustring("ab"));
 }
 
+TEST(Ustring, PlusHoldsNoUtf16) {
+  ustring s("ab");
+  s.c_str_utf16();
+  for (ustring const& sum :
+       {s + "c", s + 'c', s + s, s + Units(u"cdefghi"), s + static_cast<unsigned short>('c')}) {
+    EXPECT_EQ(UstringProbe::WideLength(sum), 0U);
+    EXPECT_EQ(UstringProbe::WideCapacity(sum), 4U);
+    EXPECT_EQ(*UstringProbe::Wide(sum), 0);
+  }
+}
+
 // ---- substr ----
 
 TEST(Ustring, SubstrAtTheEndIsEmptyAndBehindItThrows) {
