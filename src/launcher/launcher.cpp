@@ -2,7 +2,10 @@
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QEvent>
+#include <QEventLoop>
 #include <QFont>
+#include <QTimer>
 #include <climits>
 
 #include "foundation/logger.h"
@@ -15,6 +18,36 @@ namespace {
 
 constexpr int kReady = 519;  // desc_lkmr_env_preparation_done
 constexpr unsigned long kGatheringMs = 2;
+constexpr int kFrameMs = 17;         // what a screen of 60 Hz shows at least
+constexpr int kOutOfSightMs = 1000;  // for a window that the system doesn't let paint
+
+/// Ends an event loop once the screen has shown what a window paints.
+class PaintWatch : public QObject {
+ public:
+  PaintWatch(QWidget* window, QEventLoop* loop) : loop_(loop) { window->installEventFilter(this); }
+
+  bool eventFilter(QObject* /*window*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) QTimer::singleShot(kFrameMs, loop_, &QEventLoop::quit);
+    return false;
+  }
+
+ private:
+  QEventLoop* loop_;
+};
+
+/// Returns when the screen has shown the window as it is now. Painting comes after the signals that
+/// wait in the queue, and the window system may still be about to map the window of a short run: if
+/// it were hidden right away, its last label would never be seen.
+void LetItBeSeen(QWidget* window) {
+  if (!window->isVisible()) return;
+  QEventLoop loop;
+  PaintWatch const watch(window, &loop);
+  QTimer::singleShot(kOutOfSightMs, &loop, &QEventLoop::quit);
+  // Not update(): the event that it posts may wait behind the one that is being delivered, and the
+  // loop would not look at it. What can't be painted yet is painted when the window is mapped.
+  window->repaint();
+  loop.exec();
+}
 
 }  // namespace
 
@@ -113,6 +146,8 @@ void Launcher::UpdateProgress(int total, int steps) { dialog->setValue(steps * 1
 void Launcher::SetLabelText(const QString& text) { dialog->setLabelText(text); }
 
 void Launcher::LaunchDone() {
+  // The worker has started the client already, so nobody waits for this.
+  LetItBeSeen(dialog);
   dialog->setValue(100);
   dialog->hide();
   // Joined before the loop is asked to end, so that main may delete us at once.

@@ -1,9 +1,5 @@
 // A window that gets far more notifications than it can paint.
 #include <gmock/gmock.h>
-#include <stdlib.h>
-
-#include <filesystem>
-#include <system_error>
 
 #include "support/sandbox.h"
 #include "support/x-server.h"
@@ -20,16 +16,9 @@ constexpr int kFlood = 100000;
 /// What one queued call with its two numbers takes in Qt's queue, generously.
 constexpr long kQueuedCallBytes = 400;
 
-/// Hundreds of thousands of files are made and removed here, which a disk takes its time over.
-void PreferMemory() {
-  std::error_code ignored;
-  std::filesystem::space_info const shared = std::filesystem::space("/dev/shm", ignored);
-  if (!ignored && shared.available > (1U << 30)) setenv("TMPDIR", "/dev/shm", 1);
-}
-
 /// An installation of so many entries, on a stack that would not hold a nesting per notification.
 test::Outcome Install(int files, std::map<std::string, std::string> const& environment) {
-  PreferMemory();
+  test::PreferMemory();
   test::Sandbox box;
   box.CarryVersion(100);
   box.CarryPackage(test::MakeArchive(test::Sandbox::ClientWithFiles(100, files), "gnutar", "gzip"));

@@ -25,6 +25,10 @@ class TempDir {
   std::filesystem::path path_;
 };
 
+/// Puts the temporary folders that come into memory, if there is enough of it. For tests that make
+/// and remove thousands of files, which a disk takes its time over.
+void PreferMemory();
+
 /// Writes a file, making the folders above it.
 void WriteFile(std::filesystem::path const& path, std::string const& bytes);
 std::string ReadFile(std::filesystem::path const& path);
