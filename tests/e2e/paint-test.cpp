@@ -27,8 +27,10 @@ class Painting : public testing::TestWithParam<char const*> {
   }
 
   /// What the witness in the launcher saw of one run.
-  std::vector<std::string> Run(test::Sandbox const& box) const {
+  std::vector<std::string> Run(test::Sandbox const& box,
+                               std::string const& locale = "en_US.UTF-8") const {
     test::Process::Options start = box.Start();
+    start.environment["LC_ALL"] = locale;
     start.environment["LARKMOOR_TEST_WITNESS"] = box.folder() / "witness";
     if (char const* keep = getenv("LARKMOOR_TEST_PICTURES")) {
       start.environment["LARKMOOR_TEST_WITNESS_PICTURE"] =
@@ -68,6 +70,9 @@ class Painting : public testing::TestWithParam<char const*> {
   std::unique_ptr<test::XServer> server;
 };
 
+/// What memory alone can't do: a window that is drawn there always appears.
+class PaintingOnAScreen : public Painting {};
+
 TEST_P(Painting, ShowsThatAllIsReadyBeforeTheWindowOfASmallPackageGoes) {
   ExpectReadyBeforeTheWindowGoes(60);
 }
@@ -96,8 +101,15 @@ TEST_P(Painting, NeverSaysThatAllIsReadyAfterAFailure) {
   EXPECT_THAT(seen, Not(Contains(StartsWith("paint 100"))));
 }
 
-TEST_P(Painting, EndsThoughTheWindowNeverAppears) {
-  if (server == nullptr) GTEST_SKIP() << "a window in memory always appears";
+TEST_P(Painting, ShowsTheTextsInTheLanguageOfTheSystem) {
+  test::Sandbox box(LARKMOOR_TEST_LAUNCHER_WITH_WITNESS);
+  box.Carry(100);
+  std::vector<std::string> const seen = Run(box, "de_DE.UTF-8");
+  EXPECT_THAT(seen, Contains("paint 100 Larkmoor Drive ist bereit."));
+  EXPECT_THAT(seen, Contains("hide shown"));
+}
+
+TEST_P(PaintingOnAScreen, EndsThoughTheWindowNeverAppears) {
   test::Process::Options manager;
   manager.arguments = {LARKMOOR_TEST_HOLD_WINDOWS};
   manager.environment = {{"DISPLAY", server->Display()}};
@@ -110,6 +122,8 @@ TEST_P(Painting, EndsThoughTheWindowNeverAppears) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Screens, Painting, testing::Values("offscreen", "xcb"),
+                         [](auto const& screen) { return std::string(screen.param); });
+INSTANTIATE_TEST_SUITE_P(Screens, PaintingOnAScreen, testing::Values("xcb"),
                          [](auto const& screen) { return std::string(screen.param); });
 
 }  // namespace

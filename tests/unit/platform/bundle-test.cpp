@@ -108,6 +108,14 @@ TEST_F(Bundle, HandsNoDescriptorOfOursToItsProgram) {
   wait(nullptr);
 }
 
+TEST_F(Bundle, StartsItsProgramWithEachStandardDescriptorOnTheNullDevice) {
+  InstallClient("readlink /proc/$$/fd/0 /proc/$$/fd/1 /proc/$$/fd/2 | tee '" + (folder / "part") +
+                "' > /dev/null; mv '" + (folder / "part") + "' '" + (folder / "standard") + "'\n");
+  ASSERT_TRUE(platform::OpenBundle(App()));
+  EXPECT_EQ(Await("standard"), "/dev/null\n/dev/null\n/dev/null\n");
+  wait(nullptr);
+}
+
 TEST_F(Bundle, StartsItsProgramHeedingTheSignalsThatWeIgnore) {
   auto* const former = signal(SIGTERM, SIG_IGN);
   InstallClient("sed -n 's/^SigIgn:.//p' /proc/$$/status > '" + (folder / "part") + "'; mv '" +

@@ -203,4 +203,24 @@ TEST_F(SingleInstance, FindsTheSameGuardWhateverTheEnvironmentSays) {
   unsetenv("XDG_RUNTIME_DIR");
 }
 
+// What a start finds after a boot: none of the folders that a lock can be in. Root may change the
+// folders of a mount namespace of its own; anybody can be root in a user namespace.
+TEST_F(SingleInstance, IsHeldByTheFirstStartThatMakesTheFolder) {
+  std::string const prepare = "mount -t tmpfs none /dev/shm && mount -t tmpfs none /run";
+  std::string const in_namespace = "exec unshare --user --map-root-user --mount sh -c ";
+  if (test::Run({{"sh", "-c", in_namespace + "'" + prepare + "'"}, {}, "", "", false}).status !=
+      0) {
+    GTEST_SKIP() << "this system allows no user namespace, or no mount in one";
+  }
+  test::Process::Options options;
+  options.folder = folder.path();
+  options.environment = {{"QT_QPA_PLATFORM", "offscreen"}, {"PROGRAM", LARKMOOR_TEST_GUARD_HOLDER}};
+  options.arguments = {"sh", "-c",
+                       "mkfifo input output; " + in_namespace + "'" + prepare +
+                           " && { \"$PROGRAM\" once < input > output & } && exec 3> input &&"
+                           " read -r first < output && second=$(\"$PROGRAM\" once < /dev/null) &&"
+                           " echo \"$first $second\"'"};
+  EXPECT_EQ(test::Run(options).out, "first second\n");
+}
+
 }  // namespace
