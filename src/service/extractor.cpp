@@ -9,6 +9,7 @@
 #include "foundation/logger.h"
 #include "launcher/notify-adapter.h"
 #include "localisation/str-table.h"
+#include "platform/volume-flush.h"
 
 namespace {
 
@@ -127,6 +128,10 @@ int Extractor::ExtractEntries(archive* reader, archive* writer, int total) {
     }
     // A hard link's target keeps the archive's own path.
     archive_entry_set_pathname(entry, (dest_path + "/" + path).c_str_utf8());
+    // Write-back keeps no order. What the last entry vouches for has to be on the disk before it: a
+    // power cut then leaves a tree without that entry, or a whole one. A failure only means that
+    // there is no such promise.
+    if (count == total) platform::FlushVolume(dest_path.c_str_utf8());
     if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
       LOG_MSG(LEVEL_ERROR, log_component::extractor(),
               "[ERROR] extractor(%d): archive_read_extract2 failed: '%s'\n", ErrorOf(writer));

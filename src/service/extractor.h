@@ -18,7 +18,8 @@ class Extractor {
 
   /// 0 when all entries were written, else -1. The first failure ends it: what was written until
   /// then stays, and entries that stood in the way are gone. Reads the archive twice: once to
-  /// count, so that the progress has an end to move towards.
+  /// count, so that the progress has an end to move towards. Before it writes the last entry, it
+  /// waits until all others are on the disk.
   int Extract();
   /// The number of entries up to the archive's end, or up to where it is damaged. -1 when a path is
   /// empty or the archive can't be opened.

@@ -9,6 +9,7 @@
 
 #include "foundation/file-op.h"
 #include "foundation/logger.h"
+#include "platform/volume-flush.h"
 #include "service/extractor.h"
 
 namespace {
@@ -148,6 +149,10 @@ int Service::PrepareUserEnv() {
     return -1;
   }
 
+  // The removal of the old tree mustn't reach the disk before the new one has: a power cut would
+  // leave neither. This also saves a bundle that was copied to this volume just before. Without it
+  // the new tree is no worse, so a failure is none of the upgrade's.
+  platform::FlushVolume(GetUserLarkmoorInstallPath().c_str_utf8());
   LOG_MSG(LEVEL_INFO, log_component::service(),
           "[INFO] larkmoor-service(%d): user installation is ready, removing backup app\n");
   // The lower names are what made the numbers climb: trees of crashed runs that nobody wants back.

@@ -75,11 +75,14 @@ constexpr char kAged[] = "the results of removing the aged folder are ignored";
 constexpr char kClose[] = "the archive library ignores the result of close";
 constexpr char kAgain[] = "made again after EINTR, or behind the last entry";
 constexpr char kNotThere[] = "an application folder that can't be looked at counts as absent";
+constexpr char kFlush[] = "a volume that can't be flushed is installed to all the same";
 constexpr char kFirstLook[] = "mkdir decides, not the look ahead of it";
 
 Rule const kRules[] = {
     {".*", "\\.Larkmoor/log.*", {}, kLog},
     {"mkdir", "\\.Larkmoor", {}, kLog},
+    {"syncfs", ".*", {}, kFlush},
+    {"open", "\\.Larkmoor", {}, kFlush},
     {".*", "Resources/images/.*", {}, kIcon},
     {".*", "Resources/INFO", {}, kTarget},
     {".*", "\\.Larkmoor/ui\\.pid", {}, kPid},

@@ -19,6 +19,7 @@
 #include "support/archive-builder.h"
 #include "support/files.h"
 #include "support/log-capture.h"
+#include "support/volume-flushes.h"
 
 namespace {
 
@@ -142,6 +143,9 @@ class ExtractorFault : public testing::Test {
     extractor.dest_path = (folder / "installed").c_str();
     QObject::connect(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, &context,
                      [](int, int) { the_calls.made.push_back("progress"); });
+    flushes.seen = [this](std::string const& path) {
+      the_calls.made.push_back("flush" + path.substr(folder.path().string().size()));
+    };
     the_calls = Calls();
   }
   ~ExtractorFault() override { the_calls.failing.clear(); }
@@ -164,6 +168,7 @@ class ExtractorFault : public testing::Test {
   test::TempDir folder;
   test::LogCapture log;
   QObject context;
+  test::VolumeFlushes flushes;
   Extractor extractor;
 };
 
@@ -178,9 +183,9 @@ TEST_F(ExtractorFault, CountsThenExtractsWithTheseSettingsAndClosesNothingItself
                   "archive_read_new", "archive_write_disk_new",
                   "archive_write_disk_set_options 8720", "archive_read_support_compression_all",
                   "archive_read_support_format_all", "archive_read_open_filename 10240",
-                  "archive_read_next_header", "archive_entry_pathname", "archive_read_extract2",
-                  "progress", "archive_write_finish_entry", "archive_read_next_header",
-                  "archive_read_free", "archive_write_free"));
+                  "archive_read_next_header", "archive_entry_pathname", "flush/installed",
+                  "archive_read_extract2", "progress", "archive_write_finish_entry",
+                  "archive_read_next_header", "archive_read_free", "archive_write_free"));
 }
 
 TEST_F(ExtractorFault, SaysThatItCannotCountWithoutAReader) {

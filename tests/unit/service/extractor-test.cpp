@@ -11,6 +11,7 @@
 #include "support/archive-builder.h"
 #include "support/files.h"
 #include "support/log-capture.h"
+#include "support/volume-flushes.h"
 
 namespace {
 
@@ -44,6 +45,7 @@ class ExtractorTest : public testing::Test {
   test::TempDir folder;
   test::LogCapture log;
   QObject context;
+  test::VolumeFlushes flushes;
   std::vector<std::pair<int, int>> progress;
   std::vector<std::string> labels;
   Extractor extractor;
@@ -83,6 +85,45 @@ TEST_F(ExtractorTest, SendsOneNotificationPerEntryTotalFirst) {
 
   EXPECT_THAT(progress, ElementsAre(Pair(3, 1), Pair(3, 2), Pair(3, 3)));
   EXPECT_THAT(labels, ElementsAre("Larkmoor Drive is initializing..."));
+}
+
+TEST_F(ExtractorTest, FlushesTheVolumeOnceAllButTheLastEntryAreWritten) {
+  Carry({Entry::Folder("a"), Entry::File("a/b", "1"), Entry::File("last", "2")});
+  std::vector<std::string> flushed;
+  flushes.seen = [&](std::string const& path) {
+    flushed.push_back(path);
+    EXPECT_THAT(progress, ElementsAre(Pair(3, 1), Pair(3, 2)));
+    EXPECT_EQ(ReadFile(Destination() + "/a/b"), "1");
+    EXPECT_FALSE(std::filesystem::exists(Destination() + "/last"));
+  };
+  EXPECT_EQ(extractor.Extract(), 0);
+  EXPECT_THAT(flushed, ElementsAre(Destination()));
+}
+
+TEST_F(ExtractorTest, FlushesTheVolumeBeforeAnOnlyEntry) {
+  Carry({Entry::File("a", "1")});
+  int flushed = 0;
+  flushes.seen = [&](std::string const&) {
+    ++flushed;
+    EXPECT_THAT(test::ReadTree(Destination()), IsEmpty());
+  };
+  EXPECT_EQ(extractor.Extract(), 0);
+  EXPECT_EQ(flushed, 1);
+}
+
+TEST_F(ExtractorTest, FlushesNothingWhereItEndsBeforeTheLastEntry) {
+  Carry({Entry::File("../outside", "1"), Entry::File("last", "2")});
+  flushes.seen = [](std::string const&) { ADD_FAILURE(); };
+  EXPECT_EQ(extractor.Extract(), -1);
+}
+
+TEST_F(ExtractorTest, UnpacksAllTheSameOnAVolumeThatCannotBeFlushed) {
+  Carry({Entry::File("a", "1"), Entry::File("b", "2")});
+  flushes.fail = true;
+  EXPECT_EQ(extractor.Extract(), 0);
+  EXPECT_THAT(progress, ElementsAre(Pair(2, 1), Pair(2, 2)));
+  EXPECT_EQ(ReadFile(Destination() + "/b"), "2");
+  EXPECT_EQ(log.Lines().size(), 1U);
 }
 
 TEST_F(ExtractorTest, LogsWhatItUnpacksAndWhere) {

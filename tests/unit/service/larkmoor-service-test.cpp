@@ -13,6 +13,7 @@
 #include "support/archive-builder.h"
 #include "support/files.h"
 #include "support/log-capture.h"
+#include "support/volume-flushes.h"
 
 namespace fs = std::filesystem;
 
@@ -84,6 +85,7 @@ class ServiceTest : public testing::Test {
 
   Home home;
   test::LogCapture log;
+  test::VolumeFlushes flushes;
   PlainService service;
 };
 
@@ -253,6 +255,52 @@ TEST_F(PrepareUserEnv, MovesTheOldTreeAsideBeforeItUnpacks) {
     return 0;
   };
   EXPECT_EQ(service.PrepareUserEnv(), 0);
+}
+
+TEST_F(PrepareUserEnv, FlushesTheUsersVolumeBeforeAnyBackupIsRemoved) {
+  WriteFile(App() + "/live", "1");
+  WriteFile(Backup(0) + "/stale", "1");
+  service.unpack = [this] {
+    WriteFile(App() + "/new", "1");
+    return 0;
+  };
+  std::vector<std::string> flushed;
+  flushes.seen = [&](std::string const& path) {
+    flushed.push_back(path);
+    EXPECT_TRUE(fs::exists(App() + "/new"));
+    EXPECT_TRUE(fs::exists(Backup(0) + "/stale"));
+    EXPECT_TRUE(fs::exists(Backup(1) + "/live"));
+  };
+  EXPECT_EQ(service.PrepareUserEnv(), 0);
+  EXPECT_THAT(flushed, ElementsAre(UserRoot()));
+}
+
+TEST_F(PrepareUserEnv, FlushesForAFirstInstallationBeforeTheLastEntryAndBehindIt) {
+  CarryPackage({Entry::File("first", "1"), Entry::File("last", "2")});
+  std::vector<std::string> flushed;
+  flushes.seen = [&](std::string const& path) {
+    flushed.push_back(path);
+    EXPECT_TRUE(fs::exists(App() + "/first"));
+    EXPECT_EQ(fs::exists(App() + "/last"), flushed.size() == 2);
+  };
+  EXPECT_EQ(service.PrepareUserEnv(), 0);
+  EXPECT_THAT(flushed, ElementsAre(App(), UserRoot()));
+}
+
+TEST_F(PrepareUserEnv, InstallsAllTheSameOnAVolumeThatCannotBeFlushed) {
+  WriteFile(App() + "/old", "1");
+  CarryPackage({Entry::File("new", "1")});
+  flushes.fail = true;
+  EXPECT_EQ(service.PrepareUserEnv(), 0);
+  EXPECT_EQ(log.OwnLines().back(), kReady);
+  EXPECT_FALSE(fs::exists(Backup(0)));
+}
+
+TEST_F(PrepareUserEnv, FlushesNothingWhenItRollsBack) {
+  WriteFile(App() + "/old", "1");
+  service.unpack = [] { return -1; };
+  flushes.seen = [](std::string const&) { ADD_FAILURE(); };
+  EXPECT_EQ(service.PrepareUserEnv(), -1);
 }
 
 TEST_F(PrepareUserEnv, GetsPastAStaleBackupAndRemovesBothInTheEnd) {
