@@ -317,6 +317,33 @@ TestCheckFindsWrongOrderAndHardLinks() {
   expect_failure "hard links" check_bundle good/Larkmoor.app
 }
 
+# pack_entries NAME...: packs these entries of the client in this order.
+pack_entries() {
+  (cd client && bsdtar -czn --format gnutar -f ../good/Larkmoor.app/Contents/Resources/package/larkmoor.lpk \
+    Contents Contents/MacOS Contents/Resources "$@") || fail "can't pack"
+}
+
+TestCheckWantsTheExecutableLastButOneAndInfoLast() {
+  make_good_bundle
+  local executable=Contents/MacOS/larkmoor-drive-ui info=Contents/Resources/INFO
+  local other=Contents/Resources/über
+  pack_entries $other $executable $info
+  expect_success check_bundle good/Larkmoor.app
+  pack_entries $other $info $executable
+  expect_failure "doesn't end with" check_bundle good/Larkmoor.app
+  pack_entries $executable $other $info
+  expect_failure "doesn't end with" check_bundle good/Larkmoor.app
+  pack_entries $info $executable $other
+  expect_failure "doesn't end with" check_bundle good/Larkmoor.app
+}
+
+TestCheckFindsInfoThatIsUnpackedTwice() {
+  make_good_bundle
+  pack_entries Contents/Resources/INFO Contents/Resources/über Contents/MacOS/larkmoor-drive-ui \
+    Contents/Resources/INFO
+  expect_failure "INFO twice" check_bundle good/Larkmoor.app
+}
+
 TestCheckFindsLinksThatLeadOut() {
   make_good_bundle
   repack ln -s ../Resources/INFO Contents/MacOS/inside
