@@ -132,7 +132,9 @@ TestNoCommandHidesInABlockThatIsOnlyIndented() {
 
 # A selection of tests that has become empty is an error of ctest's.
 TestSelectionsOfTestsMatchSome() {
-  ctest --test-dir "$BUILD" -N -L '^faults$' | grep -q '^Total Tests: 0$' &&
+  # From a folder of its own, since even a list takes the place of the log of CTest's last run.
+  printf 'subdirs("%s")\n' "$BUILD" >CTestTestfile.cmake
+  ctest -N -L '^faults$' | grep -q '^Total Tests: 0$' &&
     skip "this build has no fault tests to select from"
   # shellcheck disable=SC2046,SC2016
   grep -ohE "\`(scripts/test [a-z -]*)?-[RL] [^\`]+\`" $(documents) | tr -d '\`' | sort -u |
@@ -144,7 +146,7 @@ is_selection() {
   local option pattern
   option=$(grep -oE -e '-[RL] ' <<<"$1")
   pattern=$(sed -e "s/^.*-[RL] //" -e "s/^'\(.*\)'.*/\1/" -e 's/ .*//' <<<"$1")
-  ! ctest --test-dir "$BUILD" -N "${option% }" "$pattern" | grep -q '^Total Tests: 0$'
+  ! ctest -N "${option% }" "$pattern" | grep -q '^Total Tests: 0$'
 }
 
 make_stand_ins() {
