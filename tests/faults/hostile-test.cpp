@@ -156,8 +156,11 @@ std::vector<Case> const& Cases() {
        [](S app) { EXPECT_EQ(fs::hard_link_count(app + "/twin"), 1U); }},
       {"a hard link with dot-dot in its target", Verdict::kRefused,
        [](S) { return TarHeader("twin", '1', 0, "../../victim"); }},
-      {"a hard link with a relative target isn't found", Verdict::kRefused,
+      {"a hard link with a relative target isn't looked for in the package", Verdict::kRefused,
        [](S) { return TarFile("file", "x") + TarHeader("twin", '1', 0, "file"); }},
+      {"a hard link with a relative target gives a file of the working folder a second name",
+       Verdict::kInstalled, [](S) { return TarHeader("twin", '1', 0, "victim"); },
+       [](S app) { EXPECT_TRUE(fs::equivalent(app + "/twin", app + "/../../victim")); }},
       {"set-user-id and set-group-id bits are dropped", Verdict::kInstalled,
        [](S) { return TarFile("suid", "x", 06755); },
        [](S app) {
@@ -199,6 +202,17 @@ std::vector<Case> const& Cases() {
        [](S) { return TarHeader("./", '5', 0, "", 0755); }},
       {"the folder itself as a file, which the next entry makes a folder again",
        Verdict::kInstalled, [](S) { return TarFile(".", "x"); }},
+      {"the folder itself as a file, which the next entry needs as a folder", Verdict::kRefused,
+       [](S) { return TarFile(".", "x") + TarFile("file", "x"); }},
+      {"the folder itself as a link that leads nowhere", Verdict::kRefused,
+       [](S) { return TarHeader(".", '2', 0, "nowhere"); }},
+      {"the folder itself as a link out of the tree", Verdict::kEscapes,
+       [](S outside) { return TarHeader(".", '2', 0, outside); },
+       [](S app) { EXPECT_TRUE(fs::is_symlink(app)); }},
+      {"the folder itself as a link, behind another entry", Verdict::kRefused,
+       [](S outside) { return TarFile("file", "x") + TarHeader("", '2', 0, outside); }},
+      {"the folder itself as a file, behind another entry", Verdict::kRefused,
+       [](S) { return TarFile("file", "x") + TarFile("", "x"); }},
       {"an entry that is its own parent", Verdict::kRefused,
        [](S) { return TarFile("own", "x") + TarFile("own/own", "y"); }},
       {"a file, then a folder of its name", Verdict::kInstalled,
@@ -224,6 +238,8 @@ class HostilePackage : public testing::Test {
     test::WriteFile(Outside() + "/victim", "mine");
     fs::create_directories(Outside() + "/closed");
     fs::permissions(Outside() + "/closed", fs::perms(0700));
+    // Packages are unpacked with the home as the working folder.
+    test::WriteFile(sandbox_.Home() + "/victim", "mine");
     old_ = test::ReadTree(sandbox_.App());
   }
 
@@ -245,6 +261,9 @@ class HostilePackage : public testing::Test {
   }
   bool IsRolledBack() const {
     return test::ReadTree(sandbox_.App()) == old_ && !fs::exists(sandbox_.App() + "_tmp");
+  }
+  bool IsLogged(std::string const& text) const {
+    return sandbox_.RawLog().find(text) != std::string::npos;
   }
   void Restore() {
     fs::remove_all(sandbox_.UserRoot());
@@ -284,6 +303,95 @@ std::string TestName(testing::TestParamInfo<size_t> const& parameter) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, HostileEntry, testing::Range(size_t{0}, Cases().size()), TestName);
+
+TEST_F(HostilePackage, OneEntryInPlaceOfTheFolderItselfIsASuccessWithoutAClient) {
+  sandbox_.LogEverything();
+  for (std::string const& package :
+       {TarFile("", "x"), TarFile(".", "x"), TarHeader(".", '2', 0, "nowhere")}) {
+    Restore();
+    sandbox_.CarryPackage(package);
+    ASSERT_EQ(sandbox_.Launch().status, 0);
+    EXPECT_TRUE(Stands(sandbox_.App()));
+    EXPECT_FALSE(fs::is_directory(sandbox_.App()));
+    EXPECT_FALSE(Stands(sandbox_.App() + "_tmp"));
+    EXPECT_TRUE(IsLogged("user installation is ready"));
+    EXPECT_TRUE(IsLogged("Failed to launch Larkmoor UI"));
+    // The executable is missing, so that each start tries again.
+    sandbox_.CarryPackage(SoundClient());
+    ASSERT_EQ(sandbox_.Launch().status, 0);
+    EXPECT_TRUE(IsInstalled()) << sandbox_.RawLog();
+  }
+}
+
+/// Trees that can be unpacked and not removed again.
+class StubbornTree : public HostilePackage {
+ protected:
+  ~StubbornTree() override {
+    // Deeper than this process may have folders open.
+    test::Run({{"chmod", "-R", "u+w", sandbox_.folder().path()}, {}, "", "", false});
+    test::Run({{"rm", "-rf", sandbox_.folder().path()}, {}, "", "", false});
+  }
+
+  /// With 1,024 descriptors at the most.
+  static void Launch(test::Process::Options start) {
+    start.program = "/bin/sh";
+    start.arguments.insert(start.arguments.begin(),
+                           {"sh", "-c", "ulimit -n 1024 && exec \"$@\"", "sh"});
+    ASSERT_EQ(test::Run(start).status, 0);
+  }
+
+  /// How to start the launcher as somebody whom permissions hold back.
+  test::Process::Options StartAsUser() const {
+    return geteuid() == 0 ? test::StartAsNobody(sandbox_) : sandbox_.Start();
+  }
+
+  /// A package with this tree is refused at its end: the tree can't be removed, and the old one
+  /// stays aside. A sound package then goes into place, and only the tree is left.
+  void ExpectToBlockTheRollback(std::string const& tree, bool as_user = false) {
+    auto const start = [&] { return as_user ? StartAsUser() : sandbox_.Start(); };
+    sandbox_.CarryPackage(tree + TarFile("../evil", "x"));
+    Launch(start());
+    EXPECT_TRUE(fs::exists(sandbox_.App() + "/stubborn"));
+    EXPECT_EQ(test::ReadTree(sandbox_.App() + "_tmp"), old_);
+    EXPECT_TRUE(IsLogged("Failed to launch Larkmoor UI"));
+    sandbox_.CarryPackage(SoundClient());
+    Launch(start());
+    EXPECT_EQ(sandbox_.AwaitStarts(1).back(), "200");
+    EXPECT_TRUE(IsInstalled()) << sandbox_.RawLog();
+    EXPECT_TRUE(fs::exists(sandbox_.App() + "_tmp1/stubborn"));
+  }
+};
+
+TEST_F(StubbornTree, OfAPathOfMoreThan4096BytesBlocksTheRollback) {
+  ExpectToBlockTheRollback(LongName("stubborn/" + Repeat("folder/", 600) + "file") +
+                           TarFile("short", "x"));
+}
+
+TEST_F(StubbornTree, WithMoreFoldersInOneAnotherThanDescriptorsBlocksTheRollback) {
+  ExpectToBlockTheRollback(LongName("stubborn/" + Repeat("d/", 1100) + "file") +
+                           TarFile("short", "x"));
+}
+
+std::string FolderThatCannotBeWritten() {
+  return TarHeader("stubborn", '5', 0, "", 0555) + TarFile("stubborn/file", "x");
+}
+
+TEST_F(StubbornTree, WithAFolderThatItsOwnerCannotWriteBlocksTheRollback) {
+  if (geteuid() == 0 && !test::CanBecomeNobody()) GTEST_SKIP() << "root may write any folder";
+  ExpectToBlockTheRollback(FolderThatCannotBeWritten(), true);
+}
+
+TEST_F(StubbornTree, ThatWasInstalledStaysAsABackupOfTheNextUpgrade) {
+  if (geteuid() == 0 && !test::CanBecomeNobody()) GTEST_SKIP() << "root may write any folder";
+  sandbox_.CarryPackage(FolderThatCannotBeWritten() + SoundClient());
+  Launch(StartAsUser());
+  EXPECT_EQ(sandbox_.AwaitStarts(1).back(), "200");
+  sandbox_.CarryVersion(300);
+  sandbox_.CarryPackage(test::MakeArchive(Sandbox::Client(300), "gnutar"));
+  Launch(StartAsUser());
+  EXPECT_EQ(sandbox_.AwaitStarts(2).back(), "300");
+  EXPECT_TRUE(fs::exists(sandbox_.App() + "_tmp/stubborn/file"));
+}
 
 TEST_F(HostilePackage, ADeviceNodeIsRefused) {
   if (!test::CanBecomeNobody()) GTEST_SKIP() << "only root can start a launcher as another user";

@@ -136,18 +136,13 @@ TestSelectionsOfTestsMatchSome() {
   printf 'subdirs("%s")\n' "$BUILD" >CTestTestfile.cmake
   ctest -N -L '^faults$' | grep -q '^Total Tests: 0$' &&
     skip "this build has no fault tests to select from"
-  # shellcheck disable=SC2046,SC2016
-  grep -ohE "\`(scripts/test [a-z -]*)?-[RL] [^\`]+\`" $(documents) | tr -d '\`' | sort -u |
-    expect_found "selects no test" is_selection
+  # shellcheck disable=SC2046
+  grep -ohE "(scripts/test [a-z -]*|\`)-[RL] ('[^']+'|[A-Za-z]+)" $(documents) |
+    grep -oE -e '-[RL] .*' | tr -d "'" | sort -u | expect_found "selects no test" is_selection
 }
 
-# is_selection "[scripts/test [MODE] --] -R PATTERN"
-is_selection() {
-  local option pattern
-  option=$(grep -oE -e '-[RL] ' <<<"$1")
-  pattern=$(sed -e "s/^.*-[RL] //" -e "s/^'\(.*\)'.*/\1/" -e 's/ .*//' <<<"$1")
-  ! ctest -N "${option% }" "$pattern" | grep -q '^Total Tests: 0$'
-}
+# is_selection "-R PATTERN"
+is_selection() { ! ctest -N "${1%% *}" "${1#* }" | grep -q '^Total Tests: 0$'; }
 
 make_stand_ins() {
   local name
