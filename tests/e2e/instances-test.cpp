@@ -35,6 +35,10 @@ TEST_F(Instances, ASecondStartEndsAtOnceAndLeavesOneLine) {
   EXPECT_EQ(second.status, 0);
   ASSERT_EQ(box.Log().size(), lines + 1);
   EXPECT_EQ(box.Log().back(), kAlready);
+
+  box.WriteLevelFile("launcher_debug=6\n");
+  test::Run(box.Start());
+  EXPECT_EQ(box.Log().size(), lines + 1) << "a record of level 7 passed at 6";
   package.FeedTheRest();
   EXPECT_EQ(first.Wait().status, 0);
   EXPECT_THAT(box.AwaitStarts(1), testing::ElementsAre("100"));

@@ -173,6 +173,35 @@ TEST_F(WholeLog, OfARollback) {
   EXPECT_EQ(box.Log(), expected);
 }
 
+TEST_F(WholeLog, HoldsEachRecordFromTheNumberOfItsTagOn) {
+  box.CarryVersion(200);
+  box.CarryPackage(
+      test::MakeArchive({test::Entry::File("only", "1"), test::Entry::File("../climbs", "2")}));
+  box.Install(100);
+  box.Launch();  // rolls back, and so the next start finds what this one has found
+  Lines const all = box.Log();
+  std::vector<std::string> const tags = {"[ERROR] ", "[WARNING] ", "[NOTE] ", "[INFO] ",
+                                         "[DEBUG] "};
+  Lines expected;
+  for (int threshold = 2; threshold <= 7; ++threshold) {
+    std::string levels;
+    for (char const* component : {"launcher", "service", "extractor", "file_op"}) {
+      levels += std::string(component) + "_debug=" + std::to_string(threshold) + "\n";
+    }
+    box.WriteLevelFile(levels);
+    box.ForgetLog();
+    box.Launch();
+    expected.clear();
+    for (std::string const& line : all) {
+      for (int number = 3; number <= threshold; ++number) {
+        if (line.rfind(tags.at(static_cast<size_t>(number - 3)), 0) == 0) expected.push_back(line);
+      }
+    }
+    EXPECT_EQ(box.Log(), expected) << "threshold " << threshold;
+  }
+  EXPECT_EQ(expected, all);
+}
+
 TEST_F(WholeLog, OfARunWithoutLevelFileHoldsNothing) {
   fs::remove(box.Bundle() + "/log/launcher.debug");
   box.Carry(100);

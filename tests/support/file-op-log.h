@@ -6,11 +6,13 @@
 #include <vector>
 
 #include "support/files.h"
+#include "support/level-check.h"
 #include "support/logger-probe.h"
 
 namespace test {
 
-/// Collects what the file operations log, all levels, for as long as it lives.
+/// Collects what the file operations log, all levels, for as long as it lives. Each record has to
+/// be logged with the level of its tag.
 class FileOpLog {
  public:
   FileOpLog() {
@@ -45,6 +47,7 @@ class FileOpLog {
   }
 
  private:
+  LevelCheck levels_;
   TempDir folder_;
 };
 

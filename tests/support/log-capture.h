@@ -4,10 +4,12 @@
 #include <vector>
 
 #include "support/files.h"
+#include "support/level-check.h"
 
 namespace test {
 
-/// Sends the log, with every component at 7, to a file of its own for as long as it lives.
+/// Sends the log, with every component at 7, to a file of its own for as long as it lives. Each
+/// record has to be logged with the level of its tag.
 class LogCapture {
  public:
   LogCapture();
@@ -21,6 +23,7 @@ class LogCapture {
   std::vector<std::string> OwnLines() const;
 
  private:
+  LevelCheck levels_;
   TempDir folder_;
 };
 

@@ -730,6 +730,29 @@ TEST_F(LoggerTest, DepthOf50Keeps49OldFilesTheYoungestFirst) {
   EXPECT_EQ(LoggerProbe::PrivateCount(), 120U);
 }
 
+/// A path of so many bytes below a folder, the folders above its last name made.
+std::string PathOfLength(std::string path, std::size_t length) {
+  while (length - path.size() > 250) path += "/" + std::string(200, 'f');
+  fs::create_directories(path);
+  return path + "/" + std::string(length - path.size() - 1, 'n');
+}
+
+TEST_F(LoggerTest, NameOfAGenerationMayHave1023Bytes) {
+  std::string const path = PathOfLength(folder_.path(), 1021);
+  ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, path.c_str(), "", 1), 0);
+  LogThrough2(3, "%s\n", "old");
+  RotateLocked();
+  EXPECT_EQ(WithoutStamps(ReadFile(path + "_0")), "old\n");
+}
+
+TEST_F(LoggerTest, NameOfAGenerationIsCutAfter1023Bytes) {
+  std::string const path = PathOfLength(folder_.path(), 1022);
+  ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, path.c_str(), "", 1), 0);
+  LogThrough2(3, "%s\n", "old");
+  RotateLocked();
+  EXPECT_EQ(WithoutStamps(ReadFile(path + "_")), "old\n");
+}
+
 TEST_F(LoggerTest, FailedRotationSilencesTheLogUntilInitialize) {
   // Generation 0 can neither be removed nor replaced.
   WriteFile(fs::path(Generation(0)) / "file", "");

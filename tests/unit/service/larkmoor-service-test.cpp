@@ -441,6 +441,13 @@ TEST_F(PrepareUserEnv, RollsBackWhenTheDestinationCannotBeMade) {
   EXPECT_TRUE(fs::exists(App() + "/old"));
 }
 
+TEST_F(ServiceTest, ExtractPackageFailsWhereAFileStandsInTheFoldersPlace) {
+  CarryPackage({Entry::File("a", "1")});
+  WriteFile(App(), "a file in the way");
+  EXPECT_EQ(service.Service::ExtractPackage(), -1);
+  EXPECT_EQ(test::ReadFile(App()), "a file in the way");
+}
+
 using RemoveAgedFolders = ServiceTest;
 
 TEST_F(RemoveAgedFolders, RemovesTheOneFixedFolderAndNoBackup) {
@@ -477,6 +484,23 @@ TEST_F(FSCopyPathTest, CopiesATreeWithPlainModes) {
   EXPECT_EQ(Copy(), 0);
   EXPECT_EQ(test::ReadFile(To() + "/a"), "1");
   EXPECT_EQ(test::ReadFile(To() + "/b/c"), "2");
+}
+
+TEST_F(FSCopyPathTest, CopiesAnEmptyFolder) {
+  fs::create_directory(From());
+  EXPECT_EQ(Copy(), 0);
+  EXPECT_TRUE(fs::is_empty(To()));
+}
+
+TEST_F(FSCopyPathTest, FailsForAFolderWhoseFileFindsNoSpace) {
+  if (!fs::exists("/dev/full")) GTEST_SKIP() << "this system has no /dev/full";
+  WriteFile(From() + "/a", "1");
+  fs::create_directory(To());
+  fs::create_symlink("/dev/full", To() + "/a");
+  EXPECT_EQ(Copy(), -1);
+  EXPECT_EQ(log.OwnLines().back(),
+            "[ERROR] larkmoor-service(0): FSCopyPath: failed to copy from '" + From() + "/a' to '" +
+                To() + "/a'");
 }
 
 TEST_F(FSCopyPathTest, CopiesOneFile) {
