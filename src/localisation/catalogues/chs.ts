@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>在此地址发现了另一台 NAS。请重新关联。</translation>
+        <translation>在此地址发现了另一台 NAS。请重新关联此电脑。</translation>
     </message>
     <message>
         <source>Merge mode</source>

@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>在此位址偵測到不同的 NAS。請重新連結。</translation>
+        <translation>在此位址偵測到不同的 NAS。請重新連結這台電腦。</translation>
     </message>
     <message>
         <source>Merge mode</source>

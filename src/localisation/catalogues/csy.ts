@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>Na této adrese bylo nalezeno jiné zařízení NAS. Propojte se s ním znovu.</translation>
+        <translation>Na této adrese bylo nalezeno jiné zařízení NAS. Propojte tento počítač znovu.</translation>
     </message>
     <message>
         <source>Merge mode</source>

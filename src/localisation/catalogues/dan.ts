@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>Der er fundet en anden NAS-enhed på denne adresse. Tilknyt den igen.</translation>
+        <translation>Der er fundet en anden NAS-enhed på denne adresse. Tilknyt denne computer igen.</translation>
     </message>
     <message>
         <source>Merge mode</source>

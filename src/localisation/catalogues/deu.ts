@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>Unter dieser Adresse wurde ein anderes NAS gefunden. Bitte stellen Sie die Verknüpfung erneut her.</translation>
+        <translation>Unter dieser Adresse wurde ein anderes NAS gefunden. Bitte verknüpfen Sie diesen Computer erneut.</translation>
     </message>
     <message>
         <source>Merge mode</source>

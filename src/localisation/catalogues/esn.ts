@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>Se ha encontrado un NAS diferente en esta dirección. Vincúlelo de nuevo.</translation>
+        <translation>Se ha encontrado un NAS diferente en esta dirección. Vincule de nuevo este equipo.</translation>
     </message>
     <message>
         <source>Merge mode</source>

@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>Ezen a címen egy másik NAS található. Végezze el újra a társítást.</translation>
+        <translation>Ezen a címen egy másik NAS található. Társítsa újra ezt a számítógépet.</translation>
     </message>
     <message>
         <source>Merge mode</source>

@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>A questo indirizzo è stato trovato un NAS diverso. Collegarlo di nuovo.</translation>
+        <translation>A questo indirizzo è stato trovato un NAS diverso. Collegare di nuovo questo computer.</translation>
     </message>
     <message>
         <source>Merge mode</source>

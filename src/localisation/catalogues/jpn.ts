@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>このアドレスで別の NAS が見つかりました。もう一度リンクしてください。</translation>
+        <translation>このアドレスで別の NAS が見つかりました。このコンピューターをもう一度リンクしてください。</translation>
     </message>
     <message>
         <source>Merge mode</source>

@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>Op dit adres is een andere NAS gevonden. Stel de koppeling opnieuw in.</translation>
+        <translation>Op dit adres is een andere NAS gevonden. Koppel deze computer opnieuw.</translation>
     </message>
     <message>
         <source>Merge mode</source>

@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>En annen NAS-enhet ble funnet på denne adressen. Tilknytt den på nytt.</translation>
+        <translation>En annen NAS-enhet ble funnet på denne adressen. Knytt denne datamaskinen til på nytt.</translation>
     </message>
     <message>
         <source>Merge mode</source>

@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>Foi encontrado um NAS diferente neste endereço. Associe-o novamente.</translation>
+        <translation>Foi encontrado um NAS diferente neste endereço. Associe este computador novamente.</translation>
     </message>
     <message>
         <source>Merge mode</source>

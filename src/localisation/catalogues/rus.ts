@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>По этому адресу обнаружен другой NAS. Установите связь с ним заново.</translation>
+        <translation>По этому адресу обнаружен другой NAS. Свяжите этот компьютер заново.</translation>
     </message>
     <message>
         <source>Merge mode</source>

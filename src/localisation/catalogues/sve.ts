@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>En annan NAS-enhet har hittats på den här adressen. Länka till den på nytt.</translation>
+        <translation>En annan NAS-enhet har hittats på den här adressen. Länka den här datorn på nytt.</translation>
     </message>
     <message>
         <source>Merge mode</source>
