@@ -147,7 +147,7 @@ TestCheckFindsLibrariesThatAreMissingHere() {
   for library in libicuuc libarchive; do
     rm -rf client client.lpk good
     make_good_bundle
-    in_bundle sed -i -E "s/($library\.so\.)[0-9]/\19/" MacOS/launcher
+    in_bundle sed -i.bak -E "s/($library\.so\.)[0-9]/\19/" MacOS/launcher
     expect_failure "needs libraries that this system doesn't have" check_bundle good/Larkmoor.app
     expect_said "$library.so.9"
   done

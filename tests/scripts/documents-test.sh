@@ -101,8 +101,8 @@ TestTheLogsDocumentListsEveryFormatUnderItsComponentAndNoOther() {
   python3 "$PROJECT/tests/scripts/log-formats.py" "$PROJECT/src" | sort -u >logged
   [ "$(wc -l <logged)" -gt 50 ] || fail "hardly any format found in the sources"
   # shellcheck disable=SC2016
-  sed -n -e '/^### Component/{s/.*`\(.*\)_debug`.*/\1/;h;}' \
-    -e '/^| `\[/{s/^| `\(\[\([A-Z]*\)\][^`]*\)`.*/\2\t\1/;G;s/\(.*\)\n\(.*\)/\2\t\1/;p;}' \
+  awk -F '`' '/^### Component/ { component = $2; sub(/_debug$/, "", component) }
+    /^\| `\[/ { print component "\t" substr($2, 2, index($2, "]") - 2) "\t" $2 }' \
     "$PROJECT/docs/log-file.md" | sort >documented
   diff logged documented >difference || fail "< only logged, > only documented:" "$(cat difference)"
 }
@@ -126,7 +126,7 @@ TestCommandLinesRun() {
 TestNoCommandHidesInABlockThatIsOnlyIndented() {
   local hidden
   # shellcheck disable=SC2046
-  hidden=$(grep -nE '^    ([A-Z_]+=\S+ )*(scripts/|cmake |ctest |cpack )' $(documents))
+  hidden=$(grep -nE '^    ([A-Z_]+=[^ ]+ )*(scripts/|cmake |ctest |cpack )' $(documents))
   [ -z "$hidden" ] || fail "not run by TestCommandLinesRun:" "$hidden"
 }
 
