@@ -27,7 +27,7 @@ class PaintWatch : public QObject {
   PaintWatch(QWidget* window, QEventLoop* loop) : loop_(loop) { window->installEventFilter(this); }
 
   bool eventFilter(QObject* /*window*/, QEvent* event) override {
-    if (event->type() == QEvent::Paint) QTimer::singleShot(kFrameMs, loop_, &QEventLoop::quit);
+    if (event->type() == QEvent::Paint) QTimer::singleShot(kFrameMs, loop_, SLOT(quit()));
     return false;
   }
 
@@ -42,7 +42,7 @@ void LetItBeSeen(QWidget* window) {
   if (!window->isVisible()) return;
   QEventLoop loop;
   PaintWatch const watch(window, &loop);
-  QTimer::singleShot(kOutOfSightMs, &loop, &QEventLoop::quit);
+  QTimer::singleShot(kOutOfSightMs, &loop, SLOT(quit()));
   // Not update(): the event that it posts may wait behind the one that is being delivered, and the
   // loop would not look at it. What can't be painted yet is painted when the window is mapped.
   window->repaint();
