@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>연동된 연결 해제</translation>
+        <translation>연결 연동 해제</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -676,7 +676,7 @@
     <message>
         <source>Keep both versions and rename the older one</source>
         <extracomment>139 conflict_policy_rename_conflict</extracomment>
-        <translation>두 버전을 모두 유지하고 이전 버전의 이름 바꾸기</translation>
+        <translation>두 버전을 모두 유지하고 오래된 버전의 이름 바꾸기</translation>
     </message>
     <message>
         <source>Please read the following License Agreement carefully.</source>
@@ -1986,7 +1986,7 @@
     <message>
         <source>Choose what you want to do with the installation.</source>
         <extracomment>430 msi_maintenance_dlg_description</extracomment>
-        <translation>수행할 작업을 선택하십시오.</translation>
+        <translation>설치에 대해 수행할 작업을 선택하십시오.</translation>
     </message>
     <message>
         <source>December</source>
