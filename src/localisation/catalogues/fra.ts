@@ -1036,7 +1036,7 @@
     <message>
         <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
-        <translation>Pour synchroniser d&apos;autres dossiers ou modifier les paramètres de synchronisation, ouvrez Larkmoor Drive à tout moment.</translation>
+        <translation>Vous pouvez ouvrir Larkmoor Drive à tout moment pour synchroniser d&apos;autres dossiers ou modifier les paramètres de synchronisation.</translation>
     </message>
     <message>
         <source>Maximum number of downloads</source>
@@ -1986,7 +1986,7 @@
     <message>
         <source>Choose what you want to do with the installation.</source>
         <extracomment>430 msi_maintenance_dlg_description</extracomment>
-        <translation>Choisissez l&apos;opération à effectuer.</translation>
+        <translation>Choisissez l&apos;opération à effectuer sur l&apos;installation.</translation>
     </message>
     <message>
         <source>December</source>
