@@ -1036,7 +1036,7 @@
     <message>
         <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
-        <translation>Para sincronizar más carpetas o cambiar la configuración de sincronización, abra Larkmoor Drive en cualquier momento.</translation>
+        <translation>Puede abrir Larkmoor Drive en cualquier momento para sincronizar más carpetas o cambiar la configuración de sincronización.</translation>
     </message>
     <message>
         <source>Maximum number of downloads</source>
