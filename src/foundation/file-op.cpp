@@ -18,6 +18,7 @@
 #include "foundation/tmp-name-gen.h"
 #include "platform/core-services.h"
 #include "platform/file-system-name.h"
+#include "platform/volume-lookup.h"
 
 namespace {
 
@@ -348,7 +349,7 @@ bool IsFileExist(ustring const& path, bool strict) {
 
 int GetFileInfo(ustring const& path, _FILE_INFO_tag& info) {
   struct stat found;
-  if (lstat(path.c_str(), &found) != 0) {
+  if (platform::LookAt(path.c_str(), found) != 0) {
     if (errno != ENOENT) return -1;
     _FILE_INFO_tag missing;
     missing.path = path;  // which may be that of `info`

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "platform/core-services.h"
+#include "platform/normal-form-posix.h"
 
 namespace {
 
@@ -98,8 +99,13 @@ OSStatus FSPathMakeRef(UInt8 const* path, FSRef* ref, Boolean* is_directory) {
 
 OSStatus FSPathMakeRefWithOptions(UInt8 const* path, OptionBits options, FSRef* ref,
                                   Boolean* is_directory) {
+  auto const* const text = reinterpret_cast<char const*>(path);
   bool const follow_leaf = (options & kFSPathMakeRefDoNotFollowLeafSymlink) == 0;
-  OSStatus const status = Resolve(reinterpret_cast<char const*>(path), follow_leaf, ref->path);
+  OSStatus status = Resolve(text, follow_leaf, ref->path);
+  std::string found;
+  if (status != noErr && platform::FindByNormalForm(text, follow_leaf, found)) {
+    status = Resolve(found.c_str(), follow_leaf, ref->path);
+  }
   if (status != noErr || is_directory == nullptr) return status;
 
   struct stat info;

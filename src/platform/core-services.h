@@ -35,6 +35,9 @@ struct FSRef {
 
 // All functions return noErr, or one of the codes above; on failure `ref` and `path` hold nothing
 // of use. Any thread; no state is kept between calls.
+//
+// A volume of macOS doesn't tell names apart by their normal form. So where a path leads nowhere as
+// it is given, its components are found by that, and the object's path has them as they stand.
 
 /// Finds the object at a path, the target of a link in the last component. `is_directory` may be
 /// null.

@@ -77,7 +77,7 @@ std::vector<std::string> NormaliseLog(std::string const& text) {
   return lines;
 }
 
-Sandbox::Sandbox(std::string launcher) {
+Sandbox::Sandbox(std::string launcher, std::string home) : home_(std::move(home)) {
   fs::create_directories(Home());
   fs::create_directories(folder_ / "runtime");
   fs::permissions(folder_ / "runtime", fs::perms::owner_all);

@@ -13,12 +13,12 @@ namespace test {
 /// start of the program gets to see and to change.
 class Sandbox {
  public:
-  /// `launcher` is the program to put into the bundle.
-  explicit Sandbox(std::string launcher = LARKMOOR_TEST_LAUNCHER);
+  /// `launcher` is the program to put into the bundle, `home` the name of the home.
+  explicit Sandbox(std::string launcher = LARKMOOR_TEST_LAUNCHER, std::string home = "home");
   ~Sandbox();
 
   std::string Bundle() const { return folder_ / "Start me.app"; }
-  std::string Home() const { return folder_ / "home"; }
+  std::string Home() const { return folder_ / home_; }
   std::string UserRoot() const { return Home() + "/.Larkmoor"; }
   std::string App() const { return UserRoot() + "/Larkmoor.app"; }
   std::string Package() const { return Bundle() + "/Contents/Resources/package/larkmoor.lpk"; }
@@ -61,6 +61,7 @@ class Sandbox {
 
  private:
   TempDir folder_;
+  std::string home_;
 };
 
 /// A log's text as lines, normalised as Sandbox::Log() says.

@@ -304,6 +304,14 @@ TEST(FSMKDir, TellsACreationThatIsRefusedApart) {
   });
 }
 
+TEST(FSMKDir, MakesAndFindsFoldersBelowOneThatIsDecomposed) {
+  TempDir folder;
+  std::string const home = folder / "cafe\xCC\x81";
+  fs::create_directory(home);
+  for (int time = 0; time < 2; ++time) EXPECT_EQ(FSMKDir(home + "/a/b", true), 0);
+  EXPECT_TRUE(fs::is_directory(home + "/a/b"));
+}
+
 // ---- FSMKDirFromRoot ----
 
 TEST(FSMKDirFromRoot, MakesOneFolderAfterTheOther) {
@@ -499,6 +507,17 @@ TEST(FSCopy, LeavesThePartialTargetOfAnyOtherFailedWrite) {
 
 // ---- FSRename ----
 
+TEST(FSRename, MovesWhatIsDecomposedAsideAndBack) {
+  TempDir folder;
+  std::string const home = folder / "cafe\xCC\x81";
+  WriteFile(home + "/\xE0\xA5\x98/file", "bytes");
+  for (bool const strict : {false, true}) {
+    EXPECT_EQ(FSRename(home + "/\xE0\xA5\x98", home + "/aside", strict), 0);
+    EXPECT_EQ(FSRename(home + "/aside", home + "/\xE0\xA5\x98", strict), 0);
+  }
+  EXPECT_EQ(ReadFile(home + "/\xE0\xA5\x98/file"), "bytes");
+}
+
 TEST(FSRename, RenamesFilesAndFolders) {
   TempDir folder;
   WriteFile(folder / "a/file", "bytes");
@@ -658,6 +677,67 @@ TEST(FSRemove, BearsATrailingSlash) {
   WriteFile(folder / "tree/file", "");
   EXPECT_EQ(FSRemove(folder / "tree/", false), 0);
   EXPECT_FALSE(fs::exists(folder / "tree"));
+}
+
+// Names of every kind that isn't its own composed form, files, folders and links, also beside their
+// twins.
+TEST(FSRemove, RemovesNamesThatAreNotComposed) {
+  constexpr char const* kNames[] = {
+      "cafe\xCC\x81",                          // decomposed
+      "caf\xC3\xA9",                           // its composed twin
+      "\xE1\x84\x80\xE1\x85\xA1\xE1\x86\xA8",  // a syllable in three parts
+      "\xEA\xB0\x80\xE1\x86\xA8",              // the same in two
+      "\xEA\xB0\x81",                          // and in one
+      "\xE0\xA5\x98",                          // has no composed form
+      "10\xE2\x84\xAA",                        // is composed to plain ASCII
+      "10K",
+  };
+  TempDir folder;
+  for (std::string const name : kNames) {
+    WriteFile(folder / "tree/files/" + name, "bytes");
+    WriteFile(folder / "tree/folders/" + name + "/of " + name, "bytes");
+    WriteFile(folder / "tree/folders/" + name + "/sub/" + name, "bytes");
+    fs::create_directories(folder / "tree/links");
+    fs::create_symlink(name, folder / "tree/links/" + name);
+  }
+  FileOpLog const log;
+  EXPECT_EQ(FSRemove(folder / "tree", false), 0);
+  EXPECT_FALSE(fs::exists(folder / "tree"));
+  EXPECT_THAT(log.Messages(), IsEmpty());
+}
+
+TEST(FSRemove, RemovesBelowAFolderThatIsDecomposed) {
+  TempDir folder;
+  std::string const home = folder / "cafe\xCC\x81";
+  WriteFile(home + "/tree/file", "bytes");
+  EXPECT_EQ(FSRemove(home + "/tree", false), 0);
+  EXPECT_FALSE(fs::exists(home + "/tree"));
+  EXPECT_EQ(FSRemove(home + "/missing", false), 0);
+}
+
+// A file of the other form is another one, here: what changes the tree goes by the path as given.
+TEST(FSRemove, LeavesTheTwinAlone) {
+  TempDir folder;
+  WriteFile(folder / "caf\xC3\xA9", "composed");
+  WriteFile(folder / "cafe\xCC\x81", "decomposed");
+  if (ReadFile(folder / "caf\xC3\xA9") != "composed") {
+    GTEST_SKIP() << "the volume takes both forms for one name";
+  }
+  EXPECT_EQ(FSRemove(folder / "cafe\xCC\x81", false), 0);
+  EXPECT_FALSE(fs::exists(folder / "cafe\xCC\x81"));
+  EXPECT_EQ(ReadFile(folder / "caf\xC3\xA9"), "composed");
+}
+
+TEST(FSRemove, FailsForANameThatIsNoUtf8AndLeavesIt) {
+  TempDir folder;
+  fs::create_directory(folder / "tree");
+  if (mkdir((folder / "tree/\xFF").c_str(), 0700) != 0) {
+    GTEST_SKIP() << "the volume takes no such name";
+  }
+  testing::internal::CaptureStderr();  // of the conversion's warning
+  EXPECT_EQ(FSRemove(folder / "tree", false), -3);
+  testing::internal::GetCapturedStderr();
+  EXPECT_TRUE(fs::exists(folder / "tree/\xFF"));
 }
 
 TEST(FSRemove, RemovesByARelativePath) {

@@ -325,21 +325,40 @@ TEST(GetFileInfo, LogsNothingForAMissingFile) {
   EXPECT_THAT(log.Lines(), IsEmpty());
 }
 
-// The volume is asked for the composed name. Where it takes the decomposed one for another, the
-// object isn't found by it, although lstat saw it.
-TEST(GetFileInfo, FailsForADecomposedNameOnAVolumeThatKeepsFormsApart) {
+// The volume is asked for the composed name, and finds the object also where it takes the
+// decomposed one for another.
+TEST(GetFileInfo, FindsEitherFormOfANameAndTellsTheComposedOne) {
+  for (char const* const stands : {kComposed, kDecomposed}) {
+    for (char const* const asked : {kComposed, kDecomposed}) {
+      TempDir folder;
+      WriteFile(folder / stands, "12345");
+      FileOpLog const log;
+      _FILE_INFO_tag info;
+      EXPECT_EQ(GetFileInfo(folder / asked, info), 0);
+      EXPECT_TRUE(info.exists);
+      EXPECT_EQ(info.size, 5);
+      EXPECT_EQ(Text(info.path), folder / kComposed);
+      EXPECT_EQ(Text(info.name), kComposed);
+      EXPECT_THAT(log.Lines(),
+                  ElementsAre("[DEBUG] file-op(#): Input file path = [" + folder / kComposed + "].",
+                              "[DEBUG] file-op(#): FSRefMakePath outTargetPath path = [" +
+                                  folder / kComposed + "]."));
+    }
+  }
+}
+
+TEST(GetFileInfo, DescribesTheFormThatIsAskedForWhereBothStand) {
   TempDir folder;
+  WriteFile(folder / kComposed, "1");
   WriteFile(folder / kDecomposed, "12345");
-  if (fs::exists(folder / kComposed)) GTEST_SKIP() << "the volume takes both forms for one name";
-  FileOpLog const log;
+  if (test::ReadFile(folder / kComposed) != "1") {
+    GTEST_SKIP() << "the volume takes both forms for one name";
+  }
   _FILE_INFO_tag info;
-  EXPECT_EQ(GetFileInfo(folder / kDecomposed, info), -1);
+  EXPECT_EQ(GetFileInfo(folder / kComposed, info), 0);
+  EXPECT_EQ(info.size, 1);
+  EXPECT_EQ(GetFileInfo(folder / kDecomposed, info), 0);
   EXPECT_EQ(info.size, 5);
-  EXPECT_TRUE(info.exists);
-  EXPECT_EQ(Text(info.path), folder / kDecomposed);
-  EXPECT_THAT(log.Lines(),
-              ElementsAre("[DEBUG] file-op(#): Input file path = [" + folder / kComposed + "].",
-                          "[ERROR] file-op(#): FSPathMakeRef: -43"));
 }
 
 TEST(IsFileExist, IsFalseForAnEmptyPath) {
@@ -394,13 +413,25 @@ TEST(IsFileExist, StrictIsFalseForARelativePath) {
   fs::current_path(former);
 }
 
-TEST(IsFileExist, FindsAComposedNameByEitherForm) {
-  TempDir folder;
-  WriteFile(folder / kComposed, "");
-  for (bool const strict : {false, true}) {
-    EXPECT_TRUE(IsFileExist(folder / kComposed, strict));
-    EXPECT_TRUE(IsFileExist(folder / kDecomposed, strict));
+TEST(IsFileExist, FindsANameOfEitherFormByEitherForm) {
+  for (char const* const stands : {kComposed, kDecomposed}) {
+    TempDir folder;
+    WriteFile(folder / stands + "/file", "");
+    for (bool const strict : {false, true}) {
+      for (char const* const asked : {kComposed, kDecomposed}) {
+        EXPECT_TRUE(IsFileExist(folder / asked, strict));
+        EXPECT_TRUE(IsFileExist(folder / asked + "/file", strict));
+        EXPECT_FALSE(IsFileExist(folder / asked + "/missing", strict));
+      }
+    }
   }
+}
+
+TEST(IsFileExist, FindsWhatStandsInTheFolderOfTheOtherForm) {
+  TempDir folder;
+  fs::create_directory(folder / kComposed);
+  WriteFile(folder / kDecomposed + "/file", "");
+  EXPECT_TRUE(IsFileExist(folder / kDecomposed + "/file", false));
 }
 
 TEST(FSStat, RefusesAnEmptyPath) {

@@ -47,6 +47,14 @@ struct Places : TempDir {
   }
 };
 
+constexpr char kComposed[] = "caf\xC3\xA9";
+constexpr char kDecomposed[] = "cafe\xCC\x81";
+// A syllable that is taken apart in part, and a letter that has no composed form of its own.
+constexpr char kHangul[] = "\xEA\xB0\x81";
+constexpr char kHalfHangul[] = "\xEA\xB0\x80\xE1\x86\xA8";
+constexpr char kQa[] = "\xE0\xA4\x95\xE0\xA4\xBC";
+constexpr char kOldQa[] = "\xE0\xA5\x98";
+
 class WorkingFolder {
  public:
   explicit WorkingFolder(fs::path const& path) : former_(fs::current_path()) {
@@ -171,6 +179,102 @@ TEST(VolumePath, ChangesWithALinkAboveFromCallToCall) {
   EXPECT_EQ(Itself(places / "real/file"), places / "moved/file");
 }
 
+TEST(VolumePath, IsFoundByTheNormalFormOfANameAndSpelledAsItStands) {
+  struct Pair {
+    std::string stands;
+    std::string asked;
+  };
+  Pair const pairs[] = {{kDecomposed, kComposed},
+                        {kComposed, kDecomposed},
+                        {kHalfHangul, kHangul},
+                        {kOldQa, kQa},
+                        {"10\xE2\x84\xAA", "10K"}};
+  for (Pair const& pair : pairs) {
+    TempDir const folder;
+    WriteFile(folder / (pair.stands + "/" + pair.stands), "");
+    fs::create_symlink(pair.stands, folder / ("link" + pair.stands));
+    std::string const spelling = Itself(folder / (pair.asked + "/" + pair.asked));
+    if (fs::exists(folder / (pair.asked + "/" + pair.asked))) continue;  // the volume knows it
+    EXPECT_EQ(spelling, folder / (pair.stands + "/" + pair.stands));
+    EXPECT_EQ(Followed(folder / pair.asked), folder / pair.stands);
+    EXPECT_EQ(Itself(folder / ("link" + pair.asked)), folder / ("link" + pair.stands));
+    EXPECT_EQ(Followed(folder / ("link" + pair.asked)), folder / pair.stands);
+    EXPECT_EQ(Itself(folder / (pair.asked + "/none")), "status -43");
+  }
+}
+
+TEST(VolumePath, IsThatOfTheNameAsGivenWhereBothFormsStand) {
+  TempDir const folder;
+  for (char const* const name : {kComposed, kDecomposed}) WriteFile(folder / name, "");
+  for (char const* const name : {kComposed, kDecomposed}) {
+    if (!fs::exists(folder / name)) GTEST_SKIP() << "the volume takes both forms for one name";
+    EXPECT_EQ(Itself(folder / name), folder / name);
+  }
+}
+
+TEST(VolumePath, LeadsThroughTheFolderOfEitherFormThatHoldsTheObject) {
+  TempDir const folder;
+  std::string const composed(kComposed);
+  std::string const decomposed(kDecomposed);
+  WriteFile(folder / (decomposed + "/file"), "");
+  WriteFile(folder / (decomposed + "/sub/" + decomposed), "");
+  if (fs::exists(folder / composed)) GTEST_SKIP() << "the volume takes both forms for one name";
+  auto const expect_found = [&] {
+    EXPECT_EQ(Itself(folder / (composed + "/file")), folder / (decomposed + "/file"));
+    EXPECT_EQ(Itself(folder / (composed + "/sub/" + composed)),
+              folder / (decomposed + "/sub/" + decomposed));
+  };
+  fs::create_directory(folder / composed);
+  expect_found();
+  fs::remove(folder / composed);
+  WriteFile(folder / composed, "no folder");
+  expect_found();
+  fs::remove(folder / composed);
+  fs::create_symlink(composed, folder / composed);
+  expect_found();
+  fs::remove(folder / composed);
+  fs::create_symlink("nothing", folder / composed);
+  expect_found();
+}
+
+TEST(VolumePath, KeepsSlashesDotsAndLinksInTheWayOfANormalForm) {
+  TempDir const folder;
+  std::string const decomposed(kDecomposed);
+  WriteFile(folder / (decomposed + "/file"), "");
+  fs::create_symlink(decomposed, folder / "link");
+  std::string const composed(kComposed);
+  EXPECT_EQ(Itself(folder / (composed + "//./file")), folder / (decomposed + "/file"));
+  EXPECT_EQ(Itself(folder / ("link/../" + composed + "/file")), folder / (decomposed + "/file"));
+  EXPECT_EQ(Itself(folder / (composed + "/")), folder / decomposed);
+  EXPECT_EQ(Itself(folder / (composed + "/file/")), "status -43");
+  WorkingFolder const here(folder.path());
+  EXPECT_EQ(Itself(composed + "/file"), folder / (decomposed + "/file"));
+}
+
+TEST(VolumePath, IsFoundByANormalFormThatIsLongerThanTheNameCanBe) {
+  TempDir const folder;
+  std::string stands;
+  std::string asked;
+  for (int i = 0; i < 80; ++i) {
+    stands += kOldQa;
+    asked += kQa;
+  }
+  WriteFile(folder / stands, "");
+  EXPECT_EQ(Itself(folder / asked), folder / stands);
+}
+
+TEST(VolumePath, IsNotFoundByBytesThatAreNoUtf8) {
+  TempDir const folder;
+  std::string const decomposed(kDecomposed);
+  if (mkdir((folder / "\xFF").c_str(), 0700) != 0) GTEST_SKIP() << "the volume takes no such name";
+  WriteFile(folder / ("\xFF/" + decomposed), "");
+  EXPECT_EQ(Itself(folder / "\xFF"), folder / "\xFF");
+  EXPECT_EQ(Itself(folder / "\xFE"), "status -43");
+  EXPECT_EQ(Itself(folder / "\xEF\xBF\xBD"), "status -43");
+  // What stands behind it is found nevertheless.
+  EXPECT_EQ(Itself(folder / (std::string("\xFF/") + kComposed)), folder / ("\xFF/" + decomposed));
+}
+
 TEST(VolumePath, TellsWhetherTheObjectIsAFolder) {
   Places const places;
   auto const is_folder = [&places](char const* name, OptionBits options) {
@@ -224,6 +328,19 @@ TEST(VolumePath, ThatIsTooLongIsRefused) {
   fs::create_directory(std::string(250, 'e'));
   EXPECT_EQ(Itself(link), link);
   EXPECT_EQ(Itself(link + "/" + std::string(250, 'e')), "status -2110");
+}
+
+TEST(VolumePath, LeadsPastAnUnreadableFolderOfTheOtherForm) {
+  Places const places;
+  test::GiveAway(places.path().c_str());
+  test::RunUnprivileged([&places] {
+    std::string const decomposed(kDecomposed);
+    WriteFile(places / (decomposed + "/file"), "");
+    fs::create_directory(places / kComposed);
+    fs::permissions(places / kComposed, fs::perms(0));
+    EXPECT_EQ(Itself(places / (std::string(kComposed) + "/file")), places / (decomposed + "/file"));
+    fs::permissions(places / kComposed, fs::perms(0700));
+  });
 }
 
 TEST(VolumePath, FailsWhereTheFolderMayNotBeSearched) {

@@ -1,0 +1,106 @@
+#include "platform/normal-form-posix.h"
+
+#include <dirent.h>
+#include <sys/stat.h>
+#include <unicode/bytestream.h>
+#include <unicode/normalizer2.h>
+#include <unicode/stringpiece.h>
+#include <unicode/ustring.h>
+
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
+namespace platform {
+namespace {
+
+bool IsUtf8(std::string const& text) {
+  UErrorCode status = U_ZERO_ERROR;
+  u_strFromUTF8(nullptr, 0, nullptr, text.data(), static_cast<int32_t>(text.size()), &status);
+  return status != U_INVALID_CHAR_FOUND;
+}
+
+/// Empty for what isn't valid UTF-8.
+std::string Normalised(icu::Normalizer2 const* (*form)(UErrorCode&), std::string const& text) {
+  std::string result;
+  if (!IsUtf8(text)) return result;
+  UErrorCode status = U_ZERO_ERROR;
+  icu::Normalizer2 const* const normalizer = form(status);
+  if (U_FAILURE(status)) return result;
+  icu::StringByteSink<std::string> sink(&result);
+  normalizer->normalizeUTF8(0, text, sink, nullptr, status);
+  return U_SUCCESS(status) ? result : std::string();
+}
+
+std::string Composed(std::string const& text) {
+  return Normalised(icu::Normalizer2::getNFCInstance, text);
+}
+
+/// Whether other names can have the normal form of this one. Three characters of ASCII are that of
+/// another: the Kelvin sign, the Greek question mark, and the Greek varia.
+bool HasTwins(std::string_view name) {
+  return std::any_of(name.begin(), name.end(), [](char c) {
+    return static_cast<unsigned char>(c) >= 128 || c == 'K' || c == ';' || c == '`';
+  });
+}
+
+bool Exists(std::string const& path, bool follow) {
+  struct stat info;
+  return (follow ? stat(path.c_str(), &info) : lstat(path.c_str(), &info)) == 0;
+}
+
+/// The names in a folder that have this normal form, but for `except`.
+std::vector<std::string> NamesOfForm(std::string const& composed, std::string const& folder,
+                                     std::vector<std::string> const& except) {
+  std::vector<std::string> names;
+  DIR* const dir = opendir(folder.empty() ? "." : folder.c_str());
+  if (dir == nullptr) return names;
+  while (dirent const* const entry = readdir(dir)) {
+    std::string const name = entry->d_name;
+    if (!HasTwins(name) && name != composed) continue;
+    if (std::find(except.begin(), except.end(), name) != except.end()) continue;
+    if (Composed(name) == composed) names.push_back(name);
+  }
+  closedir(dir);
+  return names;
+}
+
+/// Goes on from `above`, which stands and is empty or ends in a slash.
+bool Find(std::string const& above, std::string_view rest, bool follow_leaf, std::string& found) {
+  std::size_t const begin = std::min(rest.find_first_not_of('/'), rest.size());
+  std::size_t const end = std::min(rest.find('/', begin), rest.size());
+  std::string const folder = above + std::string(rest.substr(0, begin));
+  std::string const name(rest.substr(begin, end - begin));
+  rest.remove_prefix(end);
+
+  auto const leads_on = [&](std::string const& spelling) {
+    std::string const path = folder + spelling;
+    if (!rest.empty()) return Exists(path, true) && Find(path, rest, follow_leaf, found);
+    if (!Exists(path, follow_leaf)) return false;
+    found = path;
+    return true;
+  };
+
+  if (leads_on(name)) return true;
+  if (!HasTwins(name)) return false;
+  std::string const composed = Composed(name);
+  if (composed.empty()) return false;
+  // Nearly every name stands in one of the two forms: they are tried before the folder is listed.
+  std::vector<std::string> tried = {name};
+  for (auto* const form : {icu::Normalizer2::getNFCInstance, icu::Normalizer2::getNFDInstance}) {
+    std::string const spelling = Normalised(form, name);
+    if (std::find(tried.begin(), tried.end(), spelling) != tried.end()) continue;
+    if (leads_on(spelling)) return true;
+    tried.push_back(spelling);
+  }
+  std::vector<std::string> const others = NamesOfForm(composed, folder, tried);
+  return std::any_of(others.begin(), others.end(), leads_on);
+}
+
+}  // namespace
+
+bool FindByNormalForm(char const* path, bool follow_leaf, std::string& found) {
+  return HasTwins(path) && Find("", path, follow_leaf, found);
+}
+
+}  // namespace platform

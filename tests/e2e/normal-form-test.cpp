@@ -1,0 +1,158 @@
+// Upgrades of clients, and in homes, whose names aren't in their composed normal form.
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "support/sandbox.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using test::Entry;
+using test::MakeArchive;
+using test::ReadTree;
+using test::Sandbox;
+using testing::ElementsAre;
+
+constexpr int kBuilds = 13;  // more than there are names for backups
+
+constexpr char kDecomposed[] = "cafe\xCC\x81";
+constexpr char kComposed[] = "caf\xC3\xA9";
+
+/// A client with files, folders and links of such names, among them two that are twins.
+std::vector<Entry> Client(int build) {
+  std::vector<Entry> entries = Sandbox::Client(build);
+  auto const add = [&entries](Entry entry) { entries.insert(entries.end() - 2, std::move(entry)); };
+  // A word, a syllable, and a letter that has no composed form.
+  for (std::string const name :
+       {kDecomposed, "\xE1\x84\x80\xE1\x85\xA1\xE1\x86\xA8", "\xE0\xA5\x98"}) {
+    add(Entry::File("Contents/Resources/" + name, name + std::to_string(build)));
+    add(Entry::Folder("Contents/Resources/in " + name));
+    add(Entry::Folder("Contents/Resources/in " + name + "/" + name));
+    add(Entry::File("Contents/Resources/in " + name + "/" + name + "/file", "1"));
+    add(Entry::Link("Contents/Resources/to " + name, "in " + name));
+  }
+  add(Entry::File("Contents/Resources/" + std::string(kComposed), "twin"));
+  add(Entry::Folder("Contents/Resources/in " + std::string(kComposed)));
+  add(Entry::File("Contents/Resources/in " + std::string(kComposed) + "/other", "1"));
+  return entries;
+}
+
+/// Whether the temporary folder keeps the two forms apart, as volumes of macOS don't.
+bool FormsAreApart() {
+  test::TempDir folder;
+  test::WriteFile(folder / kDecomposed, "");
+  return !fs::exists(folder / kComposed);
+}
+
+class NormalForm : public testing::TestWithParam<char const*> {
+ protected:
+  NormalForm() : box(LARKMOOR_TEST_LAUNCHER, GetParam()) {}
+  void SetUp() override {
+    if (!FormsAreApart()) GTEST_SKIP() << "the volume takes both forms for one name";
+  }
+  void Carry(int build) {
+    box.CarryVersion(build);
+    box.CarryPackage(MakeArchive(Client(build), "gnutar", "gzip"));
+  }
+  std::vector<std::string> Installed() const {
+    std::vector<std::string> names;
+    for (auto const& entry : fs::directory_iterator(box.UserRoot())) {
+      names.push_back(entry.path().filename());
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+  }
+
+  Sandbox box;
+};
+
+TEST_P(NormalForm, OfNamesInAClientLeavesNoBackupOfBuildAfterBuild) {
+  for (int build = 1; build <= kBuilds; ++build) {
+    Carry(build);
+    ASSERT_EQ(box.Launch().status, 0);
+    ASSERT_EQ(box.AwaitStarts(static_cast<size_t>(build)).back(), std::to_string(build));
+    ASSERT_EQ(ReadTree(box.App()).size(), Client(build).size()) << box.RawLog();
+    ASSERT_THAT(Installed(), ElementsAre("Larkmoor.app", "log"));
+  }
+  EXPECT_EQ(test::ReadFile(box.App() + "/Contents/Resources/" + kDecomposed),
+            kDecomposed + std::to_string(kBuilds));
+  EXPECT_EQ(box.RawLog(), "");
+}
+
+TEST_P(NormalForm, OfNamesInAClientMakesNoOtherUpgradeOfAPlainStart) {
+  box.LogEverything();
+  Carry(1);
+  ASSERT_EQ(box.Launch().status, 0);
+  box.ForgetLog();
+  ASSERT_EQ(box.Launch().status, 0);
+  EXPECT_THAT(box.RawLog(), testing::Not(testing::HasSubstr("extract package")));
+  EXPECT_THAT(box.AwaitStarts(2), ElementsAre("1", "1"));
+}
+
+TEST_P(NormalForm, OfNamesInADamagedPackageGivesTheOldTreeBack) {
+  Carry(1);
+  ASSERT_EQ(box.Launch().status, 0);
+  test::Tree const old = ReadTree(box.App());
+  std::vector<Entry> entries = Client(2);
+  entries.insert(entries.end() - 2, Entry::File("Contents/Resources/../damage", ""));
+  box.CarryVersion(2);
+  box.CarryPackage(MakeArchive(entries, "gnutar", "gzip"));
+  ASSERT_EQ(box.Launch().status, 0);
+  EXPECT_EQ(ReadTree(box.App()), old) << box.RawLog();
+  EXPECT_THAT(box.AwaitStarts(2), ElementsAre("1", "1"));
+  EXPECT_THAT(Installed(), ElementsAre("Larkmoor.app", "log"));
+}
+
+// What can't stand on a volume of macOS at all.
+class BytesThatAreNoUtf8 : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (mkdir((box.folder() / "\xFF").c_str(), 0700) != 0) {
+      GTEST_SKIP() << "the volume takes no such name";
+    }
+  }
+  /// A client that has such a name, and more behind it.
+  static std::vector<Entry> Client(int build) {
+    std::vector<Entry> entries = Sandbox::Client(build);
+    entries.insert(entries.begin(), Entry::File("Contents/Resources/\xFF", "1"));
+    return entries;
+  }
+  Sandbox box;
+};
+
+TEST_F(BytesThatAreNoUtf8, AreInstalledAndLeaveTheBackupOfTheNextUpgrade) {
+  for (int build = 1; build <= 2; ++build) {
+    box.CarryVersion(build);
+    box.CarryPackage(MakeArchive(Client(build), "gnutar", "gzip"));
+    ASSERT_EQ(box.Launch().status, 0);
+    EXPECT_EQ(ReadTree(box.App()).size(), Client(build).size()) << box.RawLog();
+  }
+  EXPECT_THAT(box.AwaitStarts(2), ElementsAre("1", "2"));
+  EXPECT_TRUE(fs::exists(box.App() + "_tmp/Contents/Resources/\xFF"));
+}
+
+TEST_F(BytesThatAreNoUtf8, LeaveTheOldTreeInItsBackupWhenThePackageIsDamagedBehindThem) {
+  box.Install(1);
+  test::Tree const old = ReadTree(box.App());
+  std::vector<Entry> entries = Client(2);
+  entries.insert(entries.end() - 2, Entry::File("Contents/Resources/../damage", ""));
+  box.CarryVersion(2);
+  box.CarryPackage(MakeArchive(entries, "gnutar", "gzip"));
+  ASSERT_EQ(test::Run(box.Start()).status, 0);
+  EXPECT_EQ(ReadTree(box.App() + "_tmp"), old) << box.RawLog();
+  EXPECT_TRUE(fs::exists(box.App() + "/Contents/Resources/\xFF"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Homes, NormalForm, testing::Values("home", kDecomposed),
+                         [](auto const& home) {
+                           return std::string(home.param == kDecomposed ? "Decomposed" : "Plain");
+                         });
+
+}  // namespace
