@@ -282,19 +282,27 @@ int MoveDirectory(ustring const& source, ustring const& target, bool strict) {
 
 int RemoveAt(int folder, char const* name, ustring const& path);
 
-int RemoveEntries(ustring const& path, bool& is_readable) {
+/// How FSRemove goes through a directory. Both ways take the same steps.
+enum class Walk {
+  kByPath,     ///< each object by its path from the start
+  kByFolders,  ///< by its name in the open folder, which saves two walks along the path
+};
+
+/// Removes what is in a directory. `is_readable` is false, and all stays, when it can't be listed.
+int RemoveEntries(ustring const& path, Walk walk, bool& is_readable) {
   Listing entries(path);
   is_readable = entries.IsOpen();
   if (!is_readable) return 0;
   ustring const prefix = path + "/";
   while (char const* const name = entries.Next()) {
-    if (RemoveAt(entries.descriptor(), name, prefix + name) != 0) return -3;
+    int const result = walk == Walk::kByPath ? FSRemove(prefix + name, false)
+                                             : RemoveAt(entries.descriptor(), name, prefix + name);
+    if (result != 0) return -3;
   }
   return 0;
 }
 
-/// FSRemove of an object that is `path` to everybody and `name` seen from an open folder. Looking
-/// at it and removing it by that name saves two walks along the path.
+/// FSRemove of an object that is `path` to everybody and `name` seen from an open folder.
 int RemoveAt(int folder, char const* name, ustring const& path) {
   // The look of GetFileInfo, without filling a record. A path that is too long for the system can't
   // be looked at, though its name can.
@@ -308,7 +316,7 @@ int RemoveAt(int folder, char const* name, ustring const& path) {
   }
   if (type != FILE_TYPE_DIRECTORY) return unlinkat(folder, name, 0) < 0 ? -3 : 0;
   bool is_readable = false;
-  if (int const result = RemoveEntries(path, is_readable)) return result;
+  if (int const result = RemoveEntries(path, Walk::kByFolders, is_readable)) return result;
   return is_readable && unlinkat(folder, name, AT_REMOVEDIR) < 0 ? -3 : 0;
 }
 
@@ -615,7 +623,16 @@ int FSRename(ustring const& source, ustring const& target, bool strict) {
 }
 
 int FSRemove(ustring const& path, [[maybe_unused]] bool ignored) {
-  return path.empty() ? -1 : RemoveAt(AT_FDCWD, path.c_str(), path);
+  _FILE_INFO_tag info;
+  if (path.empty() || GetFileInfo(path, info) != 0) return -1;
+  if (!info.exists) return 0;
+  if (info.type != FILE_TYPE_DIRECTORY) return RemoveOne(path);
+  // A path with a link or dots in it may lead through the very tree that is removed, and then leads
+  // elsewhere, or nowhere, as soon as the link has gone.
+  Walk const walk = info.path == ToNfc(path) ? Walk::kByFolders : Walk::kByPath;
+  bool is_readable = false;
+  if (int const result = RemoveEntries(path, walk, is_readable)) return result;
+  return is_readable ? RemoveOne(path) : 0;
 }
 
 int FSMktemp(ustring const& directory, ustring& path) {

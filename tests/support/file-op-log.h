@@ -1,6 +1,5 @@
 #pragma once
 
-#include <regex>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -27,12 +26,14 @@ class FileOpLog {
 
   /// The lines without stamp, and with # for the source line's number.
   std::vector<std::string> Lines() const {
-    static std::regex const stamp("^[A-Z][a-z]{2} [0-9]{2} [0-9:]{8} ");
-    static std::regex const number("^(\\[[A-Z]+\\] file-op)\\([0-9]+\\)");
     std::vector<std::string> lines;
     std::istringstream text(ReadFile(folder_ / "log"));
     for (std::string line; std::getline(text, line);) {
-      lines.push_back(std::regex_replace(std::regex_replace(line, stamp, ""), number, "$1(#)"));
+      constexpr std::size_t kStamp = sizeof("Jan 31 23:59:59 ") - 1;
+      line.erase(0, kStamp);
+      std::size_t const number = line.find("(") + 1;
+      line.replace(number, line.find(")") - number, "#");
+      lines.push_back(line);
     }
     return lines;
   }
