@@ -49,12 +49,24 @@ class Descriptor {
   int number_;
 };
 
-struct SyncAtEnd {
-  explicit SyncAtEnd(Descriptor const& file) : descriptor(file.number()) {}
-  ~SyncAtEnd() { fsync(descriptor); }
-  SyncAtEnd(SyncAtEnd const&) = delete;
-  SyncAtEnd& operator=(SyncAtEnd const&) = delete;
-  int const descriptor;
+/// An open file that is synced before it is closed.
+class SyncedDescriptor {
+ public:
+  SyncedDescriptor() = default;
+  ~SyncedDescriptor() {
+    if (!IsOpen()) return;
+    fsync(number_);
+    close(number_);
+  }
+  SyncedDescriptor(SyncedDescriptor const&) = delete;
+  SyncedDescriptor& operator=(SyncedDescriptor const&) = delete;
+
+  void Take(int number) { number_ = number; }
+  bool IsOpen() const { return number_ >= 0; }
+  int number() const { return number_; }
+
+ private:
+  int number_ = -1;
 };
 
 /// The call that every reader of directories goes through. It is deprecated for fear of names
@@ -576,6 +588,9 @@ int FSMKDirFromRoot(ustring const& target, ustring const& root) {
 }
 
 int FSCopy(ustring const& source, ustring const& target, bool remove_source) {
+  // In this order, so that the source is closed first, then the target, and the buffer is freed.
+  std::unique_ptr<char, FreeBlock> buffer;
+  SyncedDescriptor to;
   Descriptor from(open(source.c_str(), O_RDONLY | O_CLOEXEC));
   if (!from.IsOpen()) {
     LOG_MSG(LEVEL_ERROR, log_component::file_op(),
@@ -583,15 +598,14 @@ int FSCopy(ustring const& source, ustring const& target, bool remove_source) {
             errno);
     return -1;
   }
-  Descriptor const to(open(target.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+  to.Take(open(target.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
   if (!to.IsOpen()) {
     LOG_MSG(LEVEL_ERROR, log_component::file_op(),
             "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", target.c_str(), strerror(errno),
             errno);
     return -1;
   }
-  SyncAtEnd const sync(to);
-  std::unique_ptr<char, FreeBlock> const buffer(static_cast<char*>(std::malloc(kCopyBufferSize)));
+  buffer.reset(static_cast<char*>(std::malloc(kCopyBufferSize)));
   if (buffer == nullptr) {
     LOG_MSG(LEVEL_ERROR, log_component::file_op(),
             "[ERROR] file-op(%d): FSCopy: malloc(%d): %s (%d)\n", kCopyBufferSize, strerror(errno),

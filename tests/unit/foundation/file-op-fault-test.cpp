@@ -261,6 +261,45 @@ TEST(FSCopyFault, ReadsAnEmptyFileOnceAndMakesAnEmptyTarget) {
   EXPECT_EQ(fs::file_size(folder / "target"), 0U);
 }
 
+TEST(FSCopyFault, ClosesTheSourceThenSyncsAndClosesTheTargetThenFreesTheBuffer) {
+  TempDir folder;
+  for (bool const is_refused : {false, true}) {
+    for (bool const remove_source : {false, true}) {
+      WriteFile(folder / "source", "bytes");
+      std::vector<std::string> steps;
+      int source = -1;
+      int target = -1;
+      void* buffer = nullptr;
+      {
+        SystemCalls calls;
+        calls.read = [&](int file, void* bytes, std::size_t count) {
+          source = file;
+          buffer = bytes;
+          return test::LibraryRead(file, bytes, count);
+        };
+        calls.write = [&](int file, void const* bytes, std::size_t count) -> ssize_t {
+          target = file;
+          return is_refused ? FailWith(ENOSPC) : test::LibraryWrite(file, bytes, count);
+        };
+        calls.fsync = [&](int file) {
+          if (file == target) steps.push_back("sync the target");
+          return 0;
+        };
+        calls.close = [&](int file) {
+          if (file == source) steps.push_back("close the source");
+          if (file == target) steps.push_back("close the target");
+        };
+        calls.free = [&](void* block) {
+          if (block == buffer && block != nullptr) steps.push_back("free the buffer");
+        };
+        EXPECT_EQ(FSCopy(folder / "source", folder / "target", remove_source), is_refused ? -2 : 0);
+      }
+      EXPECT_THAT(steps, ElementsAre("close the source", "sync the target", "close the target",
+                                     "free the buffer"));
+    }
+  }
+}
+
 TEST(FSCopyFault, GoesOnAfterShortReadsAndWrites) {
   TempDir folder;
   std::string bytes;

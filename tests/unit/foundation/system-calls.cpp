@@ -90,4 +90,18 @@ int fsync(int file) {
   return call(file);
 }
 
+int close(int file) {
+  if (taken_over != nullptr && taken_over->close) taken_over->close(file);
+  static auto* const call = Library<int(int)>("close");
+  return call(file);
+}
+
+// By the linker's --wrap: a sanitizer brings a free() of its own.
+void __real_free(void* block);
+void __wrap_free(void* block);
+void __wrap_free(void* block) {
+  if (taken_over != nullptr && taken_over->free) taken_over->free(block);
+  __real_free(block);
+}
+
 }  // extern "C"

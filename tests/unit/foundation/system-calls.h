@@ -25,6 +25,10 @@ struct SystemCalls {
   std::function<ssize_t(int file, void* bytes, std::size_t count)> read;
   std::function<ssize_t(int file, void const* bytes, std::size_t count)> write;
   std::function<int(int file)> fsync;
+
+  // These are only watched: the library's function follows. Of free(), the calls of this program.
+  std::function<void(int file)> close;
+  std::function<void(void* block)> free;
 };
 
 /// The library's own.
