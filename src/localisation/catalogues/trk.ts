@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>İlişkili Bağlantıyı Kaldır</translation>
+        <translation>Bağlantının İlişkisini Kaldır</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -1141,7 +1141,7 @@
     <message>
         <source>Please wait while the Setup Wizard configures [ProductName].  This may take several minutes.</source>
         <extracomment>233 msi_progress_dlg_text, 344 msi_progress_dlg_description</extracomment>
-        <translation>Kurulum Sihirbazı [ProductName] işlemlerini yürütürken lütfen bekleyin. Bu birkaç dakika sürebilir.</translation>
+        <translation>Kurulum Sihirbazı [ProductName] programını yapılandırırken lütfen bekleyin. Bu birkaç dakika sürebilir.</translation>
     </message>
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
@@ -1281,7 +1281,7 @@
     <message>
         <source>Link again</source>
         <extracomment>266 tray_relink</extracomment>
-        <translation>Yeniden İlişkilendir</translation>
+        <translation>Yeniden ilişkilendir</translation>
     </message>
     <message>
         <source>Set Up Larkmoor Drive</source>
@@ -1586,7 +1586,7 @@
     <message>
         <source>Connection settings</source>
         <extracomment>336 tray_setinfo</extracomment>
-        <translation>Bağlantı Ayarları</translation>
+        <translation>Bağlantı ayarları</translation>
     </message>
     <message>
         <source>Last 7 days</source>
