@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Usuń powiązane połączenie</translation>
+        <translation>Usuń powiązanie połączenia</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -306,7 +306,7 @@
     <message>
         <source>%1 day(s) ago</source>
         <extracomment>60 time_day_ago</extracomment>
-        <translation>%1 dn. temu</translation>
+        <translation>Dni temu: %1</translation>
     </message>
     <message>
         <source>The port number must be between 1 and 65535.</source>
@@ -1986,7 +1986,7 @@
     <message>
         <source>Choose what you want to do with the installation.</source>
         <extracomment>430 msi_maintenance_dlg_description</extracomment>
-        <translation>Wybierz operację, którą chcesz wykonać.</translation>
+        <translation>Wybierz, co chcesz zrobić z instalacją.</translation>
     </message>
     <message>
         <source>December</source>
