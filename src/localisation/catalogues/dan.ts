@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Fjern tilknyttet forbindelse</translation>
+        <translation>Fjern forbindelsens tilknytning</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -1316,7 +1316,7 @@
     <message>
         <source>A mount point cannot be used as a sync folder. Please choose another one.</source>
         <extracomment>278 msg_folder_mount_point</extracomment>
-        <translation>Et tilslutningspunkt kan ikke bruges som synkroniseringsmappe. Vælg en anden.</translation>
+        <translation>Et tilslutningspunkt kan ikke bruges som synkroniseringsmappe. Vælg en anden mappe.</translation>
     </message>
     <message>
         <source>has been shared with you.</source>
@@ -1971,7 +1971,7 @@
     <message>
         <source>Repair missing or damaged files, shortcuts and registry entries of [ProductName].</source>
         <extracomment>423 msi_maintenance_dlg_repair_text</extracomment>
-        <translation>Reparer manglende eller beskadigede filer, genveje og registreringsposter for [ProductName].</translation>
+        <translation>Reparer manglende eller beskadigede filer, genveje og poster i registreringsdatabasen for [ProductName].</translation>
     </message>
     <message>
         <source>Show status icons on files and folders that are not synced</source>
@@ -2276,7 +2276,7 @@
     <message>
         <source>This folder contains, or lies inside, another sync folder. Please choose another one.</source>
         <extracomment>500 wizard_conflict_sync_folder_warning</extracomment>
-        <translation>Denne mappe indeholder eller ligger i en anden synkroniseringsmappe. Vælg en anden.</translation>
+        <translation>Denne mappe indeholder eller ligger i en anden synkroniseringsmappe. Vælg en anden mappe.</translation>
     </message>
     <message>
         <source>No Thanks</source>
