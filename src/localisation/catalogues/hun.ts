@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Társított kapcsolat törlése</translation>
+        <translation>Kapcsolat társításának megszüntetése</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -271,7 +271,7 @@
     <message>
         <source>This computer is already linked to %1. Linking it to the same NAS again may cause file conflicts. Do you want to continue?</source>
         <extracomment>53 wizard_setup_repeat_warning2</extracomment>
-        <translation>Ez a számítógép már társítva van a következővel: %1. Ha ismét ugyanahhoz a NAS-hoz társítja, fájlütközések léphetnek fel. Folytatja?</translation>
+        <translation>Ez a számítógép már társítva van a következővel: %1. Ha ismét ugyanazzal a NAS-sal társítja, fájlütközések léphetnek fel. Folytatja?</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -471,7 +471,7 @@
     <message>
         <source>Link this computer to your NAS in a few clicks. All your files will be synced to a single folder with the recommended settings.</source>
         <extracomment>97 wizard_setup_quick_mode_desc</extracomment>
-        <translation>Társítsa ezt a számítógépet a NAS-hoz néhány kattintással. Minden fájlja egyetlen mappába szinkronizálódik az ajánlott beállításokkal.</translation>
+        <translation>Társítsa ezt a számítógépet a NAS-sal néhány kattintással. Minden fájlja egyetlen mappába szinkronizálódik az ajánlott beállításokkal.</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -1036,7 +1036,7 @@
     <message>
         <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
-        <translation>Ha további mappákat szeretne szinkronizálni vagy módosítaná a szinkronizálási beállításokat, nyissa meg bármikor a Larkmoor Drive alkalmazást.</translation>
+        <translation>Ha további mappákat szeretne szinkronizálni, vagy módosítaná a szinkronizálási beállításokat, nyissa meg bármikor a Larkmoor Drive alkalmazást.</translation>
     </message>
     <message>
         <source>Maximum number of downloads</source>
@@ -1131,7 +1131,7 @@
     <message>
         <source>Sync will be disabled for this folder, and its files will be permantely removed from this computer. The copies on the NAS will be kept.</source>
         <extracomment>231 share_enable_remove_msg</extracomment>
-        <translation>A szinkronizálás le lesz tiltva ennél a mappánál, és a fájljai véglegesen törlődnek erről a számítógépről. A NAS-on lévő példányok megmaradnak.</translation>
+        <translation>A szinkronizálás le lesz tiltva ennél a mappánál, és a mappában lévő fájlok véglegesen törlődnek erről a számítógépről. A NAS-on lévő példányok megmaradnak.</translation>
     </message>
     <message>
         <source>&amp;Ignore</source>
@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>A következő alkalmazások frissítendő fájlokat használnak. Zárja be őket, és kattintson az Újra gombra a folytatáshoz, vagy a Kilépés gombra a telepítés befejezéséhez.</translation>
+        <translation>A következő alkalmazások frissítendő fájlokat használnak. Zárja be őket, és kattintson az Újra gombra a folytatáshoz, vagy a Kilépés gombra a telepítés megszakításához.</translation>
     </message>
     <message>
         <source>November</source>
@@ -1891,7 +1891,7 @@
     <message>
         <source>Click the tray icon to pause syncing, view the sync history or change your settings.</source>
         <extracomment>405 tutorial_fourth_desc</extracomment>
-        <translation>Kattintson a tálcaikonra a szinkronizálás szüneteltetéséhez, az előzmények megtekintéséhez vagy a beállítások módosításához.</translation>
+        <translation>Kattintson a tálcaikonra a szinkronizálás szüneteltetéséhez, a szinkronizálási előzmények megtekintéséhez vagy a beállítások módosításához.</translation>
     </message>
     <message>
         <source>Connected successfully.</source>
