@@ -71,6 +71,17 @@ build_preset() {
     die "the build of build/$preset failed, see the compiler's message above"
 }
 
+# keep_out_of_home FOLDER: lets Qt and fontconfig keep there what they would in the home, or in /tmp
+# for a session without a folder of its own. Call it behind a build: ccache's cache stays where it is.
+keep_out_of_home() {
+  export XDG_CACHE_HOME=$1/cache
+  if [ -z "${XDG_RUNTIME_DIR:-}" ]; then
+    export XDG_RUNTIME_DIR=$1/runtime
+    mkdir -p "$XDG_RUNTIME_DIR"
+    chmod 700 "$XDG_RUNTIME_DIR"
+  fi
+}
+
 # version_value INFO KEY: the value of a key in the group "Version", empty without one.
 version_value() {
   awk -v key="$2" '

@@ -98,7 +98,7 @@ def xvfb():
     reader, writer = os.pipe()
     server = subprocess.Popen(
         ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1024x768x24", "-nolisten", "tcp",
-         "-noreset"],
+         "-nolisten", "unix", "-noreset"],
         pass_fds=[writer], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     os.close(writer)
     try:

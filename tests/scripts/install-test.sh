@@ -24,10 +24,15 @@ make_bundle() {
     "elsewhere/Larkmoor Drive.app"
 }
 
+# at_home COMMAND...: with all that belongs to a user in the test's folder.
+at_home() {
+  mkdir -p -m 700 home caches runtime
+  env HOME="$PWD/home" XDG_CACHE_HOME="$PWD/caches" XDG_RUNTIME_DIR="$PWD/runtime" "$@"
+}
+
 # launch ASSIGNMENT...: starts the bundle with these variables in its environment.
 launch() {
-  mkdir -p home
-  timeout 60 env "$@" HOME="$PWD/home" "elsewhere/Larkmoor Drive.app/Contents/MacOS/launcher" \
+  at_home timeout 60 env "$@" "elsewhere/Larkmoor Drive.app/Contents/MacOS/launcher" \
     >launched 2>&1 || fail "the launcher ended with status $?" "$(cat launched)"
 }
 
@@ -83,9 +88,8 @@ TestBundleNeedsNothingOfTheBuildOrTheSources() {
   skip_without strace
   make_note_client 7
   make_bundle
-  mkdir -p home
   # A leak checker can't work under strace.
-  HOME=$PWD/home ASAN_OPTIONS=${ASAN_OPTIONS:-}:detect_leaks=0 \
+  at_home env ASAN_OPTIONS="${ASAN_OPTIONS:-}:detect_leaks=0" \
     strace -f -qq -e trace=file -o trace "elsewhere/Larkmoor Drive.app/Contents/MacOS/launcher" \
     >launched 2>&1 || fail "the launcher ended with status $?" "$(tail -n 5 launched trace)"
   expect_installed

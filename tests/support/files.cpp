@@ -3,6 +3,8 @@
 #include <stdlib.h>
 #include <unistd.h>
 
+#include <chrono>
+#include <cstdio>
 #include <fstream>
 #include <iterator>
 #include <ostream>
@@ -33,9 +35,15 @@ TempDir::TempDir() {
 }
 
 TempDir::~TempDir() {
-  MakeRemovable(path_);
-  std::error_code ignored;
-  fs::remove_all(path_, ignored);
+  // A process that a test has started and not waited for may still add to a folder that has just
+  // been emptied.
+  auto const end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+  std::error_code error;
+  do {
+    MakeRemovable(path_);
+    fs::remove_all(path_, error);
+  } while (error == std::errc::directory_not_empty && std::chrono::steady_clock::now() < end);
+  if (error) std::fprintf(stderr, "%s stays behind: %s\n", path_.c_str(), error.message().c_str());
 }
 
 void PreferMemory() {

@@ -79,8 +79,8 @@ std::vector<std::string> NormaliseLog(std::string const& text) {
 
 Sandbox::Sandbox(std::string launcher, std::string home) : home_(std::move(home)) {
   fs::create_directories(Home());
-  fs::create_directories(folder_ / "runtime");
-  fs::permissions(folder_ / "runtime", fs::perms::owner_all);
+  fs::create_directories(Runtime());
+  fs::permissions(Runtime(), fs::perms::owner_all);
   std::string const macos = Bundle() + "/Contents/MacOS";
   fs::create_directories(macos);
   fs::create_directories(Bundle() + "/Contents/Resources");
@@ -152,7 +152,8 @@ Process::Options Sandbox::Start() const {
   options.environment = {{"HOME", Home()},
                          {"QT_QPA_PLATFORM", "offscreen"},
                          {"LC_ALL", "C.UTF-8"},
-                         {"XDG_RUNTIME_DIR", folder_ / "runtime"}};
+                         {"XDG_CACHE_HOME", Caches()},
+                         {"XDG_RUNTIME_DIR", Runtime()}};
   options.folder = Home();
   return options;
 }

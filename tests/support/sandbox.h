@@ -19,6 +19,9 @@ class Sandbox {
 
   std::string Bundle() const { return folder_ / "Start me.app"; }
   std::string Home() const { return folder_ / home_; }
+  /// Where fontconfig writes where it may not mend the system's cache, outside the home.
+  std::string Caches() const { return folder_ / "caches"; }
+  std::string Runtime() const { return folder_ / "runtime"; }
   std::string UserRoot() const { return Home() + "/.Larkmoor"; }
   std::string App() const { return UserRoot() + "/Larkmoor.app"; }
   std::string Package() const { return Bundle() + "/Contents/Resources/package/larkmoor.lpk"; }
