@@ -161,6 +161,10 @@ std::vector<Case> const& Cases() {
       {"a hard link with a relative target gives a file of the working folder a second name",
        Verdict::kInstalled, [](S) { return TarHeader("twin", '1', 0, "victim"); },
        [](S app) { EXPECT_TRUE(fs::equivalent(app + "/twin", app + "/../../victim")); }},
+      {"a hard link with a relative target and a body overwrites a file of the working folder",
+       Verdict::kInstalled,
+       [](S) { return PaxName("twin") + TarHeader("twin", '1', 4, "victim") + Padded("evil"); },
+       [](S app) { EXPECT_EQ(test::ReadFile(app + "/../../victim"), "evil"); }},
       {"set-user-id and set-group-id bits are dropped", Verdict::kInstalled,
        [](S) { return TarFile("suid", "x", 06755); },
        [](S app) {
