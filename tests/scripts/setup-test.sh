@@ -233,6 +233,43 @@ TestTestSaysNothingOfSkippingWhereEveryTestRan() {
   expect_not_said "Skipped"
 }
 
+# make_ci: a checkout whose scripts/test says who runs it, and where.
+make_ci() {
+  skip_without setpriv
+  [ "$(id -u)" = 0 ] || skip "only root can become another user"
+  mkdir -p .ci scripts build
+  cp "$PROJECT/.ci/run" .ci/
+  touch CMakeLists.txt
+  echo : >scripts/setup
+  # shellcheck disable=SC2016  # the fake's own
+  echo 'echo "$(id -un) in $PWD"; touch build/made; if [ -e leave ]; then touch "$HOME/left"; fi' >scripts/test
+}
+
+run_ci_as_user() { LARKMOOR_CI=user bash .ci/run; }
+
+TestCiTakesTheBuildOverForAnOrdinaryUser() {
+  make_ci
+  chmod 755 .
+  expect_success run_ci_as_user
+  expect_said "nobody in $PWD"
+  [ -n "$(find build/made -user root)" ] || fail "the build isn't given back to root"
+}
+
+TestCiCopiesACheckoutThatAnOrdinaryUserCannotRead() {
+  make_ci
+  chmod 700 .
+  expect_success run_ci_as_user
+  expect_said "nobody in"
+  expect_not_said "nobody in $PWD"
+}
+
+TestCiFailsWhereAnOrdinaryUsersRunLeavesSomething() {
+  make_ci
+  chmod 755 .
+  touch leave
+  expect_failure "home/left" run_ci_as_user
+}
+
 TestASkippedFunctionIsNeitherPassedNorFailed() {
   cat >some-test.sh <<END
 . "$PROJECT/tests/scripts/harness.sh"
