@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Удалить связанное подключение</translation>
+        <translation>Разорвать связь подключения</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -1971,7 +1971,7 @@
     <message>
         <source>Repair missing or damaged files, shortcuts and registry entries of [ProductName].</source>
         <extracomment>423 msi_maintenance_dlg_repair_text</extracomment>
-        <translation>Исправление отсутствующих или поврежденных файлов, ярлыков и записей реестра [ProductName].</translation>
+        <translation>Восстановление отсутствующих или поврежденных файлов, ярлыков и записей реестра [ProductName].</translation>
     </message>
     <message>
         <source>Show status icons on files and folders that are not synced</source>
