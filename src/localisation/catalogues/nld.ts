@@ -1021,7 +1021,7 @@
     <message>
         <source>{\VerdanaBold13}[ProductName] Setup Failed</source>
         <extracomment>209 msi_fatalerror_dlg_subtitle</extracomment>
-        <translation>{\VerdanaBold13}Installatie van [ProductName] is mislukt</translation>
+        <translation>{\VerdanaBold13}De installatie van [ProductName] is mislukt</translation>
     </message>
     <message>
         <source>No settings have been changed.</source>
@@ -1036,7 +1036,7 @@
     <message>
         <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
-        <translation>Open Larkmoor Drive op elk gewenst moment om meer mappen te synchroniseren of de synchronisatie-instellingen te wijzigen.</translation>
+        <translation>U kunt Larkmoor Drive op elk moment openen om meer mappen te synchroniseren of de synchronisatie-instellingen te wijzigen.</translation>
     </message>
     <message>
         <source>Maximum number of downloads</source>
@@ -1436,7 +1436,7 @@
     <message>
         <source>Processing %1 file(s)...</source>
         <extracomment>305 tray_syncing_file_cnt</extracomment>
-        <translation>%1 bestand(en) worden verwerkt...</translation>
+        <translation>Bezig met verwerken van %1 bestand(en)...</translation>
     </message>
     <message>
         <source>Your account requires 2-step verification. Please set it up on the NAS first.</source>
@@ -1821,7 +1821,7 @@
     <message>
         <source>The local sync folder &quot;%1&quot; cannot be found. It may have been moved, renamed or deleted.</source>
         <extracomment>391 err_local_sync_folder_miss</extracomment>
-        <translation>De lokale synchronisatiemap “%1” is niet gevonden. De map is mogelijk verplaatst, verwijderd of heeft een andere naam gekregen.</translation>
+        <translation>De lokale synchronisatiemap “%1” is niet gevonden. De map is mogelijk verplaatst of verwijderd, of heeft een andere naam gekregen.</translation>
     </message>
     <message>
         <source>Unable to remove the sync folder &quot;%1&quot;.</source>
