@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Zrušit propojené připojení</translation>
+        <translation>Zrušit propojení tohoto připojení</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -1206,7 +1206,7 @@
     <message>
         <source>Show the tutorial</source>
         <extracomment>249 general_setting_show_tutorial</extracomment>
-        <translation>Zobrazit úvodního průvodce</translation>
+        <translation>Zobrazit úvodní kurz</translation>
     </message>
     <message>
         <source>Trying to sync...</source>
@@ -1271,7 +1271,7 @@
     <message>
         <source>The icons on your files and folders show whether they are up to date, syncing or not synced.</source>
         <extracomment>264 tutorial_second_desc</extracomment>
-        <translation>Ikony u souborů a složek ukazují, zda jsou aktuální, zda se synchronizují, nebo zda se nesynchronizují.</translation>
+        <translation>Ikony u souborů a složek ukazují, zda jsou tyto položky aktuální, zda se synchronizují, nebo zda se nesynchronizují.</translation>
     </message>
     <message>
         <source>Easy connection</source>
