@@ -21,7 +21,7 @@
     <message>
         <source>Choose the folders, sync direction and file filters yourself (recommended for experienced users)&#x200b;.</source>
         <extracomment>3 wizard_setup_advan_mode_desc</extracomment>
-        <translation>Escolha pessoalmente as pastas, o sentido da sincronização e os filtros de ficheiros (recomendado para utilizadores experientes).</translation>
+        <translation>Escolha pessoalmente as pastas, o sentido de sincronização e os filtros de ficheiros (recomendado para utilizadores experientes).</translation>
     </message>
     <message>
         <source>From</source>
@@ -1036,7 +1036,7 @@
     <message>
         <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
-        <translation>Para sincronizar mais pastas ou alterar as definições de sincronização, abra a Larkmoor Drive em qualquer altura.</translation>
+        <translation>Pode abrir a Larkmoor Drive em qualquer altura para sincronizar mais pastas ou alterar as definições de sincronização.</translation>
     </message>
     <message>
         <source>Maximum number of downloads</source>
@@ -1271,7 +1271,7 @@
     <message>
         <source>The icons on your files and folders show whether they are up to date, syncing or not synced.</source>
         <extracomment>264 tutorial_second_desc</extracomment>
-        <translation>Os ícones nos seus ficheiros e pastas indicam se estes estão atualizados, a ser sincronizados ou por sincronizar.</translation>
+        <translation>Os ícones nos seus ficheiros e pastas indicam se estes estão atualizados, a ser sincronizados ou não sincronizados.</translation>
     </message>
     <message>
         <source>Easy connection</source>
@@ -2001,7 +2001,7 @@
     <message>
         <source>The sync direction of this folder does not match your permissions. Please change it in the settings.</source>
         <extracomment>433 sync_direction_mismatch</extracomment>
-        <translation>O sentido da sincronização desta pasta não corresponde às suas permissões. Altere-o nas definições.</translation>
+        <translation>O sentido de sincronização desta pasta não corresponde às suas permissões. Altere-o nas definições.</translation>
     </message>
     <message>
         <source>Global Settings</source>
@@ -2186,7 +2186,7 @@
     <message>
         <source>If a file has been changed both on this computer and on the NAS:</source>
         <extracomment>477 conflict_policy_desc</extracomment>
-        <translation>Se um ficheiro tiver sido alterado neste computador e no NAS:</translation>
+        <translation>Se um ficheiro tiver sido alterado tanto neste computador como no NAS:</translation>
     </message>
     <message>
         <source>Upgrading...</source>
