@@ -21,7 +21,7 @@
     <message>
         <source>Choose the folders, sync direction and file filters yourself (recommended for experienced users)&#x200b;.</source>
         <extracomment>3 wizard_setup_advan_mode_desc</extracomment>
-        <translation>フォルダー、同期方向、ファイルフィルターを自分で選択します (上級ユーザー向け)。</translation>
+        <translation>フォルダー、同期方向、ファイルフィルターを自分で選択します (上級ユーザーに推奨)。</translation>
     </message>
     <message>
         <source>From</source>
@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>次のアプリケーションが、更新の必要なファイルを使用しています。これらのアプリケーションを閉じてから、続行するには「再試行」を、インストールを終了するには「終了」をクリックしてください。</translation>
+        <translation>次のアプリケーションが、更新の必要なファイルを使用しています。これらのアプリケーションを閉じてから、続行するには「再試行」を、インストールを中止するには「終了」をクリックしてください。</translation>
     </message>
     <message>
         <source>November</source>
@@ -1986,7 +1986,7 @@
     <message>
         <source>Choose what you want to do with the installation.</source>
         <extracomment>430 msi_maintenance_dlg_description</extracomment>
-        <translation>実行する操作を選択してください。</translation>
+        <translation>インストールされたプログラムに対して実行する操作を選択してください。</translation>
     </message>
     <message>
         <source>December</source>
