@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Verknüpfte Verbindung entfernen</translation>
+        <translation>Verknüpfung der Verbindung aufheben</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -1731,7 +1731,7 @@
     <message>
         <source>The connection is not secure because the SSL certificate of the NAS could not be verified.</source>
         <extracomment>372 status_desc_ssl_verify_fail</extracomment>
-        <translation>Die Verbindung ist nicht sicher, da das SSL-Zertifikat des NAS nicht überprüft werden konnte.</translation>
+        <translation>Die Verbindung ist nicht sicher, da das SSL-Zertifikat des NAS nicht verifiziert werden konnte.</translation>
     </message>
     <message>
         <source>Your account has been disabled. Please contact the NAS administrator.</source>
