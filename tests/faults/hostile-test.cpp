@@ -568,20 +568,31 @@ class FlippedBit : public DamagedPackage, public testing::WithParamInterface<cha
   }
 };
 
+/// A sound client, packed as scripts/make-package does: zstd's own program adds a checksum, which
+/// libarchive leaves out.
+std::string Packed(std::string const& filter) {
+  if (filter != "zstd") return test::MakeArchive(Sandbox::Client(200), "gnutar", filter);
+  test::TempDir const folder;
+  std::string const tar = folder / "client.tar";
+  test::WriteFile(tar, test::MakeArchive(Sandbox::Client(200), "gnutar"));
+  EXPECT_EQ(test::Run({{"/usr/bin/env", "zstd", "-q", tar}, {}, "", "", false}).status, 0);
+  return test::ReadFile(tar + ".zst");
+}
+
 TEST_P(FlippedBit, NeverWritesOutsideAndPassesUnnoticedOnlyWhereNoChecksumIsLookedAt) {
   Tree const beside = Beside();
   std::string const filter = GetParam();
-  Flips const flips = FlipAThousand(test::MakeArchive(Sandbox::Client(200), "gnutar", filter));
+  Flips const flips = FlipAThousand(Packed(filter));
   EXPECT_EQ(Beside(), beside);
   EXPECT_GT(flips.refused, 0);
   // libarchive doesn't look at gzip's checksum; plain tar has one for headers alone.
-  EXPECT_EQ(flips.other != 0, filter != "xz");
+  EXPECT_EQ(flips.other != 0, filter == "none" || filter == "gzip");
   test::Report("a flipped bit at 1,000 places, filter " + filter + ": " +
                std::to_string(flips.refused) + " refused, " + std::to_string(flips.same) +
                " whole, " + std::to_string(flips.other) + " with other bytes");
 }
 
-INSTANTIATE_TEST_SUITE_P(Filters, FlippedBit, testing::Values("none", "gzip", "xz"),
+INSTANTIATE_TEST_SUITE_P(Filters, FlippedBit, testing::Values("none", "gzip", "zstd", "xz"),
                          [](auto const& parameter) { return std::string(parameter.param); });
 
 TEST_F(HostilePackage, AnyDamageGivesTheOldTreeBack) {

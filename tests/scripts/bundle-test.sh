@@ -213,7 +213,7 @@ TestCheckFindsOneFlippedBitInAPackage() {
   local package=good/Larkmoor.app/Contents/Resources/package/larkmoor.lpk
   make_client client 7
   head -c 20000 /dev/urandom >client/Contents/Resources/noise
-  expect_success "$SCRIPTS/make-package" client client.lpk
+  expect_success "$SCRIPTS/make-package" --filter gzip client client.lpk
   expect_success make_bundle --package client.lpk good/Larkmoor.app
   # What can't be compressed is stored as it is, so that the middle of the package is noise.
   python3 - $package <<'END'

@@ -16,6 +16,17 @@ TestSameFolderGivesSameBytesWhateverTimesAndModes() {
   cmp first.lpk second.lpk || fail "the packages differ"
 }
 
+# Enough for several jobs, which zstd shares out among its threads.
+TestSameFolderGivesSameBytesOnAnyNumberOfCores() {
+  make_client client 7
+  seq 1 3000000 >client/Contents/numbers
+  local cores
+  for cores in 1 2 3; do
+    LARKMOOR_JOBS=$cores expect_success pack --level 1 client $cores.lpk
+    cmp 1.lpk $cores.lpk || fail "the packages differ"
+  done
+}
+
 TestOtherFormatsAreTheSameBytesEachTime() {
   make_client client 7
   local form
@@ -90,6 +101,47 @@ TestFiltersByName() {
     expect_success pack --filter $each client out.lpk
     names out.lpk >/dev/null || fail "$each: can't be read back"
   done
+}
+
+TestDefaultFilterIsZstdWithAWindowThatTheLauncherCanAfford() {
+  make_client client 7
+  seq 1 800000 >client/Contents/numbers
+  local level window
+  for level in "" 1 19 22; do
+    expect_success pack ${level:+--level $level} client out.lpk
+    zstd -lv out.lpk >list 2>&1 || fail "that is no zstd" "$(cat list)"
+    window=$(sed -n 's/^Window Size:.*(\([0-9]*\) B)$/\1/p' list)
+    [ "$window" -le 4194304 ] || fail "level $level: the window has $window bytes"
+    grep -q '^Check: XXH64' list || fail "level $level: there is no checksum" "$(cat list)"
+  done
+}
+
+TestLevelMakesAPackageSmallerOrLarger() {
+  make_client client 7
+  cat "$SCRIPTS"/make-* "$SCRIPTS"/check-* >client/Contents/text
+  local each
+  for each in zstd gzip; do
+    expect_success pack --filter $each --level 1 client fast.lpk
+    expect_success pack --filter $each --level 9 client small.lpk
+    [ "$(wc -c <small.lpk)" -lt "$(wc -c <fast.lpk)" ] || fail "$each: the level makes no difference"
+  done
+}
+
+TestLevelThatThereIsNotIsNamed() {
+  make_client client 7
+  expect_failure "'high' is no level" pack --level high client out.lpk
+  expect_failure "zstd has no level 23" pack --level 23 client out.lpk
+  expect_failure "zstd has no level 0" pack --level 0 client out.lpk
+  expect_failure "with the filter xz at level 77" pack --filter xz --level 77 client out.lpk
+  expect_failure "--level needs a value" pack client out.lpk --level
+}
+
+TestMissingZstdIsNamed() {
+  make_client client 7
+  mkdir bin
+  local each
+  for each in bash dirname basename awk uname; do ln -s "$(command -v $each)" bin/; done
+  expect_failure "zstd is missing: run scripts/setup" env PATH="$PWD/bin" "$SCRIPTS/make-package" client out.lpk
 }
 
 TestNamesOutsideAsciiWarnInAllFormatsButGnutar() {
