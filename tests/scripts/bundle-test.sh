@@ -153,6 +153,30 @@ TestCheckFindsLibrariesThatAreMissingHere() {
   done
 }
 
+# A library that knows no zstd, under a name that the launcher alone asks for.
+TestCheckReadsThePackageWithTheLaunchersOwnLibarchive() {
+  make_good_bundle
+  local library name other
+  library=$(ldd good/Larkmoor.app/Contents/MacOS/launcher | awk '/libarchive/ { print $3 }')
+  name=${library##*/}
+  other=${name/%?/x}
+  mkdir lib
+  python3 - "$library" "lib/$other" <<'END'
+import sys
+
+with open(sys.argv[1], "rb") as file:
+    library = file.read()
+magic = bytes.fromhex("28b52ffd")
+assert magic in library, "the first bytes of zstd aren't found in libarchive"
+with open(sys.argv[2], "wb") as file:
+    file.write(library.replace(magic, bytes(4)))
+END
+  in_bundle sed -i "s/$name/$other/" MacOS/launcher
+  expect_success env LD_LIBRARY_PATH="$PWD/lib" bsdtar -tf client.lpk
+  expect_failure "the package can't be read by the launcher's libarchive (bsdtar: Error opening archive: Unrecognized" \
+    env LD_LIBRARY_PATH="$PWD/lib" "$SCRIPTS/check-bundle" good/Larkmoor.app
+}
+
 TestCheckFindsLibrariesThatAreMissingUnderAnotherOne() {
   make_good_bundle
   local library name
