@@ -17,6 +17,7 @@ EXECUTABLE = "Contents/MacOS/larkmoor-drive-ui"
 INFO = "Contents/Resources/INFO"
 INFO_TEXT = "[Version]\nmajor_version=3\nminor_version=1\nbuild_version={}\nicon_overlay_version=12\n"
 
+MAKE_PACKAGE = pathlib.Path(__file__).parents[2] / "scripts/make-package"
 ICON = pathlib.Path(__file__).parents[2] / "resources/images/ico_72_larkmoor.png"
 
 # Without the system's forty or so files of rules for fonts, which each program that shows text reads
@@ -54,7 +55,7 @@ def content(source, size):
     return (start + repeated * (size // max(1, len(repeated)) + 1))[:size]
 
 
-def _client(folder):
+def client(folder):
     """What makes a tree a client: something to start, and its version."""
     executable = folder / EXECUTABLE
     executable.parent.mkdir(parents=True, exist_ok=True)
@@ -75,7 +76,7 @@ def tree(folder, files, size, folders):
     for i in range(files):
         share = int(size / files * source.uniform(0.5, 1.5))
         (places[i % folders] / f"file-{i:06}.dat").write_bytes(content(source, share))
-    _client(folder)
+    client(folder)
 
 
 def deep_tree(folder, files, depth):
@@ -87,7 +88,7 @@ def deep_tree(folder, files, depth):
     place.mkdir(parents=True)
     for i in range(files):
         (place / f"file-{i:06}.dat").write_bytes(content(source, 100))
-    _client(folder)
+    client(folder)
 
 
 def system_tree(folder, size):
@@ -105,7 +106,7 @@ def system_tree(folder, size):
         target.parent.mkdir(parents=True, exist_ok=True)
         shutil.copyfile(path, target)
         taken += path.stat().st_size
-    _client(folder)
+    client(folder)
 
 
 def pack(folder, package, options):
@@ -116,6 +117,11 @@ def pack(folder, package, options):
     subprocess.run(["bsdtar", "-cf", partial, *options, "-C", folder, "--null", "-n", "-T", "-"],
                    input="\0".join(paths).encode(), check=True)
     partial.rename(package)
+
+
+def make_package(folder, package, *options):
+    """As a release makes it."""
+    subprocess.run([MAKE_PACKAGE, "--quiet", *options, folder, package], check=True)
 
 
 class Packages:
@@ -136,6 +142,14 @@ class Packages:
                 pack(folder, self.cache / f"{name}.{kind}", FORMATS[kind])
             remove(folder)
         return {kind: self.cache / f"{name}.{kind}" for kind in kinds}
+
+
+    def xz(self, name, tree):
+        """The smallest that takes no more memory to unpack than a user's machine has to spare."""
+        package = self.cache / f"{name}.xz.lpk"
+        if not package.exists():
+            make_package(tree, package, "--filter", "xz", "--level", "6")
+        return package
 
 
 class Bundle:
@@ -195,10 +209,17 @@ class Bundle:
     def install_same_build(self):
         """So that a start has nothing to upgrade."""
         if not self.installed.exists():
-            _client(self.installed)
+            client(self.installed)
+
+    def install_older_build(self, tree):
+        self.forget_installation()
+        self.installed.parent.mkdir(parents=True)
+        workspace.run(["cp", "-r", tree, self.installed])
+        (self.installed / INFO).write_text(INFO_TEXT.format(1))
 
     def check_installation(self):
-        if not (self.installed / INFO).exists():
+        info = self.installed / INFO
+        if not info.exists() or info.read_text() != INFO_TEXT.format(2):
             log = (self.home / ".Larkmoor/log/launcher.log").read_text(errors="replace")
             raise workspace.Failure(f"the launcher installed nothing and says:\n{log}")
 

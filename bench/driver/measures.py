@@ -47,11 +47,13 @@ def memory(session):
     ours, least = session.in_turn([launcher, bare], session.plan.memory_runs)
     limit = median(least, "memory") + 4 * MIB
     session.memory("plain start, offscreen", "bare minimal + 4 MiB", median(ours, "memory"), limit)
-    package = session.big_package("tar.zst")
+    package = session.folder / "default.lpk"
+    with _Source(session, session.plan.big[1]) as tree:
+        inputs.make_package(tree, package)
     for where, display in session.displays():
         installing = _install(session, package, display)
         peak = median(session.in_turn([installing], session.plan.memory_runs)[0], "memory")
-        session.memory(f"install of tar.zst, {where}", "", peak, (40 if display else 32) * MIB)
+        session.memory(f"install, {where}", "", peak, (40 if display else 32) * MIB)
 
 
 def notify(session):
@@ -94,6 +96,47 @@ def _count_calls(lines):
         if call[2] == "execve" and call[1] != ours:
             gone.add(call[1])
     return count
+
+
+# ---- upgrade ----
+
+def _upgrade(session, name, package, tree):
+    """A whole one: an older client of the same size is there."""
+    bundle = session.bundle
+
+    def prepare():
+        bundle.install_older_build(tree)
+        bundle.carry(package)
+
+    return Contender(name, [bundle.program("launcher")], bundle.environment(), prepare,
+                     bundle.check_installation, 2 * session.plan.install_memory)
+
+
+def upgrade(session):
+    """What a user waits for, with the package that scripts/make-package makes by default, and what
+    it takes to make that."""
+    plan = session.plan
+    default, gzip = session.folder / "default.lpk", session.folder / "gzip.lpk"
+    with _Source(session, plan.big[1]) as tree:
+        make = [inputs.MAKE_PACKAGE, "--quiet"]
+        session.compare(f"packing of {plan.big_name}", [
+            Contender("default", [*make, tree, default]),
+            Contender("gzip", [*make, "--filter", "gzip", tree, gzip]),
+        ], plan.packings, 3.0)
+        smallest = session.packages.xz(plan.big[0], tree)
+        size = default.stat().st_size
+        session.memory("package", "gzip", size, gzip.stat().st_size)
+        session.memory("package", "1.05 of xz at level 6", size, 1.05 * smallest.stat().st_size)
+        ours = _upgrade(session, "default", default, tree)
+        session.compare(f"upgrade of {plan.big_name}",
+                        [ours, _upgrade(session, "gzip", gzip, tree)], plan.installs, 0.35)
+        copied = session.folder / "copied"
+        session.compare(f"upgrade of {plan.big_name}", [
+            ours,
+            _into_fresh_folder(session, default, "bsdtar -xf alone", ["sh", "-c", ONE_PASS, "sh"]),
+            Contender("cp -r", ["cp", "-r", tree, copied], None, lambda: inputs.remove(copied),
+                      memory=plan.install_memory),
+        ], plan.installs)
 
 
 # ---- install ----
@@ -344,7 +387,8 @@ def _add_part(session, group, operation, lines):
 
 
 ALL = {
-    "start": start, "memory": memory, "notify": notify, "calls": calls, "install": install,
+    "start": start, "memory": memory, "notify": notify, "calls": calls, "upgrade": upgrade,
+    "install": install,
     "remove": remove, "copy": copy, "parts": parts, "install-growth": install_growth,
     "remove-growth": remove_growth, "copy-growth": copy_growth,
 }

@@ -38,6 +38,7 @@ class Full:
     starts = 250
     memory_runs = 5
     notifications = (1000, 1000000)
+    packings = 3
     installs = 7
     removal_rounds = 7
     copy_rounds = 7
@@ -84,7 +85,7 @@ class Full:
     def limit(self, pairs):
         """No measure takes more pairs than that."""
         if pairs:
-            for name in ("starts", "memory_runs", "installs", "removal_rounds", "copy_rounds",
+            for name in ("starts", "memory_runs", "packings", "installs", "removal_rounds", "copy_rounds",
                          "growth_rounds", "part_repetitions"):
                 setattr(self, name, min(pairs, getattr(self, name)))
 

@@ -83,7 +83,7 @@ def text(measures):
                  f"{entry['limit'] / 2**20:.1f} MiB",
                  "met" if entry["value"] <= entry["limit"] else "missed"]
                 for entry in report["memory"]]
-        parts.append(table(rows, ["peak memory", "against", "ours", "goal", ""]))
+        parts.append(table(rows, ["peak memory or size", "against", "ours", "goal", ""]))
     if report["parts"]:
         parts.append(_parts_text(report["parts"]))
     for growth in report["growths"]:
