@@ -1036,7 +1036,7 @@
     <message>
         <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
-        <translation>Per sincronizzare altre cartelle o modificare le impostazioni di sincronizzazione, aprire Larkmoor Drive in qualsiasi momento.</translation>
+        <translation>È possibile aprire Larkmoor Drive in qualsiasi momento per sincronizzare altre cartelle o modificare le impostazioni di sincronizzazione.</translation>
     </message>
     <message>
         <source>Maximum number of downloads</source>
