@@ -1271,7 +1271,7 @@
     <message>
         <source>The icons on your files and folders show whether they are up to date, syncing or not synced.</source>
         <extracomment>264 tutorial_second_desc</extracomment>
-        <translation>Ikonerna på dina filer och mappar visar om de är aktuella, håller på att synkroniseras eller inte är synkroniserade.</translation>
+        <translation>Ikonerna på dina filer och mappar visar om de är uppdaterade, håller på att synkroniseras eller inte är synkroniserade.</translation>
     </message>
     <message>
         <source>Easy connection</source>
@@ -1806,7 +1806,7 @@
     <message>
         <source>See the Status at a Glance</source>
         <extracomment>388 tutorial_second_title</extracomment>
-        <translation>Statusen i en blick</translation>
+        <translation>Se statusen med en blick</translation>
     </message>
     <message>
         <source>Proxy</source>
@@ -2181,7 +2181,7 @@
     <message>
         <source>Sync your files across all your computers</source>
         <extracomment>476 msg_sub_slogan</extracomment>
-        <translation>Synkronisera dina filer på alla dina datorer</translation>
+        <translation>Synkronisera dina filer mellan alla dina datorer</translation>
     </message>
     <message>
         <source>If a file has been changed both on this computer and on the NAS:</source>
