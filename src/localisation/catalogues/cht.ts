@@ -396,7 +396,7 @@
     <message>
         <source>The sync service is disabled for your account. Please contact the NAS administrator.</source>
         <extracomment>81 err_orlaqdisable</extracomment>
-        <translation>您的帳號已停用同步服務。請聯絡 NAS 管理員。</translation>
+        <translation>您帳號的同步服務已停用。請聯絡 NAS 管理員。</translation>
     </message>
     <message>
         <source>This is not the NAS that was originally linked. Please check the address or set up a new connection.</source>
@@ -1146,7 +1146,7 @@
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
         <extracomment>234 msi_filesinuse_dlg_closeall</extracomment>
-        <translation>關閉應用程式，並於稍後重新啟動(&amp;C)</translation>
+        <translation>關閉應用程式，並於完成後重新啟動這些應用程式(&amp;C)</translation>
     </message>
     <message>
         <source>Search</source>
