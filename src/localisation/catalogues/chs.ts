@@ -1146,7 +1146,7 @@
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
         <extracomment>234 msi_filesinuse_dlg_closeall</extracomment>
-        <translation>关闭应用程序，稍后重新启动它们(&amp;C)</translation>
+        <translation>关闭应用程序，并在完成后重新启动它们(&amp;C)</translation>
     </message>
     <message>
         <source>Search</source>
@@ -2176,7 +2176,7 @@
     <message>
         <source>%1 cannot be synced because it is in use, or acccess is denied.</source>
         <extracomment>475 label_locked_file</extracomment>
-        <translation>%1 正在使用或访问被拒绝，因此无法同步。</translation>
+        <translation>%1 正在使用中或访问被拒绝，因此无法同步。</translation>
     </message>
     <message>
         <source>Sync your files across all your computers</source>
