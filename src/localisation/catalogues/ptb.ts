@@ -21,7 +21,7 @@
     <message>
         <source>Choose the folders, sync direction and file filters yourself (recommended for experienced users)&#x200b;.</source>
         <extracomment>3 wizard_setup_advan_mode_desc</extracomment>
-        <translation>Escolha você mesmo as pastas, a direção da sincronização e os filtros de arquivos (recomendado para usuários experientes).</translation>
+        <translation>Escolha você mesmo as pastas, a direção de sincronização e os filtros de arquivos (recomendado para usuários experientes).</translation>
     </message>
     <message>
         <source>From</source>
@@ -1036,7 +1036,7 @@
     <message>
         <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
-        <translation>Para sincronizar mais pastas ou alterar as configurações de sincronização, abra o Larkmoor Drive a qualquer momento.</translation>
+        <translation>Você pode abrir o Larkmoor Drive a qualquer momento para sincronizar mais pastas ou alterar as configurações de sincronização.</translation>
     </message>
     <message>
         <source>Maximum number of downloads</source>
@@ -2001,7 +2001,7 @@
     <message>
         <source>The sync direction of this folder does not match your permissions. Please change it in the settings.</source>
         <extracomment>433 sync_direction_mismatch</extracomment>
-        <translation>A direção da sincronização desta pasta não corresponde às suas permissões. Altere-a nas configurações.</translation>
+        <translation>A direção de sincronização desta pasta não corresponde às suas permissões. Altere-a nas configurações.</translation>
     </message>
     <message>
         <source>Global Settings</source>
