@@ -1036,7 +1036,7 @@
     <message>
         <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
-        <translation>더 많은 폴더를 동기화하거나 동기화 설정을 변경하려면 언제든지 Larkmoor Drive를 여십시오.</translation>
+        <translation>Larkmoor Drive를 언제든지 열어 더 많은 폴더를 동기화하거나 동기화 설정을 변경할 수 있습니다.</translation>
     </message>
     <message>
         <source>Maximum number of downloads</source>
@@ -1146,7 +1146,7 @@
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
         <extracomment>234 msi_filesinuse_dlg_closeall</extracomment>
-        <translation>응용 프로그램을 닫고 나중에 다시 시작(&amp;C)</translation>
+        <translation>응용 프로그램을 닫고 완료 후 다시 시작(&amp;C)</translation>
     </message>
     <message>
         <source>Search</source>
@@ -2181,7 +2181,7 @@
     <message>
         <source>Sync your files across all your computers</source>
         <extracomment>476 msg_sub_slogan</extracomment>
-        <translation>모든 컴퓨터에서 파일 동기화</translation>
+        <translation>모든 컴퓨터 간에 파일 동기화</translation>
     </message>
     <message>
         <source>If a file has been changed both on this computer and on the NAS:</source>
