@@ -1036,7 +1036,7 @@
     <message>
         <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
-        <translation>Daha fazla klasör eşitlemek veya eşitleme ayarlarını değiştirmek için istediğiniz zaman Larkmoor Drive uygulamasını açın.</translation>
+        <translation>Daha fazla klasör eşitlemek veya eşitleme ayarlarını değiştirmek için istediğiniz zaman Larkmoor Drive uygulamasını açabilirsiniz.</translation>
     </message>
     <message>
         <source>Maximum number of downloads</source>
@@ -2181,7 +2181,7 @@
     <message>
         <source>Sync your files across all your computers</source>
         <extracomment>476 msg_sub_slogan</extracomment>
-        <translation>Dosyalarınızı tüm bilgisayarlarınızda eşitleyin</translation>
+        <translation>Dosyalarınızı tüm bilgisayarlarınız arasında eşitleyin</translation>
     </message>
     <message>
         <source>If a file has been changed both on this computer and on the NAS:</source>
