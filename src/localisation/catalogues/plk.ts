@@ -1036,7 +1036,7 @@
     <message>
         <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
-        <translation>Aby synchronizować więcej folderów lub zmienić ustawienia synchronizacji, w dowolnej chwili otwórz aplikację Larkmoor Drive.</translation>
+        <translation>Aby synchronizować więcej folderów lub zmienić ustawienia synchronizacji, możesz w dowolnej chwili otworzyć aplikację Larkmoor Drive.</translation>
     </message>
     <message>
         <source>Maximum number of downloads</source>
@@ -2181,7 +2181,7 @@
     <message>
         <source>Sync your files across all your computers</source>
         <extracomment>476 msg_sub_slogan</extracomment>
-        <translation>Synchronizuj pliki na wszystkich swoich komputerach</translation>
+        <translation>Synchronizuj pliki między wszystkimi swoimi komputerami</translation>
     </message>
     <message>
         <source>If a file has been changed both on this computer and on the NAS:</source>
