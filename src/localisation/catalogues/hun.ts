@@ -1036,7 +1036,7 @@
     <message>
         <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
-        <translation>Ha további mappákat szeretne szinkronizálni, vagy módosítaná a szinkronizálási beállításokat, nyissa meg bármikor a Larkmoor Drive alkalmazást.</translation>
+        <translation>Ha további mappákat szeretne szinkronizálni, vagy módosítaná a szinkronizálási beállításokat, bármikor megnyithatja a Larkmoor Drive alkalmazást.</translation>
     </message>
     <message>
         <source>Maximum number of downloads</source>
@@ -2181,7 +2181,7 @@
     <message>
         <source>Sync your files across all your computers</source>
         <extracomment>476 msg_sub_slogan</extracomment>
-        <translation>Szinkronizálja fájljait az összes számítógépén</translation>
+        <translation>Szinkronizálja fájljait az összes számítógépe között</translation>
     </message>
     <message>
         <source>If a file has been changed both on this computer and on the NAS:</source>
