@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Разорвать связь подключения</translation>
+        <translation>Разорвать связь подключения с NAS</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -1036,7 +1036,7 @@
     <message>
         <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
-        <translation>Чтобы синхронизировать другие папки или изменить настройки синхронизации, откройте Larkmoor Drive в любое удобное время.</translation>
+        <translation>Чтобы синхронизировать другие папки или изменить настройки синхронизации, можно в любое время открыть Larkmoor Drive.</translation>
     </message>
     <message>
         <source>Maximum number of downloads</source>
@@ -2181,7 +2181,7 @@
     <message>
         <source>Sync your files across all your computers</source>
         <extracomment>476 msg_sub_slogan</extracomment>
-        <translation>Синхронизируйте файлы на всех своих компьютерах</translation>
+        <translation>Синхронизируйте файлы между всеми своими компьютерами</translation>
     </message>
     <message>
         <source>If a file has been changed both on this computer and on the NAS:</source>
