@@ -2181,7 +2181,7 @@
     <message>
         <source>Sync your files across all your computers</source>
         <extracomment>476 msg_sub_slogan</extracomment>
-        <translation>Synchronizujte soubory ve všech svých počítačích</translation>
+        <translation>Synchronizujte soubory mezi všemi svými počítači</translation>
     </message>
     <message>
         <source>If a file has been changed both on this computer and on the NAS:</source>
