@@ -1036,7 +1036,7 @@
     <message>
         <source>You can open Larkmoor Drive at any time to sync more folders or change the sync settings.</source>
         <extracomment>212 quick_mode_finish_page_more_detail</extracomment>
-        <translation>同期するフォルダーを追加したり、同期の設定を変更したりするには、いつでも Larkmoor Drive を開いてください。</translation>
+        <translation>Larkmoor Drive はいつでも開くことができ、同期するフォルダーを追加したり、同期の設定を変更したりできます。</translation>
     </message>
     <message>
         <source>Maximum number of downloads</source>
@@ -1146,7 +1146,7 @@
     <message>
         <source>&amp;Close the applications and restart them afterwards</source>
         <extracomment>234 msi_filesinuse_dlg_closeall</extracomment>
-        <translation>アプリケーションを閉じて後で再起動する(&amp;C)</translation>
+        <translation>アプリケーションを閉じ、完了後に再起動する(&amp;C)</translation>
     </message>
     <message>
         <source>Search</source>
@@ -2181,7 +2181,7 @@
     <message>
         <source>Sync your files across all your computers</source>
         <extracomment>476 msg_sub_slogan</extracomment>
-        <translation>すべてのコンピューターでファイルを同期</translation>
+        <translation>すべてのコンピューター間でファイルを同期</translation>
     </message>
     <message>
         <source>If a file has been changed both on this computer and on the NAS:</source>
