@@ -10,7 +10,10 @@ namespace platform {
 int FlushVolume(char const* path) {
   int const file = open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
   if (file < 0) return -1;
-  int const result = syncfs(file);
+  int result = syncfs(file);
+  // File systems without a journal (ext2, FAT) write their metadata behind the disk's flush, which
+  // leaves them in its cache. fsync ends with another one.
+  if (result == 0) result = fsync(file);
   int const error = errno;
   close(file);
   errno = error;

@@ -74,14 +74,15 @@ constexpr char kRollback[] = "the results of a rollback are ignored";
 constexpr char kAged[] = "the results of removing the aged folder are ignored";
 constexpr char kClose[] = "the archive library ignores the result of close";
 constexpr char kAgain[] = "made again after EINTR, or behind the last entry";
-constexpr char kNotThere[] = "an application folder that can't be looked at counts as absent";
+constexpr char kNotThere[] =
+    "an application folder that can't be looked at counts as absent, or isn't flushed";
 constexpr char kFlush[] = "a volume that can't be flushed is installed to all the same";
 constexpr char kFirstLook[] = "mkdir decides, not the look ahead of it";
 
 Rule const kRules[] = {
     {".*", "\\.Larkmoor/log.*", {}, kLog},
     {"mkdir", "\\.Larkmoor", {}, kLog},
-    {"syncfs", ".*", {}, kFlush},
+    {"syncfs|fsync", ".*", {}, kFlush},
     {"open", "\\.Larkmoor", {}, kFlush},
     {".*", "Resources/images/.*", {}, kIcon},
     {".*", "Resources/INFO", {}, kTarget},
@@ -137,6 +138,10 @@ class FaultSweep : public testing::Test {
     box.Begin(test::Beginning::kFormer);
     TracedRun const run = box.Launch(Package(sound), {});
     ASSERT_EQ(run.outcome.status, 0);
+    // Ahead of the last entry that can be counted, and ahead of the backup's removal.
+    EXPECT_EQ(std::count_if(run.calls.begin(), run.calls.end(),
+                            [](auto const& call) { return call.name == "syncfs"; }),
+              sound ? 2 : 1);
     for (unsigned i = 0; i < run.calls.size(); ++i) {
       for (Fault const& fault : kFaults) {
         if (test::IsShort() && !fault.in_short) continue;

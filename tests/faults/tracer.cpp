@@ -86,6 +86,7 @@ constexpr Shape kShapes[] = {
     {SYS_read, "read", Kind::kLook, 0, kNone},
     {SYS_pread64, "read", Kind::kLook, 0, kNone},
     {SYS_syncfs, "syncfs", Kind::kLook, 0, kNone},
+    {SYS_fsync, "fsync", Kind::kLook, 0, kNone},
     {SYS_getdents64, "readdir", Kind::kLook, 0, kNone},
     {SYS_stat, "stat", Kind::kLook, kNone, 0},
     {SYS_lstat, "stat", Kind::kLook, kNone, 0},
