@@ -1,0 +1,144 @@
+// A disk that notes what reaches it: a file system with one file, "disk", for a loop device. Each
+// write and each flush is noted as it arrives and as it completes, so that the disk can be made
+// anew as a power cut at any moment leaves it. The file "note" takes marks of the test's own.
+//
+// usage: recording-disk IMAGE LOG LATENCY RATE SEED MOUNT-POINT, in the foreground. Each request
+// takes a drawn time, LATENCY microseconds on average, and that of its bytes, RATE MB a second.
+//
+// The log is a row of records: a byte for the kind (W and w a write that arrives and completes, F
+// and f a flush, N a note), the request's number (8 bytes), the place (8), the length (4), and for
+// W and N that many bytes. Numbers are in the processor's order.
+#define FUSE_USE_VERSION 31
+#include <fcntl.h>
+#include <fuse.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <chrono>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <mutex>
+#include <random>
+#include <string>
+#include <thread>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using Microseconds = std::chrono::duration<double, std::micro>;
+
+constexpr char kDisk[] = "/disk";
+constexpr char kNote[] = "/note";
+
+int image = -1;
+int record = -1;
+double latency = 0;
+double rate = 1;
+Clock::time_point transferred;  ///< when the bytes of all requests so far are
+std::atomic<uint64_t> requests{0};
+std::mutex lock;
+std::mt19937_64 random_bits;
+
+void Note(char kind, uint64_t request, off_t place = 0, uint32_t size = 0,
+          char const* bytes = nullptr) {
+  std::string text(1, kind);
+  auto const add = [&text](auto number) {
+    text.append(reinterpret_cast<char const*>(&number), sizeof(number));
+  };
+  add(request);
+  add(static_cast<uint64_t>(place));
+  add(size);
+  if (bytes != nullptr) text.append(bytes, size);
+  std::lock_guard<std::mutex> const guard(lock);
+  if (write(record, text.data(), text.size()) != static_cast<ssize_t>(text.size())) abort();
+}
+
+void TakeTime(size_t size) {
+  Clock::time_point end;
+  {
+    std::lock_guard<std::mutex> const guard(lock);
+    transferred =
+        std::max(transferred, Clock::now()) +
+        std::chrono::duration_cast<Clock::duration>(Microseconds(static_cast<double>(size) / rate));
+    end = transferred + std::chrono::duration_cast<Clock::duration>(Microseconds(
+                            std::exponential_distribution<>(1)(random_bits) * latency));
+  }
+  std::this_thread::sleep_until(end);
+}
+
+int Getattr(char const* path, struct stat* info, fuse_file_info* /*file*/) {
+  if (strcmp(path, kDisk) == 0) return fstat(image, info) == 0 ? 0 : -errno;
+  *info = {};
+  if (strcmp(path, "/") == 0) {
+    info->st_mode = S_IFDIR | 0700;
+  } else if (strcmp(path, kNote) == 0) {
+    info->st_mode = S_IFREG | 0600;
+  } else {
+    return -ENOENT;
+  }
+  return 0;
+}
+
+int Open(char const* /*path*/, fuse_file_info* file) {
+  file->direct_io = 1;  // nothing is kept by the kernel
+  return 0;
+}
+
+int Truncate(char const* path, off_t /*size*/, fuse_file_info* /*file*/) {
+  return strcmp(path, kNote) == 0 ? 0 : -EPERM;
+}
+
+int Read(char const* path, char* buffer, size_t size, off_t at, fuse_file_info* /*file*/) {
+  if (strcmp(path, kDisk) != 0) return 0;
+  ssize_t const count = pread(image, buffer, size, at);
+  return count < 0 ? -errno : static_cast<int>(count);
+}
+
+int Write(char const* path, char const* bytes, size_t size, off_t at, fuse_file_info* /*file*/) {
+  if (strcmp(path, kNote) == 0) {
+    Note('N', 0, 0, static_cast<uint32_t>(size), bytes);
+    return static_cast<int>(size);
+  }
+  uint64_t const request = ++requests;
+  Note('W', request, at, static_cast<uint32_t>(size), bytes);
+  TakeTime(size);
+  ssize_t const count = pwrite(image, bytes, size, at);
+  if (count != static_cast<ssize_t>(size)) return -EIO;
+  Note('w', request);
+  return static_cast<int>(count);
+}
+
+int Fsync(char const* /*path*/, int /*data_only*/, fuse_file_info* /*file*/) {
+  uint64_t const request = ++requests;
+  Note('F', request);
+  TakeTime(0);
+  Note('f', request);
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 7) return 2;
+  image = open(argv[1], O_RDWR | O_CLOEXEC);
+  record = open(argv[2], O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+  if (image < 0 || record < 0) return 1;
+  latency = strtod(argv[3], nullptr);
+  rate = strtod(argv[4], nullptr);
+  random_bits.seed(strtoull(argv[5], nullptr, 10));
+
+  fuse_operations operations = {};
+  operations.getattr = Getattr;
+  operations.open = Open;
+  operations.truncate = Truncate;
+  operations.read = Read;
+  operations.write = Write;
+  operations.fsync = Fsync;
+  char foreground[] = "-f";
+  char* arguments[] = {argv[0], foreground, argv[6], nullptr};
+  return fuse_main(3, arguments, &operations, nullptr);
+}
