@@ -210,7 +210,7 @@ class Material:
         make_client(f"{folder}/client{FORMER}", FORMER, 700_000)
         make_client(f"{folder}/client{CARRIED}", CARRIED, text_size)
         make_package = os.path.join(arguments.source, "scripts/make-package")
-        run(make_package, "--quiet", f"{folder}/client{CARRIED}", f"{folder}/sound.lpk")
+        run(make_package, "--quiet", "--filter", "gzip", f"{folder}/client{CARRIED}", f"{folder}/sound.lpk")
         run(make_package, "--quiet", "--filter", "none", f"{folder}/client{CARRIED}", f"{folder}/damaged.lpk")
         size = os.path.getsize(f"{folder}/damaged.lpk")
         os.truncate(f"{folder}/damaged.lpk", size * 4 // 5 // 512 * 512 + 100)
