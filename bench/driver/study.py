@@ -124,18 +124,18 @@ def draw(found, path):
     """Size against time to unpack: one point for each setting, a colour for each filter."""
     lines = {}
     for setting in SETTINGS:
-        if setting.name not in found["libraries"]:
+        if setting.level is None or setting.name not in found["libraries"]:
             continue
         one = [found[name][setting.name] for name in found]
-        label = setting.name.split(" ", 1)[1] if " " in setting.name else ""
-        name = setting.filter + (" with that window" if setting.window else "")
+        window = f", window of {2 ** (setting.window - 20)} MiB" if setting.window else ""
+        name = setting.filter + window
         lines.setdefault(name, []).append(
-            (sum(o["unpack"] for o in one), sum(o["size"] for o in one) / MB, label))
+            (sum(o["unpack"] for o in one), sum(o["size"] for o in one) / MB, setting.level))
     commands = [
-        "set terminal svg size 720,460 font 'sans-serif,12' background 'white'",
-        f"set output '{path}'", "set logscale x", "set grid", "set key outside right",
+        "set terminal svg size 720,520 font 'sans-serif,12' background 'white'",
+        f"set output '{path}'", "set logscale x", "set grid", "set key top right",
         "set xlabel 'processor time of both passes, s'", "set ylabel 'size of the packages, MB'",
-        "set xtics (1, 2, 3, 5, 10, 20, 30)", "set offsets graph 0.05, graph 0.05",
+        "set xtics (0.2, 0.5, 1, 2, 5, 10, 20)", "set offsets graph 0.05, graph 0.05",
     ]
     blocks, plots = [], []
     for i, (name, points) in enumerate(lines.items()):
