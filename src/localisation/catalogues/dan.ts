@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>Følgende programmer bruger filer, der skal opdateres. Luk dem, og klik på Prøv igen for at fortsætte, eller klik på Afslut for at afslutte installationen.</translation>
+        <translation>Følgende programmer bruger filer, der skal opdateres. Luk dem, og klik på Prøv igen for at fortsætte, eller klik på Afslut for at afbryde installationen.</translation>
     </message>
     <message>
         <source>November</source>
