@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>Die folgenden Anwendungen verwenden Dateien, die aktualisiert werden müssen. Schließen Sie diese und klicken Sie auf „Wiederholen“, um fortzufahren, oder klicken Sie auf „Beenden“, um die Installation zu beenden.</translation>
+        <translation>Die folgenden Anwendungen verwenden Dateien, die aktualisiert werden müssen. Schließen Sie diese und klicken Sie auf „Wiederholen“, um fortzufahren, oder klicken Sie auf „Beenden“, um die Installation abzubrechen.</translation>
     </message>
     <message>
         <source>November</source>
