@@ -2006,7 +2006,7 @@
     <message>
         <source>Global Settings</source>
         <extracomment>434 main_settings</extracomment>
-        <translation>Algemene instellingen</translation>
+        <translation>Globale instellingen</translation>
     </message>
     <message>
         <source>Recently updated files</source>
