@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>As seguintes aplicações estão a utilizar ficheiros que têm de ser atualizados. Feche-as e clique em Repetir para continuar ou clique em Sair para terminar a instalação.</translation>
+        <translation>As seguintes aplicações estão a utilizar ficheiros que têm de ser atualizados. Feche-as e clique em Repetir para continuar ou clique em Sair para interromper a instalação.</translation>
     </message>
     <message>
         <source>November</source>
