@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>Las siguientes aplicaciones usan archivos que deben actualizarse. Ciérrelas y haga clic en Reintentar para continuar, o haga clic en Salir para terminar la instalación.</translation>
+        <translation>Las siguientes aplicaciones usan archivos que deben actualizarse. Ciérrelas y haga clic en Reintentar para continuar, o haga clic en Salir para detener la instalación.</translation>
     </message>
     <message>
         <source>November</source>
