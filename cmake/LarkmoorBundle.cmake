@@ -12,6 +12,19 @@ set(LARKMOOR_BUNDLE Larkmoor.app)
 set(contents ${LARKMOOR_BUNDLE}/Contents)
 set(resources ${PROJECT_SOURCE_DIR}/resources)
 
+# What the launcher is built for: scripts/check-bundle holds the bundle's programs to it.
+set(LARKMOOR_ARCHITECTURES)
+if(APPLE)
+  set(architectures ${CMAKE_OSX_ARCHITECTURES})
+  if(NOT architectures)
+    set(architectures ${CMAKE_SYSTEM_PROCESSOR})
+  endif()
+  list(TRANSFORM architectures PREPEND "    <string>")
+  list(TRANSFORM architectures APPEND "</string>\n")
+  list(JOIN architectures "" architectures)
+  string(CONCAT LARKMOOR_ARCHITECTURES "  <key>LSArchitecturePriority</key>\n"
+    "  <array>\n${architectures}  </array>\n")
+endif()
 configure_file(${resources}/Info.plist.in ${PROJECT_BINARY_DIR}/Info.plist @ONLY)
 
 if(APPLE)

@@ -24,7 +24,8 @@ void SetHandler(void (*handler)(int)) {
   struct sigaction action = {};
   action.sa_handler = handler;
   action.sa_flags = SA_RESTART;
-  ::sigemptyset(&action.sa_mask);
+  // No "::" before it: on a Mac it is a macro.
+  sigemptyset(&action.sa_mask);
   ::sigaction(SIGTERM, &action, nullptr);
 }
 

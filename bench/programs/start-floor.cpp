@@ -3,8 +3,6 @@
 // thread. No check, no log record, no signal between the threads but the last one.
 
 #include <fcntl.h>
-#include <spawn.h>
-#include <unistd.h>
 
 #include <QApplication>
 #include <QDir>
@@ -19,6 +17,7 @@
 #include "bundled-plugins.h"
 #include "launcher/progress-dialog.h"
 #include "localisation/str-table.h"
+#include "platform/bundle.h"
 
 namespace {
 
@@ -28,23 +27,6 @@ void ReadVersion(QString const& bundle) {
   for (char const* part : {"major", "minor", "build", "icon_overlay"}) {
     settings.value(QString(part) + "_version").toString();
   }
-}
-
-bool StartClient(QString const& bundle) {
-  posix_spawnattr_t attributes;
-  posix_spawn_file_actions_t actions;
-  posix_spawnattr_init(&attributes);
-  posix_spawn_file_actions_init(&actions);
-  posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
-  posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
-  QByteArray path = QFile::encodeName(bundle + "/Contents/MacOS/larkmoor-drive-ui");
-  char* const arguments[] = {path.data(), nullptr};
-  pid_t client = 0;
-  int const result =
-      posix_spawn(&client, path.constData(), &actions, &attributes, arguments, environ);
-  posix_spawn_file_actions_destroy(&actions);
-  posix_spawnattr_destroy(&attributes);
-  return result == 0;
 }
 
 }  // namespace
@@ -76,7 +58,7 @@ int main(int argc, char** argv) {
   std::unique_ptr<QThread> const thread(QThread::create([&] {
     ReadVersion(ours);
     ReadVersion(theirs);
-    started = StartClient(theirs);
+    started = platform::OpenBundle(theirs);
   }));
   QObject::connect(thread.get(), &QThread::finished, &app, &QApplication::quit);
   thread->start();

@@ -188,18 +188,6 @@ TestCheckFindsLibrariesThatAreMissingUnderAnotherOne() {
   expect_said "lib/$name"
 }
 
-TestCheckFindsLibrariesThatAUsersMacWouldLack() {
-  make_good_bundle
-  mkdir bin
-  printf '#!/bin/sh\ncat libraries\n' >bin/otool
-  chmod +x bin/otool
-  printf '%s:\n\t@rpath/QtCore.framework/QtCore (x)\n\t/usr/lib/libSystem.B.dylib (x)\n' launcher >libraries
-  expect_success env PATH="$PWD/bin:$PATH" "$SCRIPTS/check-bundle" good/Larkmoor.app
-  printf '\t/opt/homebrew/opt/icu4c/lib/libicuuc.dylib (x)\n' >>libraries
-  expect_failure "libraries outside the bundle" \
-    env PATH="$PWD/bin:$PATH" "$SCRIPTS/check-bundle" good/Larkmoor.app
-}
-
 TestCheckFindsGlIntegrations() {
   make_good_bundle
   in_bundle mkdir Frameworks/plugins/xcbglintegrations
@@ -210,6 +198,18 @@ TestCheckFindsWrongExecutableInThePropertyList() {
   make_good_bundle
   in_bundle sed -i.bak 's|<string>launcher</string>|<string>other</string>|' Info.plist
   expect_failure "CFBundleExecutable" check_bundle good/Larkmoor.app
+}
+
+TestCheckFindsPropertyListsThatTheSystemWouldRefuse() {
+  make_good_bundle
+  in_bundle cp Info.plist saved
+  in_bundle sed -i.bak 's|</dict>||' Info.plist
+  expect_failure "Info.plist is no property list" check_bundle good/Larkmoor.app
+  in_bundle sed 's|APPL<|BNDL<|; s|com.larkmoor.drive.launcher||; s|<string>larkmoor</string>|<string>other</string>|' \
+    saved >good/Larkmoor.app/Contents/Info.plist
+  expect_failure "doesn't say APPL" check_bundle good/Larkmoor.app
+  expect_said "holds no CFBundleIdentifier"
+  expect_said "no 'other', which Info.plist names as CFBundleIconFile"
 }
 
 TestCheckFindsBuildThatIsNoNumber() {

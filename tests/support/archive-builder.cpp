@@ -46,11 +46,11 @@ void Describe(archive_entry* header, Entry const& entry) {
 
 }  // namespace
 
-Entry Entry::File(std::string path, std::string bytes, unsigned mode) {
+Entry Entry::File(std::string path, std::string bytes, mode_t mode) {
   return {Kind::kFile, std::move(path), std::move(bytes), mode};
 }
 
-Entry Entry::Folder(std::string path, unsigned mode) {
+Entry Entry::Folder(std::string path, mode_t mode) {
   return {Kind::kFolder, std::move(path), "", mode};
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/types.h>
+
 #include <string>
 #include <vector>
 
@@ -10,8 +12,8 @@ namespace test {
 struct Entry {
   enum class Kind { kFile, kFolder, kLink, kHardLink };
 
-  static Entry File(std::string path, std::string bytes, unsigned mode = 0644);
-  static Entry Folder(std::string path, unsigned mode = 0755);
+  static Entry File(std::string path, std::string bytes, mode_t mode = 0644);
+  static Entry Folder(std::string path, mode_t mode = 0755);
   /// A symbolic link that says `target`.
   static Entry Link(std::string path, std::string target);
   /// A hard link to the place that the archive calls `target`.
@@ -20,7 +22,7 @@ struct Entry {
   Kind kind = Kind::kFile;
   std::string path;
   std::string content;  ///< a file's bytes, a link's target
-  unsigned mode = 0;
+  mode_t mode = 0;
 };
 
 /// The bytes of an archive. `format` and `filter` are libarchive's names: "gnutar", "pax", "zip",

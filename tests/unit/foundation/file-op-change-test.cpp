@@ -62,9 +62,9 @@ mode_t CurrentUmask() {
 bool MakeFoldersOfLength(std::string const& outermost, std::size_t length) {
   std::string path;
   std::string name = outermost;
-  int at = open("/", O_PATH | O_CLOEXEC);
+  int at = open("/", O_RDONLY | O_CLOEXEC);
   while (mkdirat(at, name.c_str(), 0755) == 0) {
-    int const below = openat(at, name.c_str(), O_PATH | O_CLOEXEC);
+    int const below = openat(at, name.c_str(), O_RDONLY | O_CLOEXEC);
     close(at);
     at = below;
     path += path.empty() ? name : "/" + name;

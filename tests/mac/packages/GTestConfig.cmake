@@ -1,0 +1,13 @@
+# GoogleTest, compiled from Debian's package of its source.
+set(source /usr/src/googletest)
+if(NOT EXISTS ${source})
+  message(FATAL_ERROR "${source} is missing: run scripts/setup mac")
+endif()
+add_library(gmock STATIC EXCLUDE_FROM_ALL
+  ${source}/googletest/src/gtest-all.cc ${source}/googlemock/src/gmock-all.cc)
+target_include_directories(gmock SYSTEM PUBLIC ${source}/googletest/include ${source}/googlemock/include)
+target_include_directories(gmock PRIVATE ${source}/googletest ${source}/googlemock)
+add_library(gmock_main STATIC EXCLUDE_FROM_ALL ${source}/googlemock/src/gmock_main.cc)
+target_link_libraries(gmock_main PUBLIC gmock)
+add_library(GTest::gmock ALIAS gmock)
+add_library(GTest::gmock_main ALIAS gmock_main)

@@ -1,0 +1,2 @@
+# spdlog, for its headers alone.
+add_library(spdlog::spdlog INTERFACE IMPORTED)

@@ -1,0 +1,34 @@
+# A Mac's compiler and libraries on Linux: Zig's clang with Apple's C headers and the list of what the
+# system library has, and stub libraries for the rest (make-sdk). What comes out is compiled and
+# linked as on a Mac, and can't run here.
+set(CMAKE_SYSTEM_NAME Darwin)
+set(CMAKE_SYSTEM_PROCESSOR arm64)
+
+get_filename_component(project ${CMAKE_CURRENT_LIST_DIR}/../.. ABSOLUTE)
+set(sdk ${project}/build/mac-sdk)
+
+set(CMAKE_C_COMPILER ${sdk}/bin/c++)
+set(CMAKE_CXX_COMPILER ${sdk}/bin/c++)
+foreach(tool AR RANLIB INSTALL_NAME_TOOL LIPO)
+  string(TOLOWER ${tool} name)
+  string(REPLACE _ - name ${name})
+  set(CMAKE_${tool} ${sdk}/bin/${name})
+endforeach()
+# A universal archive, which ar can't make.
+set(CMAKE_CXX_CREATE_STATIC_LIBRARY "${sdk}/bin/libtool -static -o <TARGET> <OBJECTS>")
+set(CMAKE_C_CREATE_STATIC_LIBRARY ${CMAKE_CXX_CREATE_STATIC_LIBRARY})
+
+set(ENV{SDKROOT} ${sdk})
+
+set(CMAKE_FIND_ROOT_PATH ${sdk})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE NEVER)
+set(CMAKE_FIND_PACKAGE_PREFER_CONFIG ON)
+foreach(package Qt5 GTest benchmark spdlog)
+  set(${package}_DIR ${CMAKE_CURRENT_LIST_DIR}/packages)
+endforeach()
+
+# The programs' lists of tests are asked of nobody.
+set(CMAKE_CROSSCOMPILING_EMULATOR true)
