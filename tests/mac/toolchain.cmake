@@ -9,7 +9,7 @@ set(sdk ${project}/build/mac-sdk)
 
 set(CMAKE_C_COMPILER ${sdk}/bin/c++)
 set(CMAKE_CXX_COMPILER ${sdk}/bin/c++)
-foreach(tool AR RANLIB INSTALL_NAME_TOOL LIPO)
+foreach(tool AR RANLIB INSTALL_NAME_TOOL)
   string(TOLOWER ${tool} name)
   string(REPLACE _ - name ${name})
   set(CMAKE_${tool} ${sdk}/bin/${name})
