@@ -60,9 +60,10 @@ if(APPLE)
   get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
   get_filename_component(qt_programs ${qmake} DIRECTORY)
   find_program(LARKMOOR_MACDEPLOYQT macdeployqt HINTS ${qt_programs})
+  # No variable here may be called like a component: the generated script compares with "bundle".
   install(CODE "
     set(macdeployqt \"${LARKMOOR_MACDEPLOYQT}\")
-    set(bundle \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${LARKMOOR_BUNDLE}\")
+    set(larkmoor_app \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${LARKMOOR_BUNDLE}\")
     include(\"${CMAKE_CURRENT_LIST_DIR}/CopyLibraries.cmake\")"
     COMPONENT bundle)
 endif()

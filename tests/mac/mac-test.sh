@@ -56,8 +56,8 @@ TestLauncherAndClientNeedWhatTheBundleCarriesAndTheSystemHas() {
     expect_equal "/System/Library/Frameworks/CoreServices.framework/Versions/A/CoreServices
 /usr/lib/libSystem.B.dylib
 /usr/lib/libc++.1.dylib
-/usr/local/lib/$icu
 /usr/local/lib/libarchive.13.dylib
+/usr/local/lib/$icu
 @rpath/QtCore.framework/Versions/5/QtCore
 @rpath/QtGui.framework/Versions/5/QtGui
 @rpath/QtWidgets.framework/Versions/5/QtWidgets" "$(libraries)"
@@ -85,8 +85,6 @@ TestNoPathOfTheBuildMachineIsInTheBundle() {
   for path in "$PROJECT" /usr/include /usr/src "$HOME/"; do
     ! grep -rlF --exclude='*.lpk' -e "$path" Larkmoor.app >found || fail "$path is in:" "$(cat found)"
   done
-  part arm64 Larkmoor.app/Contents/MacOS/launcher
-  expect_equal @executable_path/../Frameworks "$(load_commands LC_RPATH path)"
 }
 
 TestBundleIsWholeAndPasses() {

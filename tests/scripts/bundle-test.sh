@@ -413,7 +413,7 @@ TestArchiveForDownloadHoldsTheBundle() {
 # copy_libraries TOOL: as the installation of a Mac's bundle does. What the tool itself does can be
 # seen on a Mac alone.
 copy_libraries() {
-  cmake -Dbundle="$PWD/Larkmoor.app" -Dmacdeployqt="$1" -P "$PROJECT/cmake/CopyLibraries.cmake"
+  cmake -Dlarkmoor_app="$PWD/Larkmoor.app" -Dmacdeployqt="$1" -P "$PROJECT/cmake/CopyLibraries.cmake"
 }
 
 make_mac_bundle() {
