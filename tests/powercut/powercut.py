@@ -677,6 +677,7 @@ def main():
     parser.add_argument("--file-system", choices=list(MKFS), help="only this one")
     parser.add_argument("--seed", type=int, default=int(os.environ.get("LARKMOOR_SEED") or 1))
     arguments = parser.parse_args()
+    arguments.no_flush = os.path.abspath(arguments.no_flush)  # the loader passes over what it can't find
 
     os.environ["PATH"] += ":/usr/sbin:/sbin"
     reason = reason_to_skip(arguments)
@@ -716,7 +717,8 @@ def main():
                         counts[recording.file_system][kind] += 1
                         by_scenario[recording.scenario][kind] += 1
                         where = f"{recording}: {kind} at moment {moment}, {how} of what was on its way"
-                        if kind in BAD:
+                        # The old tree has to be there until the new one is.
+                        if kind in BAD or (kind == HEALED and recording.scenario != "first installation"):
                             bad.append(where)
                         if is_late and recording.scenario != "rollback" and kind != NEW:
                             late.append(where)
