@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Ta bort länkad anslutning</translation>
+        <translation>Ta bort länken för anslutningen</translation>
     </message>
     <message>
         <source>Proxy server address</source>
