@@ -156,7 +156,7 @@
     <message>
         <source>Unlink Connection</source>
         <extracomment>30 unlink_connection</extracomment>
-        <translation>Fjern tilknyttet tilkobling</translation>
+        <translation>Fjern tilknytningen for tilkoblingen</translation>
     </message>
     <message>
         <source>Proxy server address</source>
@@ -511,7 +511,7 @@
     <message>
         <source>A different NAS has been found at this address. Please link this computer again.</source>
         <extracomment>106 status_desc_hb_changed</extracomment>
-        <translation>En annen NAS-enhet ble funnet på denne adressen. Knytt denne datamaskinen til på nytt.</translation>
+        <translation>En annen NAS-enhet ble funnet på denne adressen. Tilknytt denne datamaskinen på nytt.</translation>
     </message>
     <message>
         <source>Merge mode</source>
