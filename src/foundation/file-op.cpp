@@ -181,27 +181,44 @@ void FillFromStat(ustring const& path, struct stat const& info, _FILE_INFO_tag& 
   out.type = FileTypeOfMode(info.st_mode);
 }
 
-/// How the volume spells a path that is in NFC.
-int SpellNormalPath(ustring const& path, ustring& spelled) {
+/// Finds the object at a path that is in NFC. 0 or -1.
+int FindNormalPath(ustring const& path, FSRef& ref) {
   LOG_MSG(LEVEL_DEBUG, log_component::file_op(), "[DEBUG] file-op(%d): Input file path = [%s].\n",
           path.c_str());
+  OSStatus const status = FSPathMakeRefWithOptions(
+      VolumeText(path), kFSPathMakeRefDoNotFollowLeafSymlink, &ref, nullptr);
+  if (status == noErr) return 0;
+  LOG_MSG(LEVEL_ERROR, log_component::file_op(), "[ERROR] file-op(%d): FSPathMakeRef: %d\n",
+          static_cast<int>(status));
+  return -1;
+}
+
+void LogSpelling(ustring const& spelled) {
+  LOG_MSG(LEVEL_DEBUG, log_component::file_op(),
+          "[DEBUG] file-op(%d): FSRefMakePath outTargetPath path = [%s].\n", spelled.c_str());
+}
+
+/// How the volume spells a path that is in NFC.
+int SpellNormalPath(ustring const& path, ustring& spelled) {
   FSRef ref;
-  OSStatus status = FSPathMakeRefWithOptions(VolumeText(path), kFSPathMakeRefDoNotFollowLeafSymlink,
-                                             &ref, nullptr);
-  if (status != noErr) {
-    LOG_MSG(LEVEL_ERROR, log_component::file_op(), "[ERROR] file-op(%d): FSPathMakeRef: %d\n",
-            static_cast<int>(status));
-    return -1;
-  }
-  status = PathOfRef(ref, spelled);
+  if (FindNormalPath(path, ref) != 0) return -1;
+  OSStatus const status = PathOfRef(ref, spelled);
   if (status != noErr) {
     LOG_MSG(LEVEL_ERROR, log_component::file_op(), "[ERROR] file-op(%d): FSPathMakeRef: %d\n",
             static_cast<int>(status));
     return -1;
   }
   if (!IsAscii(spelled)) spelled = spelled.normalize(ustring::NFC);
-  LOG_MSG(LEVEL_DEBUG, log_component::file_op(),
-          "[DEBUG] file-op(%d): FSRefMakePath outTargetPath path = [%s].\n", spelled.c_str());
+  LogSpelling(spelled);
+  return 0;
+}
+
+/// The same for an entry of a folder whose path is as the volume spells it: so is the entry's, and
+/// needn't be asked for.
+int CheckEntry(ustring const& path) {
+  FSRef ref;
+  if (FindNormalPath(path, ref) != 0) return -1;
+  LogSpelling(path);
   return 0;
 }
 
@@ -322,9 +339,9 @@ int RemoveAt(int folder, char const* name, ustring const& path) {
   struct stat found;
   if (fstatat(folder, name, &found, AT_SYMLINK_NOFOLLOW) != 0) return errno == ENOENT ? 0 : -1;
   int const type = FileTypeOfMode(found.st_mode);
-  {
-    ustring spelled;
-    if (type == FILE_TYPE_NONE || SpellAsVolume(path, spelled) != 0) return -1;
+  if (type == FILE_TYPE_NONE) return -1;
+  if ((IsAscii(path) ? CheckEntry(path) : CheckEntry(ustring(path).normalize(ustring::NFC))) != 0) {
+    return -1;
   }
   if (type != FILE_TYPE_DIRECTORY) return unlinkat(folder, name, 0) < 0 ? -3 : 0;
   bool is_readable = false;

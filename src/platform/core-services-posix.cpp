@@ -10,7 +10,7 @@
 #include <string>
 
 #include "platform/core-services.h"
-#include "platform/normal-form-posix.h"
+#include "platform/spelling-posix.h"
 
 namespace {
 
@@ -115,8 +115,8 @@ OSStatus FSPathMakeRefWithOptions(UInt8 const* path, OptionBits options, FSRef* 
 }
 
 OSStatus FSRefMakePath(FSRef const* ref, UInt8* path, UInt32 max_path_size) {
-  std::size_t const size = std::strlen(ref->path) + 1;
-  if (size > max_path_size) return pathTooLongErr;
-  std::memcpy(path, ref->path, size);
+  std::string const stored = platform::AsStored(ref->path);
+  if (stored.size() >= max_path_size) return pathTooLongErr;
+  std::memcpy(path, stored.c_str(), stored.size() + 1);
   return noErr;
 }

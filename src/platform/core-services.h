@@ -48,8 +48,8 @@ OSStatus FSPathMakeRef(UInt8 const* path, FSRef* ref, Boolean* is_directory);
 OSStatus FSPathMakeRefWithOptions(UInt8 const* path, OptionBits options, FSRef* ref,
                                   Boolean* is_directory);
 
-/// Writes the object's absolute path, without symbolic links in the directories above, into a
-/// buffer of `max_path_size` bytes, the terminator included.
+/// Writes the object's absolute path, without symbolic links in the directories above and in the
+/// case that the volume keeps, into a buffer of `max_path_size` bytes, the terminator included.
 OSStatus FSRefMakePath(FSRef const* ref, UInt8* path, UInt32 max_path_size);
 
 #endif

@@ -3,7 +3,7 @@
 #include <cerrno>
 #include <string>
 
-#include "platform/normal-form-posix.h"
+#include "platform/spelling-posix.h"
 
 namespace platform {
 

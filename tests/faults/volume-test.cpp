@@ -1,4 +1,4 @@
-// Upgrades on real file systems: full, read-only, limited by quota, split in two, blind to case.
+// Upgrades on real file systems: full, read-only, limited by quota, split in two, like a Mac's.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <linux/quota.h>
@@ -364,13 +364,13 @@ TEST_F(CrossDevice, FSRenameOntoAFullVolumeFailsAndKeepsTheSource) {
   EXPECT_EQ(test::ReadFile(folder_ / "app/big"), bytes);
 }
 
-#ifdef LARKMOOR_TEST_FOLD_CASE_FS
-class CaseBlindVolume : public Volume {
+#ifdef LARKMOOR_TEST_MAC_VOLUME_FS
+class MacVolume : public Volume {
  protected:
   void SetUp() override {
     fs::create_directories(Behind());
     test::Process::Options options;
-    options.arguments = {LARKMOOR_TEST_FOLD_CASE_FS, Behind(), sandbox_.Home()};
+    options.arguments = {LARKMOOR_TEST_MAC_VOLUME_FS, Behind(), sandbox_.Home()};
     server_ = std::make_unique<test::Process>(options);
     struct stat behind;
     ASSERT_EQ(stat(Behind().c_str(), &behind), 0);
@@ -390,7 +390,7 @@ class CaseBlindVolume : public Volume {
   std::unique_ptr<test::Process> server_;
 };
 
-TEST_F(CaseBlindVolume, IsUpgradedLikeAnyOther) {
+TEST_F(MacVolume, IsUpgradedLikeAnyOther) {
   sandbox_.Install(100);
   sandbox_.Carry(200);
   ASSERT_EQ(sandbox_.Launch().status, 0);
@@ -399,7 +399,7 @@ TEST_F(CaseBlindVolume, IsUpgradedLikeAnyOther) {
   EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp"));
 }
 
-TEST_F(CaseBlindVolume, AnOldTreeInAnotherSpellingIsReplacedByOneInOurs) {
+TEST_F(MacVolume, AnOldTreeInAnotherSpellingIsReplacedByOneInOurs) {
   sandbox_.Install(100);
   fs::rename(Behind() + "/.Larkmoor/Larkmoor.app", Behind() + "/.Larkmoor/LARKMOOR.APP");
   sandbox_.Carry(200);
@@ -409,7 +409,7 @@ TEST_F(CaseBlindVolume, AnOldTreeInAnotherSpellingIsReplacedByOneInOurs) {
   EXPECT_FALSE(fs::exists(Behind() + "/.Larkmoor/LARKMOOR.APP"));
 }
 
-TEST_F(CaseBlindVolume, ADamagedPackageGivesTheOldTreeBack) {
+TEST_F(MacVolume, ADamagedPackageGivesTheOldTreeBack) {
   sandbox_.Install(100);
   Tree const old = test::ReadTree(sandbox_.App());
   sandbox_.Carry(200);
@@ -419,7 +419,7 @@ TEST_F(CaseBlindVolume, ADamagedPackageGivesTheOldTreeBack) {
   EXPECT_EQ(test::ReadTree(sandbox_.App()), old) << sandbox_.RawLog();
 }
 
-TEST_F(CaseBlindVolume, OfTwoEntriesThatDifferInCaseTheLaterOneStays) {
+TEST_F(MacVolume, OfTwoEntriesThatDifferInCaseTheLaterOneStays) {
   std::vector<Entry> entries = Sandbox::Client(200);
   entries.insert(entries.begin() + 3, {Entry::File("Contents/Resources/TWIN", "first"),
                                        Entry::File("Contents/Resources/twin", "second")});
@@ -430,12 +430,88 @@ TEST_F(CaseBlindVolume, OfTwoEntriesThatDifferInCaseTheLaterOneStays) {
   EXPECT_FALSE(fs::exists(Behind() + "/.Larkmoor/Larkmoor.app/Contents/Resources/TWIN"));
 }
 
-TEST_F(CaseBlindVolume, FSRenameChangesNothingButTheCase) {
+TEST_F(MacVolume, FSRenameChangesNothingButTheCase) {
   test::WriteFile(sandbox_.Home() + "/name", "bytes");
   std::string const home = sandbox_.Home();
   EXPECT_EQ(FSRename(ustring(home + "/name"), ustring(home + "/NAME"), false), 0);
   EXPECT_TRUE(fs::exists(Behind() + "/NAME"));
   EXPECT_FALSE(fs::exists(Behind() + "/name"));
+}
+
+TEST_F(MacVolume, IsItselfBlindToCaseAndNormalFormAndKeepsBoth) {
+  test::WriteFile(sandbox_.Home() +
+                      "/Stra\xC3\x9F"
+                      "e cafe\xCC\x81",
+                  "bytes");
+  EXPECT_EQ(test::ReadFile(sandbox_.Home() + "/STRASSE CAF\xC3\x89"), "bytes");
+  EXPECT_TRUE(fs::exists(Behind() + "/Stra\xC3\x9F"
+                                    "e cafe\xCC\x81"));
+}
+
+TEST_F(MacVolume, TakesNoNameThatIsNotUtf8) {
+  std::string const home = sandbox_.Home();
+  EXPECT_NE(mkdir((home + "/\xFF").c_str(), 0700), 0);
+  EXPECT_EQ(errno, EILSEQ);
+  EXPECT_LT(open((home + "/\xFF").c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600), 0);
+  EXPECT_EQ(errno, EILSEQ);
+  test::WriteFile(home + "/name", "bytes");
+  EXPECT_NE(rename((home + "/name").c_str(), (home + "/\xFF").c_str()), 0);
+  EXPECT_EQ(errno, EILSEQ);
+  EXPECT_EQ(FSRename(ustring(home + "/name"), ustring(home + "/\xFF"), false), -3);
+}
+
+TEST_F(MacVolume, APackageWithANameThatIsNotUtf8GivesTheOldTreeBack) {
+  sandbox_.Install(100);
+  Tree const old = test::ReadTree(sandbox_.App());
+  std::vector<Entry> entries = Sandbox::Client(200);
+  entries.insert(entries.begin() + 3, Entry::File("Contents/Resources/\xFF", "bytes"));
+  Carry(entries);
+  ASSERT_EQ(sandbox_.Launch().status, 0);
+  EXPECT_EQ(test::ReadTree(sandbox_.App()), old) << sandbox_.RawLog();
+  EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp"));
+}
+
+TEST_F(MacVolume, StrictWantsTheCaseThatTheVolumeKeeps) {
+  std::string const home = sandbox_.Home();
+  test::WriteFile(home + "/Users/\xC3\x89mile/Foo", "bytes");
+  for (char const* const name : {"/Users/\xC3\x89mile/Foo", "/Users/E\xCC\x81mile/Foo"}) {
+    EXPECT_TRUE(IsFileExist(ustring(home + name), false)) << name;
+    EXPECT_TRUE(IsFileExist(ustring(home + name), true)) << name;
+  }
+  for (char const* const name : {"/Users/\xC3\x89mile/foo", "/users/\xC3\x89mile/Foo",
+                                 "/Users/\xC3\xA9mile/Foo", "/Users/e\xCC\x81mile/Foo"}) {
+    EXPECT_TRUE(IsFileExist(ustring(home + name), false)) << name;
+    EXPECT_FALSE(IsFileExist(ustring(home + name), true)) << name;
+    _FILE_INFO_tag info;
+    EXPECT_EQ(GetFileInfo(ustring(home + name), info), 0);
+    EXPECT_EQ(info.path, ustring(home + "/Users/\xC3\x89mile/Foo"));
+    EXPECT_EQ(FSStat(ustring(home + name), info, true), 0);
+    EXPECT_FALSE(info.exists);
+    EXPECT_EQ(FSRename(ustring(home + name), ustring(home + "/other"), true), -2);
+  }
+  EXPECT_FALSE(IsFileExist(ustring(home + "/Users/none"), false));
+  ustring real(home + "/users/\xC3\xA9MILE/FOO");
+  EXPECT_EQ(FSGetRealPath(real), 0);
+  EXPECT_EQ(real, ustring(home + "/Users/\xC3\x89mile/Foo"));
+}
+
+TEST_F(MacVolume, FSRenameWithStrictMovesWhatIsSpelledAsTheVolumeKeepsIt) {
+  std::string const home = sandbox_.Home();
+  test::WriteFile(home + "/Foo/cafe\xCC\x81", "bytes");
+  EXPECT_EQ(FSRename(ustring(home + "/Foo/caf\xC3\xA9"), ustring(home + "/Foo/Bar"), true), 0);
+  EXPECT_EQ(FSRename(ustring(home + "/Foo"), ustring(home + "/foo"), true), 0);
+  EXPECT_EQ(test::ReadFile(Behind() + "/foo/Bar"), "bytes");
+}
+
+TEST_F(MacVolume, FSRemoveTakesATreeInAnySpelling) {
+  std::string const home = sandbox_.Home();
+  for (char const* const name : {"/Tree/cafe\xCC\x81/file", "/Tree/B/C", "/Tree/\xE0\xA5\x98"}) {
+    test::WriteFile(home + name, "bytes");
+  }
+  EXPECT_EQ(FSRemove(ustring(home + "/TREE/CAF\xC3\x89"), false), 0);
+  EXPECT_FALSE(fs::exists(Behind() + "/Tree/cafe\xCC\x81"));
+  EXPECT_EQ(FSRemove(ustring(home + "/tree"), false), 0);
+  EXPECT_FALSE(fs::exists(Behind() + "/Tree"));
 }
 #endif
 

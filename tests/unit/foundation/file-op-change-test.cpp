@@ -698,7 +698,9 @@ TEST(FSRemove, RemovesNamesThatAreNotComposed) {
     WriteFile(folder / "tree/folders/" + name + "/of " + name, "bytes");
     WriteFile(folder / "tree/folders/" + name + "/sub/" + name, "bytes");
     fs::create_directories(folder / "tree/links");
-    fs::create_symlink(name, folder / "tree/links/" + name);
+    std::string const link = folder / "tree/links/" + name;
+    // To some volumes the twins are one name.
+    if (!fs::is_symlink(fs::symlink_status(link))) fs::create_symlink(name, link);
   }
   FileOpLog const log;
   EXPECT_EQ(FSRemove(folder / "tree", false), 0);

@@ -13,4 +13,9 @@ namespace platform {
 /// Meant for paths that lead nowhere as they are: lists folders.
 bool FindByNormalForm(char const* path, bool follow_leaf, std::string& found);
 
+/// How the volume stores an absolute path that leads through no link. Where the volume may be blind
+/// to case (FAT, NTFS, SMB, FUSE and their like) the folders are listed for it; all others have the
+/// path as it is. Changes `errno`. Any thread.
+std::string AsStored(char const* path);
+
 }  // namespace platform

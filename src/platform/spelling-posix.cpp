@@ -1,13 +1,19 @@
-#include "platform/normal-form-posix.h"
+#include "platform/spelling-posix.h"
 
 #include <dirent.h>
+#include <linux/magic.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unicode/bytestream.h>
+#include <unicode/locid.h>
 #include <unicode/normalizer2.h>
 #include <unicode/stringpiece.h>
+#include <unicode/unistr.h>
 #include <unicode/ustring.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <iterator>
 #include <string_view>
 #include <vector>
 
@@ -97,7 +103,80 @@ bool Find(std::string const& above, std::string_view rest, bool follow_leaf, std
   return std::any_of(others.begin(), others.end(), leads_on);
 }
 
+/// Whether the volume may take names for one that differ in case. It is up to the type, and for
+/// some to a mount option, which nothing tells.
+bool MayBeBlindToCase(char const* path) {
+  constexpr unsigned long kTypes[] = {
+      MSDOS_SUPER_MAGIC,
+      EXFAT_SUPER_MAGIC,
+      0x5346544E,  // NTFS
+      0x7366746E,  // the same, another driver
+      SMB_SUPER_MAGIC,
+      SMB2_SUPER_MAGIC,
+      CIFS_SUPER_MAGIC,
+      0x4244,  // HFS
+      0x482B,  // HFS+
+      FUSE_SUPER_MAGIC,
+  };
+  struct statfs info;
+  if (statfs(path, &info) != 0) return false;
+  // Signed in some libraries, and sign-extended then.
+  auto const type = static_cast<std::uint32_t>(info.f_type);
+  return std::find(std::begin(kTypes), std::end(kTypes), type) != std::end(kTypes);
+}
+
+icu::UnicodeString Folded(std::string const& name) {
+  return icu::UnicodeString::fromUTF8(Composed(name)).foldCase();
+}
+
+/// The name in the other case, or the name itself if it has none.
+std::string InOtherCase(std::string const& name) {
+  icu::UnicodeString const text = icu::UnicodeString::fromUTF8(name);
+  icu::UnicodeString other = icu::UnicodeString(text).toUpper(icu::Locale::getRoot());
+  if (other == text) other.toLower(icu::Locale::getRoot());
+  std::string result;
+  return other.toUTF8String(result);
+}
+
+bool IsSameObject(std::string const& a, std::string const& b) {
+  struct stat first;
+  struct stat second;
+  return lstat(a.c_str(), &first) == 0 && lstat(b.c_str(), &second) == 0 &&
+         first.st_ino == second.st_ino && first.st_dev == second.st_dev;
+}
+
+/// How a folder, whose path ends in a slash, stores the name of an object in it.
+std::string StoredName(std::string const& folder, std::string const& name) {
+  std::string const other = IsUtf8(name) ? InOtherCase(name) : name;
+  if (other == name || !IsSameObject(folder + name, folder + other)) return name;
+  std::string stored = name;
+  DIR* const dir = opendir(folder.c_str());
+  if (dir == nullptr) return stored;
+  icu::UnicodeString const folded = Folded(name);
+  while (dirent const* const entry = readdir(dir)) {
+    std::string const candidate = entry->d_name;
+    if (Folded(candidate) == folded) stored = candidate;
+    if (candidate == name) break;
+  }
+  closedir(dir);
+  return stored;
+}
+
 }  // namespace
+
+std::string AsStored(char const* path) {
+  if (!MayBeBlindToCase(path)) return path;
+  std::string stored = "/";
+  for (std::string_view rest = path; !rest.empty();) {
+    rest.remove_prefix(std::min(rest.find_first_not_of('/'), rest.size()));
+    std::size_t const end = std::min(rest.find('/'), rest.size());
+    if (end == 0) break;
+    if (stored.size() > 1) stored += '/';
+    stored += StoredName(stored, std::string(rest.substr(0, end)));
+    rest.remove_prefix(end);
+  }
+  return stored;
+}
 
 bool FindByNormalForm(char const* path, bool follow_leaf, std::string& found) {
   return HasTwins(path) && Find("", path, follow_leaf, found);
