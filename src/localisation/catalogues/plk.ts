@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>Następujące aplikacje używają plików, które muszą zostać zaktualizowane. Zamknij je i kliknij przycisk Ponów próbę, aby kontynuować, lub kliknij przycisk Wyjdź, aby zakończyć instalację.</translation>
+        <translation>Następujące aplikacje używają plików, które muszą zostać zaktualizowane. Zamknij je i kliknij przycisk Ponów próbę, aby kontynuować, lub kliknij przycisk Wyjdź, aby przerwać instalację.</translation>
     </message>
     <message>
         <source>November</source>
