@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>Le applicazioni seguenti utilizzano file che devono essere aggiornati. Chiuderle e fare clic su Riprova per continuare oppure su Esci per terminare l&apos;installazione.</translation>
+        <translation>Le applicazioni seguenti utilizzano file che devono essere aggiornati. Chiuderle e fare clic su Riprova per continuare oppure su Esci per interrompere l&apos;installazione.</translation>
     </message>
     <message>
         <source>November</source>
