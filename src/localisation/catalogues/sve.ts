@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>Följande program använder filer som måste uppdateras. Stäng dem och klicka på Försök igen för att fortsätta, eller klicka på Avsluta för att avsluta installationen.</translation>
+        <translation>Följande program använder filer som måste uppdateras. Stäng dem och klicka på Försök igen för att fortsätta, eller klicka på Avsluta för att avbryta installationen.</translation>
     </message>
     <message>
         <source>November</source>
