@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>Følgende programmer bruker filer som må oppdateres. Lukk dem og klikk på Prøv på nytt for å fortsette, eller klikk på Avslutt for å avslutte installasjonen.</translation>
+        <translation>Følgende programmer bruker filer som må oppdateres. Lukk dem og klikk på Prøv på nytt for å fortsette, eller klikk på Avslutt for å avbryte installasjonen.</translation>
     </message>
     <message>
         <source>November</source>
