@@ -1616,7 +1616,7 @@
     <message>
         <source>The following applications are using files that need to be updated. Please close them and click Retry to continue, or click Exit to end the installation.</source>
         <extracomment>343 msi_filesinuse_dlg_text</extracomment>
-        <translation>Die folgenden Anwendungen verwenden Dateien, die aktualisiert werden müssen. Schließen Sie diese und klicken Sie auf „Wiederholen“, um fortzufahren, oder klicken Sie auf „Beenden“, um die Installation abzubrechen.</translation>
+        <translation>Die folgenden Anwendungen verwenden Dateien, die aktualisiert werden müssen. Schließen Sie diese Anwendungen und klicken Sie auf „Wiederholen“, um fortzufahren, oder klicken Sie auf „Beenden“, um die Installation abzubrechen.</translation>
     </message>
     <message>
         <source>November</source>
@@ -2001,7 +2001,7 @@
     <message>
         <source>The sync direction of this folder does not match your permissions. Please change it in the settings.</source>
         <extracomment>433 sync_direction_mismatch</extracomment>
-        <translation>Die Synchronisierungsrichtung dieses Ordners stimmt nicht mit Ihren Berechtigungen überein. Bitte ändern Sie sie in den Einstellungen.</translation>
+        <translation>Die Synchronisierungsrichtung dieses Ordners stimmt nicht mit Ihren Berechtigungen überein. Bitte ändern Sie die Richtung in den Einstellungen.</translation>
     </message>
     <message>
         <source>Global Settings</source>
