@@ -2001,7 +2001,7 @@
     <message>
         <source>The sync direction of this folder does not match your permissions. Please change it in the settings.</source>
         <extracomment>433 sync_direction_mismatch</extracomment>
-        <translation>De synchronisatierichting van deze map komt niet overeen met uw machtigingen. Wijzig deze in de instellingen.</translation>
+        <translation>De synchronisatierichting van deze map komt niet overeen met uw machtigingen. Wijzig de richting in de instellingen.</translation>
     </message>
     <message>
         <source>Global Settings</source>
