@@ -85,9 +85,10 @@ class Logger {
   /// component=threshold lines, or is empty; when it is missing or malformed the thresholds stay
   /// as they are. A log file keeps `rotate_count` - 1 old generations, and one also for a count of
   /// 1; for the standard streams and syslog the count is ignored.
-  /// Returns 0, or -1 when memory is short or the log file has no name or can't be opened. Records
-  /// then go on to where they went, standard error at first, in the form of the new type, which is
-  /// set already; an earlier log file goes on rotating. In no case is an earlier log file closed.
+  /// Returns 0, or -1 when memory is short, which leaves type and stream as they were, or when the
+  /// log file has no name or can't be opened. In that case the type is the new one, but the stream
+  /// is still the earlier one: standard error at first; an earlier log file, which goes on rotating;
+  /// none after syslog, so that records are dropped. An earlier log file is never closed.
   static int Initialize(Type type, ustring const& log_file, ustring const& level_file,
                         int rotate_count);
   /// Ends logging and closes the log file. Records written from now on are dropped.

@@ -42,8 +42,8 @@ std::string Composed(std::string const& text) {
   return Normalised(icu::Normalizer2::getNFCInstance, text);
 }
 
-/// Whether other names can have the normal form of this one. Three characters of ASCII are that of
-/// another: the Kelvin sign, the Greek question mark, and the Greek varia.
+/// Whether other names can have the normal form of this one. Three ASCII characters are the normal
+/// form of another character: of the Kelvin sign, the Greek question mark and the Greek varia.
 bool HasTwins(std::string_view name) {
   return std::any_of(name.begin(), name.end(), [](char c) {
     return static_cast<unsigned char>(c) >= 128 || c == 'K' || c == ';' || c == '`';

@@ -24,8 +24,15 @@ expect_found() {
   [ $count -gt 0 ] || fail "the documents name nothing of this kind: the test looks in vain"
 }
 
-TestScriptsThatAreNamedExist() {
+TestNoMergeIsLeftHalfDone() {
+  local marks
   # shellcheck disable=SC2046  # our own files have no blanks in their names
+  marks=$(grep -nE '^(<<<<<<<|=======$|>>>>>>>)' $(documents))
+  [ -z "$marks" ] || fail "marks of a conflict:" "$marks"
+}
+
+TestScriptsThatAreNamedExist() {
+  # shellcheck disable=SC2046
   grep -ohE '(scripts|resources|\.ci)/[a-z][a-z.-]+' $(documents) | sort -u |
     expect_found "named but missing" is_in_project
 }
