@@ -87,8 +87,8 @@ class Logger {
   /// 1; for the standard streams and syslog the count is ignored.
   /// Returns 0, or -1 when memory is short, which leaves type and stream as they were, or when the
   /// log file has no name or can't be opened. In that case the type is the new one, but the stream
-  /// is still the earlier one: standard error at first; an earlier log file, which goes on rotating;
-  /// none after syslog, so that records are dropped. An earlier log file is never closed.
+  /// is still the earlier one: standard error at first; an earlier log file, which goes on
+  /// rotating; none after syslog, so that records are dropped. An earlier log file is never closed.
   static int Initialize(Type type, ustring const& log_file, ustring const& level_file,
                         int rotate_count);
   /// Ends logging and closes the log file. Records written from now on are dropped.
