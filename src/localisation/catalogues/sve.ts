@@ -1316,7 +1316,7 @@
     <message>
         <source>A mount point cannot be used as a sync folder. Please choose another one.</source>
         <extracomment>278 msg_folder_mount_point</extracomment>
-        <translation>En monteringspunkt kan inte användas som synkroniseringsmapp. Välj en annan.</translation>
+        <translation>En monteringspunkt kan inte användas som synkroniseringsmapp. Välj en annan mapp.</translation>
     </message>
     <message>
         <source>has been shared with you.</source>
@@ -1441,7 +1441,7 @@
     <message>
         <source>Your account requires 2-step verification. Please set it up on the NAS first.</source>
         <extracomment>306 err_otp_enforced</extracomment>
-        <translation>Ditt konto kräver tvåstegsverifiering. Konfigurera det på NAS-enheten först.</translation>
+        <translation>Ditt konto kräver tvåstegsverifiering. Konfigurera den på NAS-enheten först.</translation>
     </message>
     <message>
         <source>Choose Which Folders to Sync</source>
@@ -1556,7 +1556,7 @@
     <message>
         <source>The following applications are using files that need to be updated. You can let the Setup Wizard close them, or restart your computer later.</source>
         <extracomment>330 msi_filesinuse_dlg_text2</extracomment>
-        <translation>Följande program använder filer som måste uppdateras. Du kan låta installationsguiden stänga dem eller starta om datorn senare.</translation>
+        <translation>Följande program använder filer som måste uppdateras. Du kan låta installationsguiden stänga dem, eller så kan du starta om datorn senare.</translation>
     </message>
     <message>
         <source>System default</source>
