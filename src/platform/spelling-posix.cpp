@@ -1,6 +1,5 @@
 #include "platform/spelling-posix.h"
 
-#include <dirent.h>
 #include <linux/magic.h>
 #include <sys/stat.h>
 #include <sys/vfs.h>
@@ -13,8 +12,10 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <filesystem>
 #include <iterator>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace platform {
@@ -55,19 +56,27 @@ bool Exists(std::string const& path, bool follow) {
   return (follow ? stat(path.c_str(), &info) : lstat(path.c_str(), &info)) == 0;
 }
 
+/// The names in a folder, none if it can't be listed. An empty path is the working folder.
+std::vector<std::string> NamesIn(std::string const& folder) {
+  std::vector<std::string> names;
+  std::error_code error;
+  std::filesystem::directory_iterator entry(folder.empty() ? "." : folder, error);
+  for (std::filesystem::directory_iterator const end; !error && entry != end;
+       entry.increment(error)) {
+    names.push_back(entry->path().filename().string());
+  }
+  return names;
+}
+
 /// The names in a folder that have this normal form, but for `except`.
 std::vector<std::string> NamesOfForm(std::string const& composed, std::string const& folder,
                                      std::vector<std::string> const& except) {
   std::vector<std::string> names;
-  DIR* const dir = opendir(folder.empty() ? "." : folder.c_str());
-  if (dir == nullptr) return names;
-  while (dirent const* const entry = readdir(dir)) {
-    std::string const name = entry->d_name;
+  for (std::string const& name : NamesIn(folder)) {
     if (!HasTwins(name) && name != composed) continue;
     if (std::find(except.begin(), except.end(), name) != except.end()) continue;
     if (Composed(name) == composed) names.push_back(name);
   }
-  closedir(dir);
   return names;
 }
 
@@ -150,15 +159,11 @@ std::string StoredName(std::string const& folder, std::string const& name) {
   std::string const other = IsUtf8(name) ? InOtherCase(name) : name;
   if (other == name || !IsSameObject(folder + name, folder + other)) return name;
   std::string stored = name;
-  DIR* const dir = opendir(folder.c_str());
-  if (dir == nullptr) return stored;
   icu::UnicodeString const folded = Folded(name);
-  while (dirent const* const entry = readdir(dir)) {
-    std::string const candidate = entry->d_name;
+  for (std::string const& candidate : NamesIn(folder)) {
     if (Folded(candidate) == folded) stored = candidate;
     if (candidate == name) break;
   }
-  closedir(dir);
   return stored;
 }
 
