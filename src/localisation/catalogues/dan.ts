@@ -1556,7 +1556,7 @@
     <message>
         <source>The following applications are using files that need to be updated. You can let the Setup Wizard close them, or restart your computer later.</source>
         <extracomment>330 msi_filesinuse_dlg_text2</extracomment>
-        <translation>Følgende programmer bruger filer, der skal opdateres. Du kan lade installationsguiden lukke dem eller genstarte computeren senere.</translation>
+        <translation>Følgende programmer bruger filer, der skal opdateres. Du kan lade installationsguiden lukke dem, eller du kan genstarte computeren senere.</translation>
     </message>
     <message>
         <source>System default</source>

@@ -1556,7 +1556,7 @@
     <message>
         <source>The following applications are using files that need to be updated. You can let the Setup Wizard close them, or restart your computer later.</source>
         <extracomment>330 msi_filesinuse_dlg_text2</extracomment>
-        <translation>Les applications suivantes utilisent des fichiers qui doivent être mis à jour. Vous pouvez laisser l&apos;assistant d&apos;installation les fermer ou redémarrer votre ordinateur ultérieurement.</translation>
+        <translation>Les applications suivantes utilisent des fichiers qui doivent être mis à jour. Vous pouvez laisser l&apos;assistant d&apos;installation les fermer, ou vous pouvez redémarrer votre ordinateur ultérieurement.</translation>
     </message>
     <message>
         <source>System default</source>
