@@ -213,8 +213,8 @@ int SpellNormalPath(ustring const& path, ustring& spelled) {
   return 0;
 }
 
-/// The same for an entry of a folder whose path is as the volume spells it: so is the entry's, and
-/// needn't be asked for.
+/// The same for an entry of a folder whose path is spelled as on the volume. The entry's path is
+/// then spelled so as well, and the volume needn't be asked.
 int CheckEntry(ustring const& path) {
   FSRef ref;
   if (FindNormalPath(path, ref) != 0) return -1;

@@ -18,9 +18,9 @@
 /// even of a const object. Several threads may share an object through c_str(), c_str_utf8(),
 /// length(), empty() and the comparisons alone.
 ///
-/// Throws std::bad_alloc when memory runs out: an assignment then leaves the object empty, whatever
-/// else changes a text leaves the former one. Throws std::out_of_range where a position is checked.
-/// A null pointer is no valid text.
+/// Throws std::bad_alloc when memory runs out: an assignment then leaves the object empty, any
+/// other change leaves the text as it was. Throws std::out_of_range where a position is checked. A
+/// null pointer is no valid text.
 class ustring {
  public:
   enum normalization_form { NFC = 0, NFD = 1 };

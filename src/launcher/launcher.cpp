@@ -18,8 +18,8 @@ namespace {
 
 constexpr int kReady = 519;  // desc_lkmr_env_preparation_done
 constexpr unsigned long kGatheringMs = 2;
-constexpr int kFrameMs = 17;         // what a screen of 60 Hz shows at least
-constexpr int kOutOfSightMs = 1000;  // for a window that the system doesn't let paint
+constexpr int kFrameMs = 17;         // one frame at 60 Hz
+constexpr int kOutOfSightMs = 1000;  // when no paint event comes, as for a minimised window
 
 /// Ends an event loop once the screen has shown what a window paints.
 class PaintWatch : public QObject {

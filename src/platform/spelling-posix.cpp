@@ -80,7 +80,7 @@ std::vector<std::string> NamesOfForm(std::string const& composed, std::string co
   return names;
 }
 
-/// Goes on from `above`, which stands and is empty or ends in a slash.
+/// Searches for `rest` below `above`, which exists, and is empty or ends in a slash.
 bool Find(std::string const& above, std::string_view rest, bool follow_leaf, std::string& found) {
   std::size_t const begin = std::min(rest.find_first_not_of('/'), rest.size());
   std::size_t const end = std::min(rest.find('/', begin), rest.size());
@@ -112,8 +112,8 @@ bool Find(std::string const& above, std::string_view rest, bool follow_leaf, std
   return std::any_of(others.begin(), others.end(), leads_on);
 }
 
-/// Whether the volume may take names for one that differ in case. It is up to the type, and for
-/// some to a mount option, which nothing tells.
+/// Whether the volume may take names that differ in case for one. That depends on its type and, for
+/// some types, on a mount option that can't be asked for.
 bool MayBeBlindToCase(char const* path) {
   constexpr unsigned long kTypes[] = {
       MSDOS_SUPER_MAGIC,

@@ -150,8 +150,8 @@ int Service::PrepareUserEnv() {
   }
 
   // The removal of the old tree mustn't reach the disk before the new one has: a power cut would
-  // leave neither. This also saves a bundle that was copied to this volume just before. Without it
-  // the new tree is no worse, so a failure is none of the upgrade's.
+  // leave neither. This also saves a bundle that was copied to this volume just before. A failure
+  // leaves the new tree as good as it was, so the upgrade goes on.
   platform::FlushVolume(GetUserLarkmoorInstallPath().c_str_utf8());
   LOG_MSG(LEVEL_INFO, log_component::service(),
           "[INFO] larkmoor-service(%d): user installation is ready, removing backup app\n");
