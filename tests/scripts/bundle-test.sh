@@ -171,7 +171,7 @@ assert magic in library, "the first bytes of zstd aren't found in libarchive"
 with open(sys.argv[2], "wb") as file:
     file.write(library.replace(magic, bytes(4)))
 END
-  in_bundle sed -i "s/$name/$other/" MacOS/launcher
+  in_bundle sed -i.bak "s/$name/$other/" MacOS/launcher
   expect_success env LD_LIBRARY_PATH="$PWD/lib" bsdtar -tf client.lpk
   expect_failure "the package can't be read by the launcher's libarchive (bsdtar: Error opening archive: Unrecognized" \
     env LD_LIBRARY_PATH="$PWD/lib" "$SCRIPTS/check-bundle" good/Larkmoor.app
