@@ -108,6 +108,15 @@ Contents/Resources/package/larkmoor.lpk" \
   expect_success check_bundle
 }
 
+TestInstalledLauncherLooksForLibrariesInItsBundleAlone() {
+  make_mac_bundle
+  local architecture
+  for architecture in x86_64 arm64; do
+    part $architecture Larkmoor.app/Contents/MacOS/launcher
+    expect_equal "@executable_path/../Frameworks" "$(load_commands LC_RPATH path)"
+  done
+}
+
 TestPropertyListPromisesWhatTheLauncherIs() {
   make_mac_bundle
   python3 - Larkmoor.app/Contents/Info.plist >out <<'END' || fail "no property list"

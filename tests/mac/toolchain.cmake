@@ -17,6 +17,9 @@ endforeach()
 # A universal archive, which ar can't make.
 set(CMAKE_CXX_CREATE_STATIC_LIBRARY "${sdk}/bin/libtool -static -o <TARGET> <OBJECTS>")
 set(CMAKE_C_CREATE_STATIC_LIBRARY ${CMAKE_CXX_CREATE_STATIC_LIBRARY})
+# CMake asks sw_vers for the version of macOS before it knows this option, and without it leaves out
+# every rpath.
+set(CMAKE_SHARED_LIBRARY_RUNTIME_CXX_FLAG "-Wl,-rpath,")
 
 set(ENV{SDKROOT} ${sdk})
 
