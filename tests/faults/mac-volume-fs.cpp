@@ -179,7 +179,7 @@ int Readdir(char const* /*path*/, void* buffer, fuse_fill_dir_t fill, off_t /*at
   while (dirent const* const entry = readdir(Directory(file))) {
     struct stat info = {};
     info.st_ino = entry->d_ino;
-    info.st_mode = DTTOIF(entry->d_type);
+    info.st_mode = static_cast<mode_t>(DTTOIF(entry->d_type));
     fill(buffer, entry->d_name, &info, 0, static_cast<fuse_fill_dir_flags>(0));
   }
   return 0;

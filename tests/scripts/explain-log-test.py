@@ -72,8 +72,13 @@ class Bundle:
             package.write_bytes(package.read_bytes()[:1100])
 
     def start(self):
+        # Without these Qt and fontconfig leave folders in /tmp and in the home.
+        own = {name: self.folder / name for name in ('XDG_CACHE_HOME', 'XDG_RUNTIME_DIR')}
+        for folder in own.values():
+            folder.mkdir(mode=0o700, exist_ok=True)
         environment = {'PATH': os.environ['PATH'], 'HOME': str(self.folder / 'home'),
-                       'LC_ALL': 'C.UTF-8', 'QT_QPA_PLATFORM': 'offscreen'}
+                       'LC_ALL': 'C.UTF-8', 'QT_QPA_PLATFORM': 'offscreen',
+                       **{name: str(folder) for name, folder in own.items()}}
         for name in ('ASAN_OPTIONS', 'LSAN_OPTIONS', 'TSAN_OPTIONS', 'UBSAN_OPTIONS'):
             if name in os.environ:
                 environment[name] = os.environ[name]

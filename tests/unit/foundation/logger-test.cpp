@@ -248,7 +248,7 @@ class LogOutsideMain : public LoggerTest {
   /// The generation that the rotation has made, without what it was filled with.
   std::string Rotated() const {
     std::string const text = ReadFile(Generation(0));
-    return WithoutStamps(text.substr(0, text.find("xxxx") - kStampLength));
+    return WithoutStamps(text.substr(0, text.find("xx") - kStampLength));
   }
 };
 
