@@ -6,10 +6,19 @@
 #include "platform/spelling-posix.h"
 
 namespace platform {
+namespace {
+
+/// Whether another spelling of the path may lead on: the names are to blame, and no disk.
+bool LeadsNowhere(int error) {
+  return error == ENOENT || error == ENOTDIR || error == EACCES || error == ENAMETOOLONG;
+}
+
+}  // namespace
 
 int LookAt(char const* path, struct stat& info) {
   if (lstat(path, &info) == 0) return 0;
   int const error = errno;
+  if (!LeadsNowhere(error)) return -1;
   std::string found;
   if (FindByNormalForm(path, false, found) && lstat(found.c_str(), &info) == 0) return 0;
   errno = error;
