@@ -28,22 +28,23 @@ def verdict(result):
 def _row(result):
     ours, peer = result["contenders"][:2]
     floor = result.get("floor_ratio")
-    return [result["name"], peer["name"], _time(ours["wall"]), _time(peer["wall"]),
-            f"{result['ratio']:.2f}", f"{result['cpu_ratio']:.2f}",
+    return [result["name"], peer["name"], f"{result['ratio']:.2f}", f"{result['cpu_ratio']:.2f}",
             "" if result["goal"] is None else f"{result['goal']:.2f}",
-            "" if floor is None else f"{floor:.2f}", str(result["pairs"]),
-            "" if result["noise"] is None else f"{100 * result['noise']:.1f}%", verdict(result)]
+            "" if floor is None else f"{floor:.2f}", verdict(result),
+            _time(ours["wall"]), _time(peer["wall"]), str(result["pairs"]),
+            "" if result["noise"] is None else f"{100 * result['noise']:.1f} %"]
 
 
 def table(rows, heads):
-    """Columns, the first two to the left."""
+    """In Markdown, so that a document can take it as it is. Numbers are aligned to the right."""
     widths = [max(len(row[i]) for row in [heads, *rows]) for i in range(len(heads))]
     lines = []
     for row in [heads, *rows]:
         cells = [cell.ljust(width) if i < 2 else cell.rjust(width)
                  for i, (cell, width) in enumerate(zip(row, widths))]
-        lines.append("  ".join(cells).rstrip())
-    lines.insert(1, "  ".join("-" * width for width in widths))
+        lines.append("| " + " | ".join(cells) + " |")
+    rules = ["-" * width if i < 2 else "-" * (width - 1) + ":" for i, width in enumerate(widths)]
+    lines.insert(1, "| " + " | ".join(rules) + " |")
     return "\n".join(lines)
 
 
@@ -63,8 +64,10 @@ def keep(folder, name, found):
 
 
 def write_text(folder):
-    content = text(json.loads((folder / "report.json").read_text()))
+    measures = json.loads((folder / "report.json").read_text())
+    content = text(measures)
     (folder / "report.txt").write_text(content + "\n")
+    draw_waits(measures, folder / "waits.svg")
     return content
 
 
@@ -76,14 +79,14 @@ def text(measures):
     parts = []
     if report["comparisons"]:
         parts.append(table([_row(result) for result in report["comparisons"]],
-                           ["measure", "against", "ours", "peer", "ratio", "cpu ratio", "goal",
-                            "floor", "pairs", "A/A", ""]))
+                           ["measure", "peer", "ratio", "processor", "goal", "floor", "verdict",
+                            "ours", "peer's", "pairs", "A/A"]))
     if report["memory"]:
         rows = [[entry["name"], entry["against"], f"{entry['value'] / 2**20:.1f} MiB",
                  f"{entry['limit'] / 2**20:.1f} MiB",
                  "met" if entry["value"] <= entry["limit"] else "missed"]
                 for entry in report["memory"]]
-        parts.append(table(rows, ["peak memory or size", "against", "ours", "goal", ""]))
+        parts.append(table(rows, ["peak memory or size", "against", "ours", "goal", "verdict"]))
     if report["parts"]:
         parts.append(_parts_text(report["parts"]))
     for growth in report["growths"]:
@@ -97,15 +100,15 @@ def text(measures):
 
 
 def _parts_text(parts):
-    """One line for each operation: how it stands to the closest peer over its series."""
+    """One line for each operation: its ratio to the fastest peer over its series."""
     rows = []
     for name in dict.fromkeys(part["name"] for part in parts):
         ratios = sorted(part["ratio"] for part in parts if part["name"] == name)
         goal = next(part["goal"] for part in parts if part["name"] == name)
         middle = ratios[len(ratios) // 2]
-        rows.append([name, "the closest", f"{ratios[0]:.2f}", f"{middle:.2f}", f"{ratios[-1]:.2f}",
+        rows.append([name, "the fastest", f"{ratios[0]:.2f}", f"{middle:.2f}", f"{ratios[-1]:.2f}",
                      f"{goal:.2f}", "met" if ratios[-1] <= goal else "missed"])
-    return table(rows, ["part", "against", "least", "median", "most", "goal", ""])
+    return table(rows, ["part", "peer", "least", "median", "most", "goal", "verdict"])
 
 
 def exponent(points):
@@ -141,10 +144,14 @@ def _conditions(measures):
                     "5 %: not to be believed. The cpu ratio bears more than the ratio of wall times.")
 
 
+def plot(commands):
+    """Has gnuplot draw, where it is installed."""
+    if shutil.which("gnuplot"):
+        subprocess.run(["gnuplot"], input="\n".join(commands) + "\n", text=True, check=True)
+
+
 def draw(growth, folder):
     """Both axes are logarithmic: a cost in proportion to its work is a straight line."""
-    if not shutil.which("gnuplot"):
-        return
     commands = [
         "set terminal svg size 640,420 font 'sans-serif,13' background 'white'",
         f"set output '{folder / (growth['file'] + '.svg')}'",
@@ -157,5 +164,24 @@ def draw(growth, folder):
         rows = "\n".join(f"{x} {y}" for x, y in points)
         blocks.append(f"$line{i} << end\n{rows}\nend")
         plots.append(f"$line{i} with linespoints linewidth 2 pointtype {5 + 2 * i} title \"{name}\"")
-    script = "\n".join([*commands, *blocks, "plot " + ", ".join(plots)]) + "\n"
-    subprocess.run(["gnuplot"], input=script, text=True, check=True)
+    plot([*commands, *blocks, "plot " + ", ".join(plots)])
+
+
+def draw_waits(measures, path):
+    """What a user waits for, as bars: a plain start, and an upgrade beside its peers."""
+    if not {"start", "upgrade"} <= measures.keys():
+        return
+    start = measures["start"]["comparisons"][0]["contenders"][0]
+    _, to_gzip, to_one_pass = [found["contenders"] for found in measures["upgrade"]["comparisons"]]
+    bars = [("plain start", start), ("upgrade, default package", to_gzip[0]),
+            ("upgrade, gzip package", to_gzip[1]),
+            ("bsdtar -xf of the default package", to_one_pass[1]), ("cp -r of the client", to_one_pass[2])]
+    rows = [f'{bar["wall"]} "{name}" "{_time(bar["wall"])}"' for name, bar in bars]
+    plot([
+        "set terminal svg size 720,240 font 'sans-serif,13' background 'white'",
+        f"set output '{path}'", "$bars << end", *rows, "end", "unset key", "set yrange [*:*] reverse",
+        "set xrange [0:*]", "set offsets graph 0, graph 0.1, 0.2, 0.2", "set border 1",
+        "set xtics nomirror", "set ytics scale 0", "set xlabel 'wall time, s'", "set style fill solid 0.7",
+        "plot $bars using 1:0:(0):1:($0-0.35):($0+0.35):ytic(2) with boxxyerror linecolor 3, "
+        "$bars using 1:0:3 with labels left offset 0.7,0",
+    ])

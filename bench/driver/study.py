@@ -9,7 +9,6 @@ import os
 import pathlib
 import random
 import shutil
-import subprocess
 import sys
 
 import inputs
@@ -143,8 +142,7 @@ def draw(found, path):
         blocks.append(f"$line{i} << end\n{rows}\nend")
         plots.append(f"$line{i} with points pointtype 7 linecolor {i + 1} title \"{name}\"")
         plots.append(f"$line{i} using 1:2:3 with labels offset 0,0.7 font ',9' notitle")
-    script = "\n".join([*commands, *blocks, "plot " + ", ".join(plots)]) + "\n"
-    subprocess.run(["gnuplot"], input=script, text=True, check=True)
+    reports.plot([*commands, *blocks, "plot " + ", ".join(plots)])
 
 
 def main():
@@ -169,8 +167,7 @@ def main():
                 kept.write_text(json.dumps(found, indent=1) + "\n")
                 print(f"{name}, {setting.name}: {one}", flush=True)
     print(table(found))
-    if shutil.which("gnuplot"):
-        draw(found, arguments.build / "packages.svg")
+    draw(found, arguments.build / "packages.svg")
 
 
 try:
