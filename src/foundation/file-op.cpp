@@ -5,20 +5,18 @@
 #include <sys/time.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
-#include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <string>
 
+#include "foundation/file-op-internal.h"
 #include "foundation/logger.h"
 #include "foundation/tmp-name-gen.h"
 #include "platform/core-services.h"
 #include "platform/file-system-name.h"
-#include "platform/volume-lookup.h"
 
 namespace {
 
@@ -31,91 +29,29 @@ struct FreeBlock {
   void operator()(void* block) const { std::free(block); }
 };
 
+/// An open file. One that was written is synced before it is closed.
 class Descriptor {
  public:
-  explicit Descriptor(int number) : number_(number) {}
+  enum class Use { kRead, kWrite };
+  explicit Descriptor(Use use) : use_(use) {}
   ~Descriptor() { Close(); }
   Descriptor(Descriptor const&) = delete;
   Descriptor& operator=(Descriptor const&) = delete;
 
+  void Take(int number) { number_ = number; }
   bool IsOpen() const { return number_ >= 0; }
   int number() const { return number_; }
   void Close() {
-    if (IsOpen()) close(number_);
+    if (!IsOpen()) return;
+    if (use_ == Use::kWrite) fsync(number_);
+    close(number_);
     number_ = -1;
   }
 
  private:
-  int number_;
-};
-
-/// An open file that is synced before it is closed.
-class SyncedDescriptor {
- public:
-  SyncedDescriptor() = default;
-  ~SyncedDescriptor() {
-    if (!IsOpen()) return;
-    fsync(number_);
-    close(number_);
-  }
-  SyncedDescriptor(SyncedDescriptor const&) = delete;
-  SyncedDescriptor& operator=(SyncedDescriptor const&) = delete;
-
-  void Take(int number) { number_ = number; }
-  bool IsOpen() const { return number_ >= 0; }
-  int number() const { return number_; }
-
- private:
+  Use const use_;
   int number_ = -1;
 };
-
-/// The call that every reader of directories goes through. It is deprecated for fear of names
-/// longer than the buffer, which no file system here has; it has no state outside its arguments.
-int ReadEntry(DIR* dir, dirent& buffer, dirent*& entry) {
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
-  return readdir_r(dir, &buffer, &entry);
-#pragma GCC diagnostic pop
-}
-
-bool IsDots(char const* name) {
-  return std::strcmp(name, ".") == 0 || std::strcmp(name, "..") == 0;
-}
-
-/// The names in a directory, without "." and "..". A listing that breaks off counts as ended.
-class Listing {
- public:
-  explicit Listing(ustring const& path) : dir_(opendir(path.c_str())) {}
-  ~Listing() {
-    if (IsOpen()) closedir(dir_);
-  }
-  Listing(Listing const&) = delete;
-  Listing& operator=(Listing const&) = delete;
-
-  bool IsOpen() const { return dir_ != nullptr; }
-  int descriptor() const { return dirfd(dir_); }
-  /// Valid until the next call; null at the end.
-  char const* Next() {
-    dirent* entry = nullptr;
-    do {
-      if (ReadEntry(dir_, buffer_, entry) != 0 || entry == nullptr) return nullptr;
-    } while (IsDots(entry->d_name));
-    return entry->d_name;
-  }
-
- private:
-  DIR* const dir_;
-  dirent buffer_;
-};
-
-/// Plain ASCII, which nearly all paths are, is in NFC already.
-bool IsAscii(ustring const& path) {
-  char const* const text = path.c_str();
-  return std::all_of(text, text + path.length(),
-                     [](char c) { return static_cast<unsigned char>(c) < 128; });
-}
-
-ustring ToNfc(ustring const& path) { return IsAscii(path) ? path : path.normalize(ustring::NFC); }
 
 OSStatus PathOfRef(FSRef const& ref, ustring& path) {
   UInt8 buffer[kPathBufferSize] = {};
@@ -126,59 +62,6 @@ OSStatus PathOfRef(FSRef const& ref, ustring& path) {
 
 UInt8 const* VolumeText(ustring const& path) {
   return reinterpret_cast<UInt8 const*>(path.c_str_utf8());
-}
-
-int FileTypeOfMode(mode_t mode) {
-  switch (mode & S_IFMT) {
-    case S_IFREG:
-      return FILE_TYPE_REGULAR;
-    case S_IFDIR:
-      return FILE_TYPE_DIRECTORY;
-    case S_IFLNK:
-      return FILE_TYPE_SYMLINK;
-    case S_IFBLK:
-    case S_IFCHR:
-      return FILE_TYPE_DEVICE;
-    case S_IFIFO:
-      return FILE_TYPE_FIFO;
-    case S_IFSOCK:
-      return FILE_TYPE_SOCKET;
-    default:
-      return FILE_TYPE_NONE;
-  }
-}
-
-int FileTypeOfEntry(unsigned char d_type) {
-  switch (d_type) {
-    case DT_REG:
-      return FILE_TYPE_REGULAR;
-    case DT_DIR:
-      return FILE_TYPE_DIRECTORY;
-    case DT_LNK:
-      return FILE_TYPE_SYMLINK;
-    case DT_CHR:
-    case DT_BLK:
-      return FILE_TYPE_DEVICE;
-    case DT_FIFO:
-      return FILE_TYPE_FIFO;
-    case DT_SOCK:
-      return FILE_TYPE_SOCKET;
-    default:
-      return FILE_TYPE_NONE;
-  }
-}
-
-void FillFromStat(ustring const& path, struct stat const& info, _FILE_INFO_tag& out) {
-  out.exists = true;
-  out.mtime = info.st_mtime;
-  out.path = path;  // which may be one of the two texts
-  out.name = FSBaseName(out.path);
-  out.size = info.st_size;
-  out.uid = info.st_uid;
-  out.gid = info.st_gid;
-  out.mode = info.st_mode;
-  out.dev = static_cast<std::int32_t>(info.st_dev);
-  out.type = FileTypeOfMode(info.st_mode);
 }
 
 /// Finds the object at a path that is in NFC. 0 or -1.
@@ -208,25 +91,17 @@ int SpellNormalPath(ustring const& path, ustring& spelled) {
             static_cast<int>(status));
     return -1;
   }
-  if (!IsAscii(spelled)) spelled = spelled.normalize(ustring::NFC);
+  if (!file_op::IsAscii(spelled)) spelled = spelled.normalize(ustring::NFC);
   LogSpelling(spelled);
   return 0;
 }
 
-/// The same for an entry of a folder whose path is spelled as on the volume. The entry's path is
-/// then spelled so as well, and the volume needn't be asked.
-int CheckEntry(ustring const& path) {
+/// CheckEntry of a path that is in NFC.
+int CheckNormalEntry(ustring const& path) {
   FSRef ref;
   if (FindNormalPath(path, ref) != 0) return -1;
   LogSpelling(path);
   return 0;
-}
-
-/// How the volume spells a path, in NFC. A copy is normalised, since the caller's text may hold an
-/// outdated UTF-16 copy, or be another thread's as well.
-int SpellAsVolume(ustring const& path, ustring& spelled) {
-  return IsAscii(path) ? SpellNormalPath(path, spelled)
-                       : SpellNormalPath(ustring(path).normalize(ustring::NFC), spelled);
 }
 
 /// One step of FSMKDirP: sees to it that a directory stands at the prefix.
@@ -294,121 +169,18 @@ int CopyBytes(int source, int target, char* buffer) {
   }
 }
 
-int RemoveOne(ustring const& path) { return std::remove(path.c_str()) < 0 ? -3 : 0; }
-
-/// The part of FSRename for a directory that goes to another volume.
-int MoveDirectory(ustring const& source, ustring const& target, bool strict) {
-  if (FSMKDir(target, true) != 0) return -3;
-  {
-    Listing entries(source);
-    if (!entries.IsOpen()) return -3;
-    while (char const* const name = entries.Next()) {
-      if (FSRename(source + "/" + name, target + "/" + name, strict) != 0) return -3;
-    }
-  }
-  return RemoveOne(source);
-}
-
-int RemoveAt(int folder, char const* name, ustring const& path);
-
-/// How FSRemove goes through a directory. Both ways take the same steps.
-enum class Walk {
-  kByPath,     ///< each object by its path from the start
-  kByFolders,  ///< by its name in the open folder, which saves two walks along the path
-};
-
-/// Removes what is in a directory. `is_readable` is false, and all stays, when it can't be listed.
-int RemoveEntries(ustring const& path, Walk walk, bool& is_readable) {
-  Listing entries(path);
-  is_readable = entries.IsOpen();
-  if (!is_readable) return 0;
-  ustring const prefix = path + "/";
-  while (char const* const name = entries.Next()) {
-    int const result = walk == Walk::kByPath ? FSRemove(prefix + name, false)
-                                             : RemoveAt(entries.descriptor(), name, prefix + name);
-    if (result != 0) return -3;
-  }
-  return 0;
-}
-
-/// FSRemove of an object that is `path` to everybody and `name` seen from an open folder.
-int RemoveAt(int folder, char const* name, ustring const& path) {
-  // The look of GetFileInfo, without filling a record. A path that is too long for the system can't
-  // be looked at, though its name can.
-  if (path.length() >= PATH_MAX) return -1;
-  struct stat found;
-  if (fstatat(folder, name, &found, AT_SYMLINK_NOFOLLOW) != 0) return errno == ENOENT ? 0 : -1;
-  int const type = FileTypeOfMode(found.st_mode);
-  if (type == FILE_TYPE_NONE) return -1;
-  if ((IsAscii(path) ? CheckEntry(path) : CheckEntry(ustring(path).normalize(ustring::NFC))) != 0) {
-    return -1;
-  }
-  if (type != FILE_TYPE_DIRECTORY) return unlinkat(folder, name, 0) < 0 ? -3 : 0;
-  bool is_readable = false;
-  if (int const result = RemoveEntries(path, Walk::kByFolders, is_readable)) return result;
-  return is_readable && unlinkat(folder, name, AT_REMOVEDIR) < 0 ? -3 : 0;
-}
-
 }  // namespace
 
-bool operator==(_FILE_INFO_tag const& a, _FILE_INFO_tag const& b) {
-  return a.exists == b.exists && a.size == b.size && a.mtime == b.mtime && a.type == b.type &&
-         a.path == b.path && a.name == b.name;
+// Both normalise a copy, since the caller's string may hold an outdated UTF-16 copy, or be another
+// thread's as well.
+int file_op::SpellAsVolume(ustring const& path, ustring& spelled) {
+  return IsAscii(path) ? SpellNormalPath(path, spelled)
+                       : SpellNormalPath(ustring(path).normalize(ustring::NFC), spelled);
 }
 
-bool operator!=(_FILE_INFO_tag const& a, _FILE_INFO_tag const& b) { return !(a == b); }
-
-ustring FSParentPath(ustring const& path) {
-  unsigned long const slash = path.rfind("/");
-  return slash == ustring::npos || slash == 0 ? ustring("/") : path.substr(0, slash);
-}
-
-ustring FSBaseName(ustring const& path) {
-  unsigned long const slash = path.rfind("/");
-  return slash == ustring::npos ? path : path.substr(slash + 1);
-}
-
-bool FSIsParentFolder(ustring const& parent, ustring const& child) {
-  unsigned long const length = parent.length();
-  if (child.length() < length) return false;
-  char const behind = child[length];
-  return (behind == '\0' || behind == '/') && child.compare(parent, length) == 0;
-}
-
-bool IsFileExist(ustring const& path, bool strict) {
-  // Text that isn't valid UTF-8 has no normal form and so comes out empty as well.
-  ustring const normal = ToNfc(path);
-  if (normal.empty()) return false;
-  _FILE_INFO_tag info;
-  if (GetFileInfo(normal, info) < 0) return false;
-  return info.exists && (!strict || info.path == normal);
-}
-
-int GetFileInfo(ustring const& path, _FILE_INFO_tag& info) {
-  struct stat found;
-  if (platform::LookAt(path.c_str(), found) != 0) {
-    if (errno != ENOENT) return -1;
-    _FILE_INFO_tag missing;
-    missing.path = path;  // which may be that of `info`
-    missing.name = FSBaseName(path);
-    info = missing;
-    return 0;
-  }
-  FillFromStat(path, found, info);
-  ustring spelled;
-  if (info.type == FILE_TYPE_NONE || SpellAsVolume(info.path, spelled) != 0) return -1;
-  info.name = FSBaseName(spelled);
-  info.path.swap(spelled);
-  return 0;
-}
-
-int FSStat(ustring const& path, _FILE_INFO_tag& info, bool strict) {
-  if (path.empty()) return -1;
-  if (!IsFileExist(path, strict)) {
-    info.exists = false;
-    return 0;
-  }
-  return GetFileInfo(path, info) < 0 ? -2 : 0;
+int file_op::CheckEntry(ustring const& path) {
+  return IsAscii(path) ? CheckNormalEntry(path)
+                       : CheckNormalEntry(ustring(path).normalize(ustring::NFC));
 }
 
 int FSOpenDir(ustring const& path, int flags, DIR_HANDLE& handle) {
@@ -428,7 +200,7 @@ int FSOpenDir(ustring const& path, int flags, DIR_HANDLE& handle) {
 int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
   dirent buffer;
   dirent* found = nullptr;
-  if (int const error = ReadEntry(handle.dir, buffer, found)) {
+  if (int const error = file_op::ReadEntry(handle.dir, buffer, found)) {
     LOG_MSG(LEVEL_ERROR, log_component::file_op(),
             "[ERROR] file-op(%d): FSOpenDir: Failed to read directory '%s'. %s\n",
             handle.path.c_str(), strerror(error));
@@ -448,7 +220,7 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
   entry.mtime = info.mtime;
   entry.size = info.size;
   entry.name = found->d_name;
-  entry.type = FileTypeOfEntry(found->d_type);
+  entry.type = file_op::FileTypeOfEntry(found->d_type);
   return 1;
 }
 
@@ -607,8 +379,9 @@ int FSMKDirFromRoot(ustring const& target, ustring const& root) {
 int FSCopy(ustring const& source, ustring const& target, bool remove_source) {
   // In this order, so that the source is closed first, then the target, and the buffer is freed.
   std::unique_ptr<char, FreeBlock> buffer;
-  SyncedDescriptor to;
-  Descriptor from(open(source.c_str(), O_RDONLY | O_CLOEXEC));
+  Descriptor to(Descriptor::Use::kWrite);
+  Descriptor from(Descriptor::Use::kRead);
+  from.Take(open(source.c_str(), O_RDONLY | O_CLOEXEC));
   if (!from.IsOpen()) {
     LOG_MSG(LEVEL_ERROR, log_component::file_op(),
             "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", source.c_str(), strerror(errno),
@@ -633,37 +406,6 @@ int FSCopy(ustring const& source, ustring const& target, bool remove_source) {
   if (result != 0 || !remove_source) return result;
   from.Close();
   return std::remove(source.c_str()) < 0 ? -1 : 0;
-}
-
-int FSRename(ustring const& source, ustring const& target, bool strict) {
-  if (source.empty() || target.empty()) return -1;
-  _FILE_INFO_tag info;
-  if (FSStat(source, info, strict) < 0 || !info.exists) return -2;
-  if (std::rename(source.c_str(), target.c_str()) == 0) return 0;
-  if (errno == ENAMETOOLONG) return -100;
-  if (errno != EXDEV) return -3;
-
-  switch (info.type) {
-    case FILE_TYPE_REGULAR:
-      return FSCopy(source, target, true) < 0 ? -3 : 0;
-    case FILE_TYPE_DIRECTORY:
-      return MoveDirectory(source, target, strict);
-    default:
-      return 0;
-  }
-}
-
-int FSRemove(ustring const& path, [[maybe_unused]] bool ignored) {
-  _FILE_INFO_tag info;
-  if (path.empty() || GetFileInfo(path, info) != 0) return -1;
-  if (!info.exists) return 0;
-  if (info.type != FILE_TYPE_DIRECTORY) return RemoveOne(path);
-  // A path with a link or dots in it may lead through the very tree that is removed, and then leads
-  // elsewhere, or nowhere, as soon as the link has gone.
-  Walk const walk = info.path == ToNfc(path) ? Walk::kByFolders : Walk::kByPath;
-  bool is_readable = false;
-  if (int const result = RemoveEntries(path, walk, is_readable)) return result;
-  return is_readable ? RemoveOne(path) : 0;
 }
 
 int FSMktemp(ustring const& directory, ustring& path) {
