@@ -50,6 +50,42 @@ ustring GetAppBackupDir(ustring const& path, int index) {
   return first + postfix;
 }
 
+/// FSCopyPath of a folder.
+int CopyFolder(Service& service, ustring const& source, ustring const& destination) {
+  if (FSMKDir(destination, true) < 0) {
+    LOG_MSG(LEVEL_ERROR, log_component::service(),
+            "[ERROR] larkmoor-service(%d): FSCopyPath: failed to create dest folder '%s'\n",
+            destination.c_str());
+    return -1;
+  }
+  DIR_HANDLE handle;
+  if (FSOpenDir(source, 0, handle) < 0) {
+    LOG_MSG(LEVEL_WARNING, log_component::service(),
+            "[WARNING] larkmoor-service(%d): FSCopyPath: failed to create handle  for src '%s' "
+            "failed\n",
+            source.c_str());
+    return 0;
+  }
+  int result = 0;
+  DIR_ENTRY entry;
+  while (FSReadDir(handle, entry) > 0) {
+    if (entry.name == "." || entry.name == "..") continue;
+    ustring const from = source + "/" + entry.name;
+    ustring const to = destination + "/" + entry.name;
+    result =
+        entry.type == FILE_TYPE_DIRECTORY ? service.FSCopyPath(from, to) : FSCopy(from, to, false);
+    if (result < 0) {
+      LOG_MSG(LEVEL_ERROR, log_component::service(),
+              "[ERROR] larkmoor-service(%d): FSCopyPath: failed to copy from '%s' to '%s'\n",
+              from.c_str(), to.c_str());
+      result = -1;
+      break;
+    }
+  }
+  FSCloseDir(handle);
+  return result;
+}
+
 }  // namespace
 
 // timeout stays unset: only a platform's service knows a value for it.
@@ -201,39 +237,7 @@ int Service::FSCopyPath(ustring const& source, ustring const& destination) {
             source.c_str());
     return -1;
   }
-  if (info.type != FILE_TYPE_DIRECTORY) {
-    FSCopy(source, destination, false);
-    return 0;
-  }
-  if (FSMKDir(destination, true) < 0) {
-    LOG_MSG(LEVEL_ERROR, log_component::service(),
-            "[ERROR] larkmoor-service(%d): FSCopyPath: failed to create dest folder '%s'\n",
-            destination.c_str());
-    return -1;
-  }
-  DIR_HANDLE handle;
-  if (FSOpenDir(source, 0, handle) < 0) {
-    LOG_MSG(LEVEL_WARNING, log_component::service(),
-            "[WARNING] larkmoor-service(%d): FSCopyPath: failed to create handle  for src '%s' "
-            "failed\n",
-            source.c_str());
-    return 0;
-  }
-  int result = 0;
-  DIR_ENTRY entry;
-  while (FSReadDir(handle, entry) > 0) {
-    if (entry.name == "." || entry.name == "..") continue;
-    ustring const from = source + "/" + entry.name;
-    ustring const to = destination + "/" + entry.name;
-    result = entry.type == FILE_TYPE_DIRECTORY ? FSCopyPath(from, to) : FSCopy(from, to, false);
-    if (result < 0) {
-      LOG_MSG(LEVEL_ERROR, log_component::service(),
-              "[ERROR] larkmoor-service(%d): FSCopyPath: failed to copy from '%s' to '%s'\n",
-              from.c_str(), to.c_str());
-      result = -1;
-      break;
-    }
-  }
-  FSCloseDir(handle);
-  return result;
+  if (info.type == FILE_TYPE_DIRECTORY) return CopyFolder(*this, source, destination);
+  FSCopy(source, destination, false);
+  return 0;
 }
