@@ -7,7 +7,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QFont>
 #include <QLockFile>
 #include <QSettings>
 #include <QThread>
@@ -48,9 +47,7 @@ int main(int argc, char** argv) {
   QCoreApplication::installTranslator(&translator);
   StrTable::InitStrTable();
 
-  QFont font = QApplication::font();
-  font.setFamily(ProcessingProgressDialog::FontFamily());
-  QApplication::setFont(font);
+  ProcessingProgressDialog::SetApplicationFont();
   ProcessingProgressDialog dialog;
   dialog.setCancelButton(nullptr);
 

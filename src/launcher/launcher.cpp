@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QEvent>
 #include <QEventLoop>
-#include <QFont>
 #include <QTimer>
 #include <climits>
 
@@ -97,11 +96,7 @@ void Worker::HandleServicce() {
 
 Launcher::Launcher() : QObject(nullptr), worker(nullptr), dialog(nullptr) {
   worker = new Worker;
-  // The base class lays the dialog out before its own font is set. With that family from the start,
-  // the system's fonts are searched once instead of twice.
-  QFont font = QApplication::font();
-  font.setFamily(ProcessingProgressDialog::FontFamily());
-  QApplication::setFont(font);
+  ProcessingProgressDialog::SetApplicationFont();
   dialog = new ProcessingProgressDialog;
   dialog->setCancelButton(nullptr);
   dialog->setAutoReset(false);

@@ -1,5 +1,6 @@
 #include "launcher/progress-dialog.h"
 
+#include <QApplication>
 #include <QFont>
 #include <QIcon>
 #include <QString>
@@ -12,6 +13,8 @@ namespace {
 constexpr int kAppName = 438;    // app_name
 constexpr int kPreparing = 371;  // desc_lkmr_env_preparing
 constexpr int kWidth = 400;      // pixels
+
+QString FontFamily() { return QStringLiteral("Arial"); }
 
 }  // namespace
 
@@ -34,6 +37,10 @@ ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, 
       " QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } "));
 }
 
-QString ProcessingProgressDialog::FontFamily() { return QStringLiteral("Arial"); }
-
 ProcessingProgressDialog::~ProcessingProgressDialog() = default;
+
+void ProcessingProgressDialog::SetApplicationFont() {
+  QFont font = QApplication::font();
+  font.setFamily(FontFamily());
+  QApplication::setFont(font);
+}
