@@ -68,6 +68,13 @@ if(APPLE)
     COMPONENT bundle)
 endif()
 
+# Behind everything that brings a library.
+install(CODE "
+  set(larkmoor_app \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${LARKMOOR_BUNDLE}\")
+  set(larkmoor_scripts \"${PROJECT_SOURCE_DIR}/scripts\")
+  include(\"${CMAKE_CURRENT_LIST_DIR}/CopyLicences.cmake\")"
+  COMPONENT bundle)
+
 configure_file(${CMAKE_CURRENT_LIST_DIR}/InstallPackage.cmake.in
   ${PROJECT_BINARY_DIR}/InstallPackage.cmake @ONLY)
 install(SCRIPT ${PROJECT_BINARY_DIR}/InstallPackage.cmake COMPONENT bundle)

@@ -73,7 +73,11 @@ TestLauncherAndClientNeedWhatTheBundleCarriesAndTheSystemHas() {
 make_mac_bundle() {
   make_client client 7
   expect_success "$SCRIPTS/make-package" client client.lpk
-  expect_success "$SCRIPTS/make-bundle" --launcher "$BUILD" --package client.lpk Larkmoor.app
+  # The stubs of libraries are our own.
+  mkdir -p texts/stubs
+  echo 'Contents/Frameworks/*: stubs' >texts/index.txt
+  echo "free of any" >texts/stubs/LICENSE
+  expect_success "$SCRIPTS/make-bundle" --launcher "$BUILD" --package client.lpk --licenses texts Larkmoor.app
 }
 
 check_bundle() { "$SCRIPTS/check-bundle" Larkmoor.app; }
@@ -102,6 +106,8 @@ Contents/MacOS/launcher
 Contents/Resources/INFO
 Contents/Resources/images/ico_72_larkmoor.png
 Contents/Resources/larkmoor.icns
+Contents/Resources/licenses/index.txt
+Contents/Resources/licenses/stubs/LICENSE
 Contents/Resources/package/larkmoor.lpk" \
     "$(cd Larkmoor.app && find . -type f | sed 's|^\./||' | LC_ALL=C sort)"
   expect_equal "x86_64 arm64" "$(lipo -archs Larkmoor.app/Contents/MacOS/launcher | sed 's/ $//')"

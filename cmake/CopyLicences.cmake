@@ -1,0 +1,18 @@
+# Copies the licences of the bundle's libraries into it. Takes "larkmoor_app", its path, and
+# "larkmoor_scripts", the folder of the script that does so; the environment names a folder of further
+# texts in LARKMOOR_LICENSES.
+find_program(larkmoor_python python3 NO_CACHE)
+if(NOT larkmoor_python)
+  message(FATAL_ERROR "python3 is missing: run scripts/setup build")
+endif()
+execute_process(
+  COMMAND ${larkmoor_python} ${larkmoor_scripts}/licences.py copy ${larkmoor_app} $ENV{LARKMOOR_LICENSES}
+  OUTPUT_VARIABLE missing
+  RESULT_VARIABLE status)
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "The licences can't be copied into ${larkmoor_app}, see the message above")
+endif()
+if(missing)
+  string(STRIP "${missing}" missing)
+  message(WARNING "The bundle can't ship without its licences:\n${missing}")
+endif()
