@@ -76,18 +76,34 @@ is_preset() { grep -q "\"name\": \"$1\"" "$PROJECT/CMakePresets.json"; }
 
 TestLinksLeadSomewhere() {
   # shellcheck disable=SC2046
-  grep -oHE '\]\([^)#:]+' $(documents) | sed 's/:\](/ /' | expect_found "leads nowhere" is_link
+  grep -oHE '\]\([^)#:]+' $(documents) | grep -v '(https*$' | sed 's/:\](/ /' | expect_found "leads nowhere" is_link
 }
 
 # is_link "DOCUMENT TARGET"
 is_link() { [ -e "$(dirname "${1% *}")/${1#* }" ]; }
+
+TestTheReadmeLeadsToEveryDocument() {
+  documents | sed "s|^$PROJECT/||" | grep -v '^README.md$' | expect_found "not in the README" is_in_readme
+}
+
+is_in_readme() { grep -qF "]($1)" "$PROJECT/README.md"; }
+
+# The newest section, "## [1.2.3] - 2030-12-31", is that of the version which is being worked on.
+TestTheChangelogBeginsWithTheProjectsVersion() {
+  local version
+  version=$(sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' "$PROJECT/CMakeLists.txt")
+  expect_equal "$version" "$(sed -n 's/^## \[\(.*\)\] - .*/\1/p' "$PROJECT/CHANGELOG.md" | head -n 1)"
+  ! grep '^## ' "$PROJECT/CHANGELOG.md" |
+    grep -vE '^## \[[0-9]+\.[0-9]+\.[0-9]+\] - ([0-9]{4}-[0-9]{2}-[0-9]{2}|Unreleased)$' ||
+    fail "a section isn't headed by its version and date"
+}
 
 TestLogLinesOfTheReadmeAreInTheSources() {
   # Formats that are broken over two lines are joined.
   find "$PROJECT/src" -name '*.cpp' -exec cat {} + | tr '\n' '\001' |
     sed "s/\"$(printf '\001') *\"//g" | tr '\001' '\n' >sources
   # shellcheck disable=SC2016
-  sed -n '/^| What one sees/,$s/^|[^|]*| `\([^`]*\)`.*/\1/p' "$PROJECT/README.md" |
+  sed -n '/^| Symptom/,$s/^|[^|]*| `\([^`]*\)`.*/\1/p' "$PROJECT/README.md" |
     expect_found "logged nowhere" is_logged
 }
 
