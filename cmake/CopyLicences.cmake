@@ -6,7 +6,7 @@ if(NOT larkmoor_python)
   message(FATAL_ERROR "python3 is missing: run scripts/setup build")
 endif()
 execute_process(
-  COMMAND ${larkmoor_python} ${larkmoor_scripts}/licences.py copy ${larkmoor_app} $ENV{LARKMOOR_LICENSES}
+  COMMAND ${larkmoor_python} ${larkmoor_scripts}/lib/licences.py copy ${larkmoor_app} $ENV{LARKMOOR_LICENSES}
   OUTPUT_VARIABLE missing
   RESULT_VARIABLE status)
 if(NOT status EQUAL 0)

@@ -484,7 +484,7 @@ TestHomebrewsLicencesAreFoundByTheNamesOfTheLibraries() {
   printf '#!/bin/sh\nexit 1\n' >bin/dpkg
   printf '#!/bin/sh\necho "%s/homebrew"\n' "$PWD" >bin/brew
   chmod +x bin/*
-  expect_success env PATH="$PWD/bin:$PATH" python3 "$SCRIPTS/licences.py" copy Larkmoor.app
+  expect_success env PATH="$PWD/bin:$PATH" python3 "$SCRIPTS/lib/licences.py" copy Larkmoor.app
   expect_equal "no licence is found for Contents/Frameworks/liblost.dylib" "$(cat out)"
   cd Larkmoor.app/Contents/Resources/licenses || fail "no licences"
   expect_equal "Contents/Frameworks/QtCore.framework/Versions/5/QtCore: qt@5 5.15.16

@@ -181,6 +181,7 @@ make_stand_ins() {
   ln -s "$BUILD" build/release
   make_client path/to/client/Larkmoor.app 100
   for name in "$SCRIPTS"/*; do
+    [ -f "$name" ] || continue
     name=$(basename "$name")
     case $name in
       make-package | check-bundle | check-catalogues) write_stand_in "scripts/$name" '"$@"' ;;

@@ -6,7 +6,7 @@ import sys
 import xml.etree.ElementTree as ElementTree
 from dataclasses import dataclass, field
 
-ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
+ROOT = os.path.abspath(os.path.join(os.path.dirname(__file__), '..', '..'))
 LOCALISATION = os.path.join(ROOT, 'src', 'localisation')
 CONTEXT = 'global'
 IDENTITY = 'enu'  # the catalogue in which every text translates to itself

@@ -1,9 +1,8 @@
-# What the scripts of this folder share. Sourced, never run; kept to what bash 3.2 understands,
-# since that is the bash a Mac has.
+# What the scripts share. Sourced, never run. Written for bash 3.2, the bash of macOS.
 # shellcheck shell=bash
 set -euo pipefail
 
-PROJECT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
+PROJECT=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
 SELF=$(basename "$0")
 
 say() { printf '== %s\n' "$*"; }
