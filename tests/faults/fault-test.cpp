@@ -47,7 +47,7 @@ enum class Spread {
 struct Point {
   bool sound;
   test::SystemCall call;
-  unsigned number;  ///< among the calls of the same name and path
+  unsigned number;
   Fault const* fault;
   Spread spread;
 };
@@ -142,19 +142,14 @@ class FaultSweep : public testing::Test {
     EXPECT_EQ(std::count_if(run.calls.begin(), run.calls.end(),
                             [](auto const& call) { return call.name == "syncfs"; }),
               sound ? 2 : 1);
-    for (auto i = run.calls.begin(); i != run.calls.end(); ++i) {
-      // The window's icon is read while the worker is at work, so calls are counted by what they
-      // do.
-      auto const number = 1 + std::count_if(run.calls.begin(), i, [&](auto const& call) {
-                            return call.name == i->name && call.path == i->path;
-                          });
+    for (unsigned i = 0; i < run.calls.size(); ++i) {
       for (Fault const& fault : kFaults) {
         if (test::IsShort() && !fault.in_short) continue;
-        if (fault.action == Injection::Action::kShorten && i->name != "write") continue;
+        if (fault.action == Injection::Action::kShorten && run.calls[i].name != "write") continue;
         for (Spread spread : {Spread::kOnce, Spread::kOnwards, Spread::kOnwardsButTheLog}) {
-          bool const spared = i->path.rfind(kLogFolder, 0) == 0;
+          bool const spared = run.calls[i].path.rfind(kLogFolder, 0) == 0;
           if (spread == Spread::kOnwardsButTheLog && spared) continue;
-          points_.push_back({sound, *i, static_cast<unsigned>(number), &fault, spread});
+          points_.push_back({sound, run.calls[i], i + 1, &fault, spread});
         }
       }
     }
@@ -164,7 +159,6 @@ class FaultSweep : public testing::Test {
     Injection injection;
     injection.action = point.fault->action;
     injection.error = point.fault->error;
-    injection.like = point.call;
     injection.at = point.number;
     if (point.spread == Spread::kOnwardsButTheLog) injection.spared = kLogFolder;
     if (point.spread != Spread::kOnce) {

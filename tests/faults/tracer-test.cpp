@@ -101,21 +101,6 @@ TEST_F(TracerTest, LeavesCallsAloneBelowThePathThatIsSpared) {
   EXPECT_EQ(run.hit.path, "watched/file2");
 }
 
-TEST_F(TracerTest, CountsOnlyCallsLikeTheOneThatIsMeant) {
-  std::filesystem::create_directory(folder_ / "watched");
-  Injection injection = Inject(Injection::Action::kFail, 2, EROFS);
-  injection.like.name = "open";
-  injection.like.path = "watched/b";
-  injection.count = 2;
-  test::TracedRun const run =
-      Shell("cd watched; echo > b; echo > a; echo > b; echo > c; echo > c; echo > b", injection);
-  EXPECT_EQ(run.hits, 2U);
-  EXPECT_EQ(run.hit.path, "watched/b");
-  EXPECT_TRUE(std::filesystem::exists(folder_ / "watched/a"));
-  EXPECT_EQ(test::ReadFile(folder_ / "watched/c"), "\n");
-  EXPECT_EQ(test::ReadFile(folder_ / "watched/b"), "\n");
-}
-
 TEST_F(TracerTest, SeesWhatTheProgramsChildrenDoAsNoneOfItsOwn) {
   std::filesystem::create_directory(folder_ / "watched");
   test::TracedRun const run =

@@ -362,11 +362,8 @@ class Tracer {
     if (shape == nullptr || !Describe(stop, *shape, call)) return Resume(pid, 0);
     if (injection_.changes_only && !call.changes) return Resume(pid, 0);
     run_.calls.push_back(call);
-    bool const is_like = injection_.like.name.empty() ||
-                         (call.name == injection_.like.name && call.path == injection_.like.path);
-    if (is_like) ++number_;
-    if (number_ >= injection_.at) ++in_a_row_;
-    bool const is_due = in_a_row_ > 0 && in_a_row_ <= injection_.count &&
+    size_t const number = run_.calls.size();
+    bool const is_due = number >= injection_.at && number - injection_.at < injection_.count &&
                         (injection_.spared.empty() || !IsBelow(injection_.spared, call.path));
     if (!is_due || injection_.action == Injection::Action::kNone) return Resume(pid, 0);
     Inject(pid, stop, *shape, call);
@@ -464,8 +461,6 @@ class Tracer {
   Injection const& injection_;
   TracedRun run_;
   pid_t process_ = 0;
-  unsigned number_ = 0;      ///< of the calls that `at` counts
-  unsigned in_a_row_ = 0;    ///< calls since the first that is due, that one included
   std::set<pid_t> awaited_;  ///< threads that stop once more, at the end of their call
   std::set<pid_t> own_;      ///< the program's threads
   std::set<pid_t> known_;    ///< every task that has stopped once

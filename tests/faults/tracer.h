@@ -31,10 +31,7 @@ struct Injection {
     kShorten      ///< a write writes half; other calls are left alone, and are no hit
   };
   Action action = Action::kNone;
-  unsigned at = 1;  ///< the first call that is hit, counted from 1
-  /// If it has a name, `at` counts only calls of this name and path. Threads that run at the same
-  /// time change places from run to run, so that a number among all calls may mean another one.
-  SystemCall like{};
+  unsigned at = 1;     ///< the first call that is hit, counted from 1
   unsigned count = 1;  ///< how many calls in a row, kOnwards for all
   int error = 0;
   /// Calls on what lies below this path, written as SystemCall::path is, are counted but not hit.
