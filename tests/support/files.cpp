@@ -1,13 +1,16 @@
 #include "support/files.h"
 
 #include <stdlib.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <chrono>
 #include <cstdio>
 #include <fstream>
 #include <iterator>
 #include <ostream>
+#include <random>
 #include <stdexcept>
 #include <system_error>
 
@@ -27,11 +30,18 @@ void MakeRemovable(fs::path const& folder) {
 }  // namespace
 
 TempDir::TempDir() {
-  std::string name = (fs::canonical(fs::temp_directory_path()) / "larkmoor-test-XXXXXX").string();
-  if (mkdtemp(name.data()) == nullptr) {
-    throw std::system_error(errno, std::generic_category(), "mkdtemp " + name);
+  // Not mkdtemp, whose names may hold a K: then there is a second spelling, with the Kelvin sign,
+  // and the launcher looks for it, so that its system calls would depend on the name.
+  std::random_device random;
+  fs::path const folder = fs::canonical(fs::temp_directory_path());
+  int result = 0;
+  do {
+    path_ = folder / ("larkmoor-test-" + std::to_string(random()));
+    result = mkdir(path_.c_str(), 0700);
+  } while (result != 0 && errno == EEXIST);
+  if (result != 0) {
+    throw std::system_error(errno, std::generic_category(), "mkdir " + path_.string());
   }
-  path_ = name;
 }
 
 TempDir::~TempDir() {
