@@ -11,12 +11,21 @@ PROJECT=$(dirname "$SCRIPTS")
 make_bundle() { "$SCRIPTS/make-bundle" --launcher "$BUILD" "$@"; }
 check_bundle() { "$SCRIPTS/check-bundle" "$@"; }
 
-# A bundle of build 7 in the folder "good", with one file whose name is outside ASCII.
+shared=$(mktemp -d "${TMPDIR:-/tmp}/larkmoor-bundle.XXXXXX")
+trap 'rm -rf "$shared"' EXIT
+
+# A bundle of build 7 in the folder "good", with one file whose name is outside ASCII. It is assembled
+# once, and then copied.
 make_good_bundle() {
-  make_client client 7
-  echo text >client/Contents/Resources/über
-  expect_success "$SCRIPTS/make-package" client client.lpk
-  expect_success make_bundle --package client.lpk good/Larkmoor.app
+  if [ ! -d "$shared/whole" ]; then
+    mkdir -p "$shared/made"
+    make_client "$shared/made/client" 7
+    echo text >"$shared/made/client/Contents/Resources/über"
+    expect_success "$SCRIPTS/make-package" "$shared/made/client" "$shared/made/client.lpk"
+    expect_success make_bundle --package "$shared/made/client.lpk" "$shared/made/good/Larkmoor.app"
+    mv "$shared/made" "$shared/whole"
+  fi
+  cp -Rp "$shared/whole/." .
 }
 
 # repack COMMAND...: lets a command change the unpacked package, and packs what is then there in the
@@ -91,6 +100,32 @@ TestInfoCanBeGivenByItself() {
   cmp INFO out.app/Contents/Resources/INFO || fail "another INFO"
 }
 
+TestPathsMayHoldBlanks() {
+  make_good_bundle
+  mkdir "my folder"
+  cp client.lpk "my folder/client 7.lpk"
+  expect_success make_bundle --package "my folder/client 7.lpk" "my folder/Larkmoor 7.app"
+  expect_success check_bundle "my folder/Larkmoor 7.app"
+  expect_equal "Larkmoor 7.app
+client 7.lpk" "$(LC_ALL=C ls -A "my folder")"
+}
+
+TestBundleLiesWhereItIsAskedForWhateverTheInstallationsRoot() {
+  make_good_bundle
+  expect_success env DESTDIR="$PWD/elsewhere" "$SCRIPTS/make-bundle" --launcher "$BUILD" --package client.lpk out.app
+  [ ! -e elsewhere ] || fail "the bundle is elsewhere"
+  expect_success check_bundle out.app
+}
+
+TestFrameWithoutPackageSaysSo() {
+  expect_success make_bundle out.app
+  expect_said "The bundle carries no package"
+}
+
+TestOneBundleIsMade() {
+  expect_failure "'other.app' is a second one" make_bundle out.app other.app
+}
+
 TestFailureLeavesAnOlderBundleAlone() {
   make_good_bundle
   head -c 100 client.lpk >short.lpk
@@ -125,6 +160,55 @@ TestCheckNamesEachMissingFile() {
     in_bundle mv saved $file
   done
   expect_success check_bundle good/Larkmoor.app
+}
+
+TestCheckFindsEmptyIcons() {
+  local file
+  make_good_bundle
+  for file in larkmoor.icns images/ico_72_larkmoor.png; do
+    in_bundle mv Resources/$file saved
+    in_bundle touch Resources/$file
+    expect_failure "the icon Contents/Resources/$file is missing" check_bundle good/Larkmoor.app
+    in_bundle mv saved Resources/$file
+  done
+  in_bundle sed -i.bak 's|<string>larkmoor</string>|<string>empty</string>|' Info.plist
+  in_bundle touch Resources/empty.icns
+  expect_failure "no 'empty', which Info.plist names as CFBundleIconFile" check_bundle good/Larkmoor.app
+}
+
+TestCheckNotesWhatMayBeMeant() {
+  make_good_bundle
+  mkdir good/Larkmoor.app/log && touch good/Larkmoor.app/log/launcher.debug
+  printf '[Version]\nbuild_version=7\n' >good/Larkmoor.app/Contents/Resources/INFO
+  printf '#!/bin/sh\n' >good/Larkmoor.app/Contents/MacOS/launcher
+  expect_success check_bundle good/Larkmoor.app
+  expect_said "note: log/launcher.debug sets log levels"
+  expect_said "note: Contents/Resources/INFO has no major_version"
+  expect_said "note: Contents/Resources/INFO has no minor_version"
+  expect_said "note: Contents/Resources/INFO has no icon_overlay_version"
+  expect_said "note: the package was read with this system's libarchive"
+}
+
+TestCheckLeavesNoTemporaryFiles() {
+  make_good_bundle
+  repack chmod 555 Contents/Resources
+  mkdir temporary
+  expect_failure "can't write" env TMPDIR="$PWD/temporary" "$SCRIPTS/check-bundle" good/Larkmoor.app
+  expect_equal "" "$(ls -A temporary)"
+  chmod 755 unpacked/Contents/Resources
+}
+
+# libarchive runs such a program for what it can't decode itself. The launcher's user has none.
+TestCheckReadsThePackageWithoutOtherPrograms() {
+  make_good_bundle
+  mkdir bin
+  zstd -qdc client.lpk >client.tar
+  printf '#!/bin/sh\nexec cat "%s"\n' "$PWD/client.tar" >bin/lrzip
+  chmod +x bin/lrzip
+  { printf 'LRZI\000\006' && head -c 100 /dev/zero; } >package
+  PATH=$PWD/bin:$PATH expect_success bsdtar -tf package
+  cp package good/Larkmoor.app/Contents/Resources/package/larkmoor.lpk
+  PATH=$PWD/bin:$PATH expect_failure "the package can't be read" check_bundle good/Larkmoor.app
 }
 
 TestCheckFindsLauncherThatCannotBeExecuted() {
@@ -212,6 +296,11 @@ TestCheckFindsPropertyListsThatTheSystemWouldRefuse() {
   expect_failure "doesn't say APPL" check_bundle good/Larkmoor.app
   expect_said "holds no CFBundleIdentifier"
   expect_said "no 'other', which Info.plist names as CFBundleIconFile"
+  in_bundle sed 's/CFBundleShortVersionString/A/; s/CFBundleVersion/B/; s/LSMinimumSystemVersion/C/' \
+    saved >good/Larkmoor.app/Contents/Info.plist
+  expect_failure "holds no CFBundleShortVersionString" check_bundle good/Larkmoor.app
+  expect_said "holds no CFBundleVersion"
+  expect_said "holds no LSMinimumSystemVersion"
 }
 
 TestCheckFindsBuildThatIsNoNumber() {
@@ -387,6 +476,13 @@ TestCheckFindsNamesThatLeadOut() {
   (cd client && bsdtar -czP --format gnutar -f ../good/Larkmoor.app/Contents/Resources/package/larkmoor.lpk \
     Contents ../outside)
   expect_failure '".."' check_bundle good/Larkmoor.app
+}
+
+TestCheckLetsTwoDotsInsideANamePass() {
+  make_client client 7
+  echo text >client/Contents/a..b
+  expect_success "$SCRIPTS/make-package" client client.lpk
+  expect_success make_bundle --package client.lpk out.app
 }
 
 TestCheckFindsNamesThatTheCLocaleCannotConvert() {

@@ -38,6 +38,70 @@ TestOtherFormatsAreTheSameBytesEachTime() {
   done
 }
 
+# In gzip's header, behind its magic, its method and its flags.
+TestGzipNotesNoTime() {
+  make_client client 7
+  expect_success pack --filter gzip client out.lpk
+  expect_equal " 00 00 00 00" "$(od -An -tx1 -j4 -N4 out.lpk | tr -s ' ' | sed 's/ *$//')"
+}
+
+TestEntriesAreOf1980OrOfTheTimeThatIsGiven() {
+  make_client client 7
+  expect_success pack client out.lpk
+  expect_equal 315532800 "$(times_in out.lpk)"
+  expect_success env SOURCE_DATE_EPOCH=1000000000 "$SCRIPTS/make-package" client out.lpk
+  expect_equal 1000000000 "$(times_in out.lpk)"
+}
+
+# The times of a package's entries, in seconds since 1970.
+times_in() {
+  bsdtar -cf - --format mtree --options '!all,time' "@$1" | sed -n 's/.*time=\([0-9]*\).*/\1/p' | sort -u
+}
+
+TestPathsMayHoldBlanks() {
+  make_client "my client/Larkmoor 2.app" 7
+  mkdir "the packages" "temporary files"
+  expect_success env TMPDIR="$PWD/temporary files" \
+    "$SCRIPTS/make-package" "my client/Larkmoor 2.app" "the packages/out 2.lpk"
+  expect_equal 5 "$(names "the packages/out 2.lpk" | wc -l | tr -d ' ')"
+  expect_equal "out 2.lpk" "$(ls "the packages")"
+}
+
+TestLeavesNoTemporaryFiles() {
+  make_client client 7
+  mkdir temporary
+  expect_success env TMPDIR="$PWD/temporary" "$SCRIPTS/make-package" client out.lpk
+  ln -s /etc client/Contents/out
+  expect_failure "outside the bundle" env TMPDIR="$PWD/temporary" "$SCRIPTS/make-package" client out.lpk
+  expect_equal "" "$(ls -A temporary)"
+}
+
+TestQuietSaysNothing() {
+  make_client client 7
+  expect_success pack --quiet client out.lpk
+  expect_equal "" "$(cat out err)"
+}
+
+TestOneFolderAndOnePackageAreWanted() {
+  make_client client 7
+  expect_failure "give the client's bundle and the name" pack client
+  expect_failure "give the client's bundle and the name" pack client out.lpk more.lpk
+}
+
+# As the launcher does: the last value of a key counts, and quotes and a carriage return are no part
+# of it.
+TestReadsTheBuildInAnyForm() {
+  make_client client 7
+  local text
+  for text in 'build_version=7\nbuild_version=8' 'build_version="8"' 'build_version = 8\r' \
+    '[Other]\nbuild_version=9\n[Version]\r\nbuild_version=8\r'; do
+    printf '[Version]\n%b\n' "$text" >client/Contents/Resources/INFO
+    expect_success pack client out.lpk
+    expect_said "build 8"
+    expect_not_said "warning"
+  done
+}
+
 TestChangedByteGivesOtherBytes() {
   make_client client 7
   expect_success pack client first.lpk
@@ -105,12 +169,14 @@ TestFiltersByName() {
 
 TestDefaultFilterIsZstdWithAWindowThatTheLauncherCanAfford() {
   make_client client 7
-  seq 1 800000 >client/Contents/numbers
+  # More than the window, and compressed at once at any level.
+  head -c 6000000 /dev/zero >client/Contents/zeros
   local level window
   for level in "" 1 19 22; do
     expect_success pack ${level:+--level $level} client out.lpk
     zstd -lv out.lpk >list 2>&1 || fail "that is no zstd" "$(cat list)"
     window=$(sed -n 's/^Window Size:.*(\([0-9]*\) B)$/\1/p' list)
+    [ -z "$(cat err)" ] || fail "level $level: $(cat err)"
     [ "$window" -le 4194304 ] || fail "level $level: the window has $window bytes"
     grep -q '^Check: XXH64' list || fail "level $level: there is no checksum" "$(cat list)"
   done
@@ -130,6 +196,7 @@ TestLevelMakesAPackageSmallerOrLarger() {
 TestLevelThatThereIsNotIsNamed() {
   make_client client 7
   expect_failure "'high' is no level" pack --level high client out.lpk
+  expect_failure "'x9' is no level" pack --level x9 client out.lpk
   expect_failure "zstd has no level 23" pack --level 23 client out.lpk
   expect_failure "zstd has no level 0" pack --level 0 client out.lpk
   expect_failure "with the filter xz at level 77" pack --filter xz --level 77 client out.lpk
@@ -206,6 +273,9 @@ TestRefusesLinksOutOfTheTree() {
   ln -s ../../outside client/Contents/relative
   expect_failure "leads to '../../outside', outside the bundle" pack client out.lpk
   rm client/Contents/relative
+  ln -s ./../../outside client/Contents/dotted
+  expect_failure "leads to './../../outside', outside the bundle" pack client out.lpk
+  rm client/Contents/dotted
   ln -s Resources/../../Contents/Resources/INFO client/Contents/inside
   expect_success pack client out.lpk
 }
@@ -264,6 +334,21 @@ TestRefusesAFolderThatCannotBeRead() {
   fi
 }
 
+TestRefusesAFileThatCannotBeRead() {
+  make_client client 7
+  echo text >client/Contents/closed
+  chmod 0 client/Contents/closed
+  if [ "$(id -u)" = 0 ]; then
+    skip_without setpriv
+    cp -R "$SCRIPTS" scripts
+    chmod 755 . && mkdir -m 777 place
+    expect_failure "'Contents/closed' can't be read" setpriv --reuid 65534 --clear-groups \
+      env TMPDIR="$PWD/place" scripts/make-package client place/out.lpk
+  else
+    expect_failure "'Contents/closed' can't be read" pack client out.lpk
+  fi
+}
+
 TestRefusesWhatIsNoFileFolderOrLink() {
   make_client client 7
   mkfifo client/Contents/pipe
@@ -292,6 +377,12 @@ TestBuildThatIsNoNumberWarns() {
   make_client client 2147483648
   expect_success pack client out.lpk
   expect_said "holds no number from 0 to 2147483647"
+  make_client client 18446744073709551617
+  expect_success pack client out.lpk
+  expect_said "holds no number from 0 to 2147483647"
+  make_client client 08
+  expect_success pack client out.lpk
+  expect_not_said "warning"
   make_client client 2147483647
   expect_success pack client out.lpk
   expect_not_said "warning"
