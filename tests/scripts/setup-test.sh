@@ -146,8 +146,9 @@ TestEveryScriptExplainsItself() {
 
 TestTestRefusesUnknownModesAndStrayWords() {
   expect_failure "there is no mode 'quick'" "$SCRIPTS/test" -n quick
-  expect_failure "is no number of seconds" "$SCRIPTS/test" -n fuzz soon
-  expect_failure "only the mode fuzz" "$SCRIPTS/test" -n asan 60
+  expect_failure "is no number" "$SCRIPTS/test" -n fuzz soon
+  expect_failure "the mode asan takes no number '60'" "$SCRIPTS/test" -n asan 60
+  expect_failure "the mode mutants takes no number '3'" "$SCRIPTS/test" -n mutants 1 2 3
 }
 
 # copy_with_fakes [COMMAND]: a copy of the project's scripts whose tools do nothing. ctest writes down
