@@ -112,7 +112,7 @@ class RealRuns(unittest.TestCase):
             'build 100 -> 100, nothing to upgrade',
             'build 100 -> 101, the new client is installed',
             'build 101 -> 102, the upgrade failed, and the old client was put back'])
-        self.assertIn('Meaning: What was unpacked is removed and the old installation put back.',
+        self.assertIn('Meaning: The unpacked part is removed and the old installation put back.',
                       said)
         self.assertNotIn('?', said)
 
@@ -172,7 +172,7 @@ class MadeLogs(unittest.TestCase):
                          'return\n' + DONE)
         self.assertEqual(len(titles(said)), 2)
         self.assertIn(', 2 s,', titles(said)[0])
-        self.assertIn('another launcher was at work', titles(said)[1])
+        self.assertIn('another launcher was running', titles(said)[1])
 
     def test_parts_starts_by_a_pause_where_no_record_says_it(self):
         error = 'Nov 21 %s [ERROR] launcher(99): Failed to upgrade package\n'
