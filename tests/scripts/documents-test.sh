@@ -82,6 +82,19 @@ TestLinksLeadSomewhere() {
 # is_link "DOCUMENT TARGET"
 is_link() { [ -e "$(dirname "${1% *}")/${1#* }" ]; }
 
+TestLinksToHeadingsLeadToOne() {
+  # shellcheck disable=SC2046
+  grep -oHE '\]\([^)#:]*#[^)]+' $(documents) | sed 's/:\](/ /' | expect_found "no such heading" is_heading
+}
+
+# is_heading "DOCUMENT TARGET#HEADING", the heading as GitHub writes it in a link.
+is_heading() {
+  local document=${1% *} target=${1#* } file
+  file=${target%%#*}
+  if [ -n "$file" ]; then document=$(dirname "$document")/$file; fi
+  sed -n 's/^##* //p' "$document" | tr '[:upper:] ' '[:lower:]-' | tr -d "'\`,.:" | grep -qxF "${target#*#}"
+}
+
 TestTheReadmeLeadsToEveryDocument() {
   documents | sed "s|^$PROJECT/||" | grep -v '^README.md$' | expect_found "not in the README" is_in_readme
 }
