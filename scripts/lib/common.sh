@@ -14,7 +14,7 @@ die() {
   exit 1
 }
 
-# The comment that heads a script is its help.
+# The comment at the top of a script is its help text.
 show_help() { awk 'NR > 1 { if (!/^#/) exit; sub(/^# ?/, ""); print }' "$0"; }
 
 have() { command -v "$1" >/dev/null 2>&1; }
@@ -31,10 +31,10 @@ wait_until() {
   done
 }
 
-# Whether a window manager is at work on $DISPLAY.
+# Whether a window manager runs on $DISPLAY.
 manager_runs() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
 
-# Number of parallel jobs: LARKMOOR_JOBS, else one for each core.
+# Number of parallel jobs: LARKMOOR_JOBS, or one per core.
 jobs_wanted() {
   if [ -n "${LARKMOOR_JOBS:-}" ]; then
     printf '%s\n' "$LARKMOOR_JOBS"
@@ -45,7 +45,7 @@ jobs_wanted() {
   fi
 }
 
-# configure_preset PRESET: configures build/PRESET, through ccache where it is installed.
+# configure_preset PRESET: configures build/PRESET, with ccache if it is installed.
 configure_preset() {
   if [ -z "${CMAKE_CXX_COMPILER_LAUNCHER:-}" ] && have ccache; then
     export CMAKE_CXX_COMPILER_LAUNCHER=ccache
@@ -54,7 +54,7 @@ configure_preset() {
   (cd "$PROJECT" && cmake --preset "$1" -Wno-dev >"$PROJECT/build/$1.configure.log" 2>&1) || {
     cat "$PROJECT/build/$1.configure.log" >&2
     die "CMake can't configure build/$1, see above. If a package is missing, run scripts/setup;" \
-      "if the folder is from another checkout, remove build/$1."
+      "if the folder belongs to another checkout, remove build/$1."
   }
 }
 
@@ -67,11 +67,11 @@ build_preset() {
   configure_preset "$preset"
   say "Building build/$preset"
   cmake --build "$PROJECT/build/$preset" -j "$(jobs_wanted)" ${targets[@]+"${targets[@]}"} ||
-    die "the build of build/$preset failed, see the compiler's message above"
+    die "can't build build/$preset, see the message above"
 }
 
-# keep_out_of_home FOLDER: lets Qt and fontconfig keep there what they would in the home, or in /tmp
-# for a session without a folder of its own. Call it behind a build: ccache's cache stays where it is.
+# keep_out_of_home FOLDER: makes Qt and fontconfig use this folder instead of the home, or of /tmp in a
+# session without a runtime folder. Call it after building, because ccache must not move.
 keep_out_of_home() {
   export XDG_CACHE_HOME=$1/cache
   if [ -z "${XDG_RUNTIME_DIR:-}" ]; then
@@ -81,7 +81,7 @@ keep_out_of_home() {
   fi
 }
 
-# version_value INFO KEY: the value of a key in the group "Version", empty without one.
+# version_value INFO KEY: the value of a key in the group "Version", or nothing.
 version_value() {
   awk -v key="$2" '
     { sub(/\r$/, "") }
@@ -96,7 +96,7 @@ version_value() {
     END { print found }' "$1"
 }
 
-# leads_out PATH TARGET: whether the text of a link at this place of a bundle leads out of it.
+# leads_out PATH TARGET: whether a symlink at this path of a bundle leads out of it.
 leads_out() {
   local rest part depth
   case $2 in /*) return 0 ;; esac
@@ -116,25 +116,25 @@ leads_out() {
   return 1
 }
 
-# Builds are compared as numbers of 32 bits.
+# The launcher compares builds as signed 32-bit numbers.
 readonly GREATEST_BUILD=2147483647
 
-# is_build TEXT: whether the launcher reads the text as the number that it shows.
+# is_build STRING: whether the launcher parses the string as the number that it shows.
 is_build() {
   case $1 in "" | *[!0-9]* | ???????????*) return 1 ;; esac
   [ $((10#$1)) -le $GREATEST_BUILD ]
 }
 
-# The tar of libarchive: "bsdtar" on Debian, both names on a Mac.
+# libarchive's tar: "bsdtar" on Debian, both names on macOS.
 bsdtar_name() {
   if have bsdtar; then
     echo bsdtar
   elif on_mac; then
     echo tar
   else
-    die "bsdtar is missing: install Debian's libarchive-tools, or run scripts/setup test"
+    die "bsdtar is missing: run scripts/setup test"
   fi
 }
 
-# A locale in which names can be converted to and from UTF-8.
+# A locale that can convert names to and from UTF-8.
 utf8_locale() { if on_mac; then echo en_US.UTF-8; else echo C.UTF-8; fi; }

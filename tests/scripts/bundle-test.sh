@@ -93,7 +93,7 @@ TestInfoCanBeGivenByItself() {
   make_client client 7
   expect_success "$SCRIPTS/make-package" client client.lpk
   printf '[Version]\nbuild_version=8\n' >INFO
-  expect_failure "INFO in the bundle says build '8', INFO in the package '7'" \
+  expect_failure "INFO in the bundle has build '8', INFO in the package '7'" \
     make_bundle --package client.lpk --info INFO out.app
   [ ! -e out.app ] || fail "a bundle that isn't fit to ship was left behind"
   expect_success make_bundle --no-check --package client.lpk --info INFO out.app
@@ -136,18 +136,18 @@ TestFailureLeavesAnOlderBundleAlone() {
 
 TestRefusesToReplaceWhatIsNoBundle() {
   mkdir photos
-  expect_failure "is no bundle" make_bundle photos
+  expect_failure "isn't a bundle" make_bundle photos
   [ -d photos ] || fail "the folder is gone"
 }
 
 TestRefusesAPlaceThatCannotBeWritten() {
   echo text >file
-  expect_failure "give another place for the bundle" make_bundle file/Larkmoor.app
+  expect_failure "choose another folder for the bundle" make_bundle file/Larkmoor.app
 }
 
 TestRefusesMissingPackageAndBuild() {
   expect_failure "there is no file 'none.lpk'" make_bundle --package none.lpk out.app
-  expect_failure "is no build folder" "$SCRIPTS/make-bundle" --launcher . out.app
+  expect_failure "isn't a build folder" "$SCRIPTS/make-bundle" --launcher . out.app
 }
 
 TestCheckNamesEachMissingFile() {
@@ -208,7 +208,7 @@ TestCheckReadsThePackageWithoutOtherPrograms() {
   { printf 'LRZI\000\006' && head -c 100 /dev/zero; } >package
   PATH=$PWD/bin:$PATH expect_success bsdtar -tf package
   cp package good/Larkmoor.app/Contents/Resources/package/larkmoor.lpk
-  PATH=$PWD/bin:$PATH expect_failure "the package can't be read" check_bundle good/Larkmoor.app
+  PATH=$PWD/bin:$PATH expect_failure "can't read the package" check_bundle good/Larkmoor.app
 }
 
 TestCheckFindsLauncherThatCannotBeExecuted() {
@@ -234,7 +234,7 @@ TestCheckFindsLibrariesThatAreMissingHere() {
     rm -rf client client.lpk good
     make_good_bundle
     in_bundle sed -i.bak -E "s/($library\.so\.)[0-9]/\19/" MacOS/launcher
-    expect_failure "needs libraries that this system doesn't have" check_bundle good/Larkmoor.app
+    expect_failure "needs libraries that this system lacks" check_bundle good/Larkmoor.app
     expect_said "$library.so.9"
   done
 }
@@ -259,7 +259,7 @@ with open(sys.argv[2], "wb") as file:
 END
   in_bundle sed -i.bak "s/$name/$other/" MacOS/launcher
   expect_success env LD_LIBRARY_PATH="$PWD/lib" bsdtar -tf client.lpk
-  expect_failure "the package can't be read by the launcher's libarchive (bsdtar: Error opening archive: Unrecognized" \
+  expect_failure "the launcher's libarchive can't read the package (bsdtar: Error opening archive: Unrecognized" \
     env LD_LIBRARY_PATH="$PWD/lib" "$SCRIPTS/check-bundle" good/Larkmoor.app
 }
 
@@ -269,7 +269,7 @@ TestCheckFindsLibrariesThatAreMissingUnderAnotherOne() {
   library=$(sed -n 's/^LibArchive_LIBRARY:FILEPATH=//p' "$BUILD/CMakeCache.txt")
   name=$(ldd "$library" | grep -o 'libxml2[^ ]*' | head -n 1)
   mkdir lib && : >"lib/$name"
-  expect_failure "Contents/MacOS/launcher needs libraries that this system doesn't have" \
+  expect_failure "Contents/MacOS/launcher needs libraries that this system lacks" \
     env LD_LIBRARY_PATH="$PWD/lib" "$SCRIPTS/check-bundle" good/Larkmoor.app
   expect_said "lib/$name"
 }
@@ -290,12 +290,12 @@ TestCheckFindsPropertyListsThatTheSystemWouldRefuse() {
   make_good_bundle
   in_bundle cp Info.plist saved
   in_bundle sed -i.bak 's|</dict>||' Info.plist
-  expect_failure "Info.plist is no property list" check_bundle good/Larkmoor.app
+  expect_failure "Info.plist isn't a property list" check_bundle good/Larkmoor.app
   in_bundle sed 's|APPL<|BNDL<|; s|com.larkmoor.drive.launcher||; s|<string>larkmoor</string>|<string>other</string>|' \
     saved >good/Larkmoor.app/Contents/Info.plist
-  expect_failure "doesn't say APPL" check_bundle good/Larkmoor.app
-  expect_said "holds no CFBundleIdentifier"
-  expect_said "no 'other', which Info.plist names as CFBundleIconFile"
+  expect_failure "CFBundlePackageType in Info.plist isn't APPL" check_bundle good/Larkmoor.app
+  expect_said "has no CFBundleIdentifier"
+  expect_said "no 'other', the CFBundleIconFile of Info.plist"
   in_bundle sed 's/CFBundleShortVersionString/A/; s/CFBundleVersion/B/; s/LSMinimumSystemVersion/C/' \
     saved >good/Larkmoor.app/Contents/Info.plist
   expect_failure "holds no CFBundleShortVersionString" check_bundle good/Larkmoor.app
@@ -308,7 +308,7 @@ TestCheckFindsBuildThatIsNoNumber() {
   in_bundle sed -i.bak 's/build_version=7/build_version=7b/' Resources/INFO
   expect_failure "'7b'" check_bundle good/Larkmoor.app
   in_bundle sed -i.bak 's/build_version=7b/build_version=2147483648/' Resources/INFO
-  expect_failure "no number from 0 to 2147483647" check_bundle good/Larkmoor.app
+  expect_failure "isn't a number from 0 to 2147483647" check_bundle good/Larkmoor.app
   in_bundle sed -i.bak '/build_version/d' Resources/INFO
   expect_failure "has no build_version" check_bundle good/Larkmoor.app
 }
@@ -317,9 +317,9 @@ TestCheckFindsTruncatedAndDamagedPackages() {
   local package=good/Larkmoor.app/Contents/Resources/package/larkmoor.lpk
   make_good_bundle
   head -c $(($(wc -c <client.lpk) / 2)) client.lpk >$package
-  expect_failure "the package can't be read" check_bundle good/Larkmoor.app
+  expect_failure "can't read the package" check_bundle good/Larkmoor.app
   echo "this is no archive" >$package
-  expect_failure "the package can't be read" check_bundle good/Larkmoor.app
+  expect_failure "can't read the package" check_bundle good/Larkmoor.app
   : >$package
   expect_failure "missing or empty" check_bundle good/Larkmoor.app
 }
@@ -348,7 +348,7 @@ TestCheckFindsClientInThePackageThatCannotBeExecuted() {
   make_good_bundle
   repack chmod -x Contents/MacOS/larkmoor-drive-ui
   repack_in_order
-  expect_failure "can't be executed" check_bundle good/Larkmoor.app
+  expect_failure "isn't executable" check_bundle good/Larkmoor.app
   chmod +x unpacked/Contents/MacOS/larkmoor-drive-ui
   repack_in_order
   expect_success check_bundle good/Larkmoor.app
@@ -367,28 +367,28 @@ repack_twice() {
 TestCheckGoesByTheLastEntryOfTheExecutablesName() {
   make_good_bundle
   repack_twice 755 644
-  expect_failure "can't be executed" check_bundle good/Larkmoor.app
+  expect_failure "isn't executable" check_bundle good/Larkmoor.app
   repack_twice 644 755
   check_bundle good/Larkmoor.app >out 2>err
-  expect_not_said "can't be executed"
+  expect_not_said "isn't executable"
 }
 
 TestCheckFollowsAnExecutableThatIsALink() {
   make_good_bundle
   repack sh -c 'cd Contents/MacOS && mv larkmoor-drive-ui real && ln -s real larkmoor-drive-ui'
   check_bundle good/Larkmoor.app >out 2>err
-  expect_not_said "can't be executed"
+  expect_not_said "isn't executable"
   repack chmod 644 Contents/MacOS/real
-  expect_failure "can't be executed" check_bundle good/Larkmoor.app
+  expect_failure "isn't executable" check_bundle good/Larkmoor.app
   repack rm Contents/MacOS/real
-  expect_failure "can't be executed" check_bundle good/Larkmoor.app
+  expect_failure "isn't executable" check_bundle good/Larkmoor.app
 }
 
 TestCheckIsNotMisledByAnotherPathThatEndsInTheSameWay() {
   make_good_bundle
   repack sh -c 'mkdir -p "old Contents/MacOS" && cp Contents/MacOS/* "old Contents/MacOS" &&
     chmod 644 Contents/MacOS/larkmoor-drive-ui'
-  expect_failure "can't be executed" check_bundle good/Larkmoor.app
+  expect_failure "isn't executable" check_bundle good/Larkmoor.app
 }
 
 # What has no modes unpacks with those that libarchive makes up.
@@ -405,7 +405,7 @@ TestCheckFindsFormatsThatCarryNoExecutableBit() {
   for format in joliet cab windows-zip; do
     cp $format $package
     expect_failure "in a format that has modes" check_bundle good/Larkmoor.app
-    expect_not_said "can't be read"
+    expect_not_said "can't read"
     expect_not_said "has no Contents"
   done
 }
@@ -413,7 +413,7 @@ TestCheckFindsFormatsThatCarryNoExecutableBit() {
 TestCheckFindsFoldersThatTheirOwnerCannotWrite() {
   make_good_bundle
   repack chmod 555 Contents/Resources
-  expect_failure "folders that their owner can't write" check_bundle good/Larkmoor.app
+  expect_failure "folders that aren't writable" check_bundle good/Larkmoor.app
   chmod 755 unpacked/Contents/Resources
 }
 
@@ -463,11 +463,11 @@ TestCheckFindsLinksThatLeadOut() {
   make_good_bundle
   repack ln -s ../Resources/INFO Contents/MacOS/inside
   expect_failure "doesn't end with" check_bundle good/Larkmoor.app
-  expect_not_said "leads to"
+  expect_not_said "points to"
   repack ln -s ../../../elsewhere Contents/MacOS/out
-  expect_failure "leads to '../../../elsewhere', outside" check_bundle good/Larkmoor.app
+  expect_failure "points to '../../../elsewhere', outside" check_bundle good/Larkmoor.app
   repack ln -s /etc Contents/MacOS/absolute
-  expect_failure "leads to '/etc', outside" check_bundle good/Larkmoor.app
+  expect_failure "points to '/etc', outside" check_bundle good/Larkmoor.app
 }
 
 TestCheckFindsNamesThatLeadOut() {
@@ -489,7 +489,7 @@ TestCheckFindsNamesThatTheCLocaleCannotConvert() {
   make_good_bundle
   expect_success "$SCRIPTS/make-package" --format pax client pax.lpk
   cp pax.lpk good/Larkmoor.app/Contents/Resources/package/larkmoor.lpk
-  expect_failure "the package can't be read" check_bundle good/Larkmoor.app
+  expect_failure "can't read the package" check_bundle good/Larkmoor.app
 }
 
 # The name of what a library of the bundle is from.

@@ -84,8 +84,8 @@ TestQuietSaysNothing() {
 
 TestOneFolderAndOnePackageAreWanted() {
   make_client client 7
-  expect_failure "give the client's bundle and the name" pack client
-  expect_failure "give the client's bundle and the name" pack client out.lpk more.lpk
+  expect_failure "name the client's bundle and the package" pack client
+  expect_failure "name the client's bundle and the package" pack client out.lpk more.lpk
 }
 
 # As the launcher does: the last value of a key counts, and quotes and a carriage return are no part
@@ -195,8 +195,8 @@ TestLevelMakesAPackageSmallerOrLarger() {
 
 TestLevelThatThereIsNotIsNamed() {
   make_client client 7
-  expect_failure "'high' is no level" pack --level high client out.lpk
-  expect_failure "'x9' is no level" pack --level x9 client out.lpk
+  expect_failure "'high' isn't a level" pack --level high client out.lpk
+  expect_failure "'x9' isn't a level" pack --level x9 client out.lpk
   expect_failure "zstd has no level 23" pack --level 23 client out.lpk
   expect_failure "zstd has no level 0" pack --level 0 client out.lpk
   expect_failure "with the filter xz at level 77" pack --filter xz --level 77 client out.lpk
@@ -229,7 +229,7 @@ TestFormatWithAnOrderOfItsOwnWarns() {
   make_client client 7
   : >client/Contents/empty
   expect_success pack --format 7zip client out.lpk
-  expect_said "doesn't keep INFO for the end"
+  expect_said "so INFO isn't the last"
 }
 
 TestRefusesFolderWithoutExecutable() {
@@ -253,16 +253,16 @@ TestRefusesFolderWithoutInfo() {
 
 TestRefusesTheInsideOfContents() {
   make_client client 7
-  expect_failure "give the folder that holds Contents" pack client/Contents out.lpk
+  expect_failure "name the folder that has Contents" pack client/Contents out.lpk
 }
 
 TestRefusesMissingFolder() {
-  expect_failure "is no folder" pack client out.lpk
+  expect_failure "isn't a folder" pack client out.lpk
 }
 
 TestRefusesToPackItselfIn() {
   make_client client 7
-  expect_failure "can't lie inside the folder" pack client client/Contents/out.lpk
+  expect_failure "can't be in the folder" pack client client/Contents/out.lpk
 }
 
 TestRefusesLinksOutOfTheTree() {
@@ -271,10 +271,10 @@ TestRefusesLinksOutOfTheTree() {
   expect_failure "make it relative" pack client out.lpk
   rm client/Contents/absolute
   ln -s ../../outside client/Contents/relative
-  expect_failure "leads to '../../outside', outside the bundle" pack client out.lpk
+  expect_failure "points to '../../outside', outside the bundle" pack client out.lpk
   rm client/Contents/relative
   ln -s ./../../outside client/Contents/dotted
-  expect_failure "leads to './../../outside', outside the bundle" pack client out.lpk
+  expect_failure "points to './../../outside', outside the bundle" pack client out.lpk
   rm client/Contents/dotted
   ln -s Resources/../../Contents/Resources/INFO client/Contents/inside
   expect_success pack client out.lpk
@@ -297,14 +297,14 @@ TestRefusesNamesThatAMacCannotUnpack() {
   rm client/Contents/latin*
   echo x >client/Contents/Read
   echo x >client/Contents/READ
-  expect_failure "differ in nothing but case" pack client out.lpk
+  expect_failure "differ only in case" pack client out.lpk
   rm client/Contents/READ
   echo x >client/Contents/Über
   echo x >client/Contents/über
-  expect_failure "differ in nothing but case" pack client out.lpk
+  expect_failure "differ only in case" pack client out.lpk
   rm client/Contents/Über
   echo x >client/Contents/$'u\xcc\x88ber'
-  expect_failure "differ in nothing but case" pack client out.lpk
+  expect_failure "differ only in case" pack client out.lpk
   rm client/Contents/*ber
   echo x >client/Contents/._Read
   expect_failure "metadata of another file" pack client out.lpk
@@ -313,8 +313,8 @@ TestRefusesNamesThatAMacCannotUnpack() {
 TestRefusesAFolderAsThePackagesName() {
   make_client client 7
   mkdir folder
-  expect_failure "is no name for the package" pack client folder
-  expect_failure "is no name for the package" pack client ""
+  expect_failure "can't be the package" pack client folder
+  expect_failure "can't be the package" pack client ""
   expect_equal "" "$(ls -A folder)"
 }
 
@@ -326,10 +326,10 @@ TestRefusesAFolderThatCannotBeRead() {
     skip_without setpriv
     cp -R "$SCRIPTS" scripts
     chmod 755 . && mkdir -m 777 place
-    expect_failure "change the mode or remove" setpriv --reuid 65534 --clear-groups \
+    expect_failure "change the mode, or remove" setpriv --reuid 65534 --clear-groups \
       env TMPDIR="$PWD/place" scripts/make-package client place/out.lpk
   else
-    expect_failure "change the mode or remove" pack client out.lpk
+    expect_failure "change the mode, or remove" pack client out.lpk
     chmod 755 client/Contents/closed
   fi
 }
@@ -342,22 +342,22 @@ TestRefusesAFileThatCannotBeRead() {
     skip_without setpriv
     cp -R "$SCRIPTS" scripts
     chmod 755 . && mkdir -m 777 place
-    expect_failure "'Contents/closed' can't be read" setpriv --reuid 65534 --clear-groups \
+    expect_failure "'Contents/closed' isn't readable" setpriv --reuid 65534 --clear-groups \
       env TMPDIR="$PWD/place" scripts/make-package client place/out.lpk
   else
-    expect_failure "'Contents/closed' can't be read" pack client out.lpk
+    expect_failure "'Contents/closed' isn't readable" pack client out.lpk
   fi
 }
 
 TestRefusesWhatIsNoFileFolderOrLink() {
   make_client client 7
   mkfifo client/Contents/pipe
-  expect_failure "neither file, folder nor link" pack client out.lpk
+  expect_failure "neither a file nor a folder nor a symlink" pack client out.lpk
 }
 
 TestUnknownFormatAndFilterAreNamed() {
   make_client client 7
-  expect_failure "can't write this as tarball" pack --format tarball client out.lpk
+  expect_failure "can't write the format tarball" pack --format tarball client out.lpk
   expect_failure "with the filter squeeze" pack --filter squeeze client out.lpk
 }
 
@@ -373,13 +373,13 @@ TestFailureLeavesAnOlderPackageAlone() {
 TestBuildThatIsNoNumberWarns() {
   make_client client seven
   expect_success pack client out.lpk
-  expect_said "as build_version under [Version]: the launcher takes"
+  expect_said "under [Version]: the launcher would read"
   make_client client 2147483648
   expect_success pack client out.lpk
-  expect_said "holds no number from 0 to 2147483647"
+  expect_said "has no build_version from 0 to 2147483647"
   make_client client 18446744073709551617
   expect_success pack client out.lpk
-  expect_said "holds no number from 0 to 2147483647"
+  expect_said "has no build_version from 0 to 2147483647"
   make_client client 08
   expect_success pack client out.lpk
   expect_not_said "warning"

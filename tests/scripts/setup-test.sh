@@ -106,7 +106,7 @@ TestSaysWhatAUserWithoutSudoLacks() {
   fake dpkg-query 'case "$*" in *cmake*) exit 1 ;; esac; echo installed'
   fake id 'echo 1000'
   fake apt-get 'echo called >>calls'
-  expect_failure "installing them needs root: cmake. Run this as root" setup build
+  expect_failure "installing packages needs root: run this as root, or have these installed: cmake" setup build
   [ ! -e calls ] || fail "apt-get was called"
 }
 
@@ -132,7 +132,7 @@ TestDryRunInstallsNothing() {
 }
 
 TestRefusesUnknownGroup() {
-  expect_failure "there is no group 'kitchen'" "$SCRIPTS/setup" kitchen
+  expect_failure "unknown group 'kitchen'" "$SCRIPTS/setup" kitchen
 }
 
 TestEveryScriptExplainsItself() {
@@ -145,8 +145,8 @@ TestEveryScriptExplainsItself() {
 }
 
 TestTestRefusesUnknownModesAndStrayWords() {
-  expect_failure "there is no mode 'quick'" "$SCRIPTS/test" -n quick
-  expect_failure "is no number" "$SCRIPTS/test" -n fuzz soon
+  expect_failure "unknown mode 'quick'" "$SCRIPTS/test" -n quick
+  expect_failure "isn't a number" "$SCRIPTS/test" -n fuzz soon
   expect_failure "the mode asan takes no number '60'" "$SCRIPTS/test" -n asan 60
   expect_failure "the mode mutants takes no number '3'" "$SCRIPTS/test" -n mutants 1 2 3
 }
@@ -182,7 +182,7 @@ TestTestPrintsTheFiguresOfTheSweepsThatRan() {
 TestTestEndsWellWhereTheSelectionLeavesNoFigures() {
   copy_with_fakes
   expect_success test_copy faults -- -R ManyStarts
-  expect_not_said "What the sweeps met"
+  expect_not_said "Figures of the sweeps"
 }
 
 # The fake ctest leaves the file "log" as its own.
