@@ -30,7 +30,7 @@ class Message:
     note: str = ''  # the translator's comment
     context: str = CONTEXT
     comment: str = ''
-    is_plain: bool = True  # no plural or length forms, which the program has no use for
+    is_plain: bool = True  # no plural or length forms, which the program never uses
 
     @property
     def is_finished(self):
@@ -55,7 +55,7 @@ def _unescape(match):
 
 
 def read_rows(path):
-    """The rows of str-table-rows.inc in id order."""
+    """The rows of str-table-rows.inc in the order of their ids."""
     rows = []
     with open(path, encoding='utf-8') as file:
         for number, line in enumerate(file, 1):
@@ -70,7 +70,7 @@ def read_rows(path):
 
 
 def rows_by_text(rows):
-    """The rows under each different text, in the order in which the texts first occur."""
+    """The rows of each distinct text, in order of first occurrence."""
     groups = {}
     for row in rows:
         groups.setdefault(row.text, []).append(row)
@@ -81,11 +81,11 @@ def _parse(path):
     try:
         return ElementTree.parse(path).getroot()
     except ElementTree.ParseError as error:
-        raise ValueError(f'{path} is no sound XML: {error}') from error
+        raise ValueError(f'{path} is not well-formed XML: {error}') from error
 
 
 def read_names(qrc):
-    """The catalogue names that the resource file lists, in its order."""
+    """The names of the catalogues in the resource file, in its order."""
     files = _parse(qrc).iter('file')
     return [os.path.splitext(os.path.basename(file.text))[0] for file in files]
 
@@ -120,11 +120,10 @@ def _escape(text):
 
 
 def write_catalogue(path, groups, messages):
-    """Writes a catalogue of all texts from the messages by source. A text without a translation is
-    left unfinished.
+    """Writes a catalogue of all texts; `messages` is by source. A text without a translation is unfinished.
 
-    There is no language attribute on purpose: the compiled catalogue would get a language record
-    and plural rules from it.
+    It has no language attribute, which would add a language record and plural rules to the compiled
+    catalogue.
     """
     out = ['<?xml version="1.0" encoding="utf-8"?>', '<!DOCTYPE TS>', '<TS version="2.1">',
            '<context>', f'    <name>{CONTEXT}</name>']
@@ -140,14 +139,14 @@ def write_catalogue(path, groups, messages):
         out += [f'        <translation{kind}>{_escape(message.translation)}</translation>',
                 '    </message>']
     out += ['</context>', '</TS>', '']
-    # Renamed into place: hours of a translator's work stand in the old file.
+    # Renamed into place, because the old file holds hours of a translator's work.
     with open(path + '.new', 'w', encoding='utf-8', newline='\n') as file:
         file.write('\n'.join(out))
     os.replace(path + '.new', path)
 
 
 def run(main):
-    """Runs a script, and ends it with a sentence where a file is missing or damaged."""
+    """Runs a script, and exits with a message if a file is missing or damaged."""
     try:
         sys.exit(main())
     except (OSError, ValueError) as error:

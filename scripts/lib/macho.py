@@ -1,8 +1,7 @@
-"""What the programs and libraries of a Mac's bundle are, and what would keep them from starting.
+"""Finds what would keep the programs and libraries of a Mac's bundle from starting.
 
-Reads the headers of Mach-O files themselves, so that it says the same on every system. A library of
-scripts/check-bundle, which runs it as: macho.py BUNDLE. Each line that it prints begins with
-"fault: " or "note: ".
+Parses the headers of Mach-O files, so the result is the same on every system. Run by
+scripts/check-bundle as: macho.py BUNDLE. Each line of output begins with "fault: " or "note: ".
 """
 
 import os
@@ -18,12 +17,12 @@ LAZY_LOAD_DYLIB, LOAD_UPWARD_DYLIB = 0x20, 0x80000023
 RPATH, VERSION_MIN_MACOSX, BUILD_VERSION = 0x8000001C, 0x24, 0x32
 LIBRARIES = {LOAD_DYLIB, LOAD_WEAK_DYLIB, REEXPORT_DYLIB, LAZY_LOAD_DYLIB, LOAD_UPWARD_DYLIB}
 
-# Apple silicon came with this one.
+# The first macOS for Apple silicon.
 FIRST_FOR_ARM64 = (11, 0, 0)
 
 
 class Image:
-    """One processor's part of a file."""
+    """The part of a file for one architecture."""
 
     def __init__(self, data, processor):
         self.architecture = PROCESSORS.get(processor, hex(processor))
@@ -33,7 +32,7 @@ class Image:
         for _ in range(count):
             command, size = struct.unpack_from('<II', data, at)
             if size < 8 or at + size > len(data):
-                raise ValueError('a load command leads out of the file')
+                raise ValueError('a load command reaches past the end of the file')
             if command in LIBRARIES:
                 self.libraries.append(_text(data, at, size))
             elif command == RPATH:
@@ -55,13 +54,13 @@ def _version(packed):
 
 
 def read(path):
-    """The images of a file, none when it is no Mach-O file of 64 bits. ValueError for a broken one."""
+    """The images of a file; none if it isn't a 64-bit Mach-O file. Raises ValueError for a damaged one."""
     with open(path, 'rb') as file:
         data = file.read()
     try:
         if data[:4] == b'\xca\xfe\xba\xbe':
             count, = struct.unpack_from('>I', data, 4)
-            # Java's class files begin alike; none has so low a version.
+            # Java class files have the same magic number; none has so low a version.
             if count > 30:
                 return []
             parts = [struct.unpack_from('>IIII', data, 8 + 20 * i) for i in range(count)]
@@ -70,7 +69,7 @@ def read(path):
         if data[:4] == b'\xcf\xfa\xed\xfe':
             return [Image(data, struct.unpack_from('<I', data, 4)[0])]
     except (struct.error, UnicodeDecodeError) as error:
-        raise ValueError(f'its headers are cut short or damaged ({error})') from None
+        raise ValueError(f'its headers are truncated or damaged ({error})') from None
     return []
 
 
@@ -84,7 +83,7 @@ def _name(version):
 
 
 class Bundle:
-    """The bundle's code, and what its Info.plist promises."""
+    """The bundle's code, and the promises of its Info.plist."""
 
     def __init__(self, path):
         self.path = path
@@ -94,7 +93,7 @@ class Bundle:
         self.images = {}
 
     def check(self):
-        """The lines to print. Empty for a bundle whose launcher is of another system."""
+        """The lines to print; none for a bundle whose launcher is for another system."""
         if not (os.path.isfile(self.launcher) and self._read(self.launcher)):
             return self.findings
         for folder, _, names in sorted(os.walk(self.contents)):
@@ -120,7 +119,7 @@ class Bundle:
         try:
             images = read(path)
         except (ValueError, OSError) as error:
-            self.fault(f'{self._called(path)} is no program that a Mac can load: {error}')
+            self.fault(f'{self._called(path)} is not a program that a Mac can load: {error}')
             return False
         if images:
             self.images[path] = images
@@ -134,8 +133,8 @@ class Bundle:
                 properties = plistlib.load(file)
             self.oldest = _numbers(properties.get('LSMinimumSystemVersion', ''))
         except (OSError, plistlib.InvalidFileException):
-            return PROCESSORS.values()  # the check of Info.plist itself tells
-        except Exception as error:  # an XML parser's, or a version's
+            return PROCESSORS.values()  # reported by the check of Info.plist itself
+        except Exception as error:  # of the XML parser, or of the version
             self.fault(f"Info.plist has no LSMinimumSystemVersion that can be read ({error})")
             return PROCESSORS.values()
         return properties.get('LSArchitecturePriority', PROCESSORS.values())
@@ -151,9 +150,9 @@ class Bundle:
                            f'{", ".join(has)}): build it for both, or join two builds with lipo')
         if path == self.launcher:
             if any(image.kind != EXECUTABLE for image in images):
-                self.fault(f'{self._called(path)} is a library or an object, no program')
+                self.fault(f'{self._called(path)} is a library or an object file, not a program')
             for architecture in sorted(set(PROCESSORS.values()) - set(promised)):
-                self.findings.append(f"note: the bundle is for {', '.join(has)} alone: a Mac with "
+                self.findings.append(f"note: the bundle is only for {', '.join(has)}: a Mac with "
                                      f"{architecture} can't start it")
 
     def _check_oldest(self, path, image):
@@ -163,9 +162,9 @@ class Bundle:
         if image.architecture == 'arm64':
             promised = max(promised, FIRST_FOR_ARM64)
         if image.oldest > promised:
-            self.fault(f'{self._called(path)} ({image.architecture}) wants macOS '
+            self.fault(f'{self._called(path)} ({image.architecture}) requires macOS '
                        f'{_name(image.oldest)}, but Info.plist promises {_name(self.oldest)}: '
-                       'take one that was built for it, or raise CMAKE_OSX_DEPLOYMENT_TARGET')
+                       'use one that was built for it, or raise CMAKE_OSX_DEPLOYMENT_TARGET')
 
     def _check_libraries(self, path, image):
         start = [image.rpaths] if path == self.launcher else [

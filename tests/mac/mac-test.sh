@@ -160,7 +160,7 @@ TestCheckTakesABundleThatIsForOneArchitectureOnPurpose() {
   thin Larkmoor.app/Contents/MacOS/launcher arm64
   sed -i.bak '/<string>x86_64<\/string>/d' Larkmoor.app/Contents/Info.plist
   expect_success check_bundle
-  expect_said "note: the bundle is for arm64 alone: a Mac with x86_64 can't start it"
+  expect_said "note: the bundle is only for arm64: a Mac with x86_64 can't start it"
 }
 
 TestCheckFindsLibrariesOutsideTheBundleAndTheSystem() {
@@ -180,8 +180,8 @@ TestCheckFindsADeploymentTargetAboveThePropertyLists() {
   local library=Larkmoor.app/Contents/Frameworks/libarchive.13.dylib
   c++ -arch x86_64 -arch arm64 -mmacosx-version-min=14.2 -dynamiclib -x c++ /dev/null -o $library ||
     fail "can't make a library"
-  expect_failure "libarchive.13.dylib (x86_64) wants macOS 14.2, but Info.plist promises 10.13" check_bundle
-  expect_said "libarchive.13.dylib (arm64) wants macOS 14.2"
+  expect_failure "libarchive.13.dylib (x86_64) requires macOS 14.2, but Info.plist promises 10.13" check_bundle
+  expect_said "libarchive.13.dylib (arm64) requires macOS 14.2"
   sed -i.bak 's|<string>10.13<|<string>14.2<|' Larkmoor.app/Contents/Info.plist
   expect_success check_bundle
 }
@@ -191,7 +191,7 @@ TestCheckFindsProgramsThatAreCutShort() {
   local launcher=Larkmoor.app/Contents/MacOS/launcher
   thin $launcher arm64
   head -c 400 $launcher >short && cp short $launcher
-  expect_failure "launcher is no program that a Mac can load" check_bundle
+  expect_failure "launcher is not a program that a Mac can load" check_bundle
 }
 
 # The commands of docs/releasing.md, in their order.

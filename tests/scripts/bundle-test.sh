@@ -173,7 +173,7 @@ TestCheckFindsEmptyIcons() {
   done
   in_bundle sed -i.bak 's|<string>larkmoor</string>|<string>empty</string>|' Info.plist
   in_bundle touch Resources/empty.icns
-  expect_failure "no 'empty', which Info.plist names as CFBundleIconFile" check_bundle good/Larkmoor.app
+  expect_failure "no 'empty', the CFBundleIconFile of Info.plist" check_bundle good/Larkmoor.app
 }
 
 TestCheckNotesWhatMayBeMeant() {
@@ -186,14 +186,14 @@ TestCheckNotesWhatMayBeMeant() {
   expect_said "note: Contents/Resources/INFO has no major_version"
   expect_said "note: Contents/Resources/INFO has no minor_version"
   expect_said "note: Contents/Resources/INFO has no icon_overlay_version"
-  expect_said "note: the package was read with this system's libarchive"
+  expect_said "note: read the package with this system's libarchive"
 }
 
 TestCheckLeavesNoTemporaryFiles() {
   make_good_bundle
   repack chmod 555 Contents/Resources
   mkdir temporary
-  expect_failure "can't write" env TMPDIR="$PWD/temporary" "$SCRIPTS/check-bundle" good/Larkmoor.app
+  expect_failure "folders that aren't writable" env TMPDIR="$PWD/temporary" "$SCRIPTS/check-bundle" good/Larkmoor.app
   expect_equal "" "$(ls -A temporary)"
   chmod 755 unpacked/Contents/Resources
 }
@@ -298,9 +298,9 @@ TestCheckFindsPropertyListsThatTheSystemWouldRefuse() {
   expect_said "no 'other', the CFBundleIconFile of Info.plist"
   in_bundle sed 's/CFBundleShortVersionString/A/; s/CFBundleVersion/B/; s/LSMinimumSystemVersion/C/' \
     saved >good/Larkmoor.app/Contents/Info.plist
-  expect_failure "holds no CFBundleShortVersionString" check_bundle good/Larkmoor.app
-  expect_said "holds no CFBundleVersion"
-  expect_said "holds no LSMinimumSystemVersion"
+  expect_failure "has no CFBundleShortVersionString" check_bundle good/Larkmoor.app
+  expect_said "has no CFBundleVersion"
+  expect_said "has no LSMinimumSystemVersion"
 }
 
 TestCheckFindsBuildThatIsNoNumber() {

@@ -160,7 +160,7 @@ class CheckCatalogues(InAFolder):
         self.assertIn('deu: row 0 nas: there twice', self.check('deu')[1])
 
     def test_finds_a_text_that_nobody_has_translated(self):
-        output = self.assert_finds('row 1 btn_ok: to be translated', {'OK': ''})
+        output = self.assert_finds('row 1 btn_ok: untranslated', {'OK': ''})
         self.assertEqual(output.count('row 1 btn_ok'), 1)
 
     def test_finds_an_empty_text_that_counts_as_finished(self):
@@ -243,7 +243,7 @@ class CheckCatalogues(InAFolder):
     def test_finds_any_change_in_the_english_catalogue(self):
         english = {text: text for text in self.groups}
         self.assert_clean('enu', base=english)
-        self.assert_finds('row 1 btn_ok: not the same as its source', {'OK': 'Okay'}, 'enu', english)
+        self.assert_finds('row 1 btn_ok: differs from its source', {'OK': 'Okay'}, 'enu', english)
 
     def chinese(self, word):
         return {'%1 of %2 files': '%1/%2 ' + word, '&Next': word + '(&N)', 'Open folder': word,
@@ -415,7 +415,7 @@ class CheckCatalogues(InAFolder):
         os.remove(os.path.join(self.folder, 'glossary', 'deu.json'))
         status, output = self.check('deu')
         self.assertEqual(status, 1)
-        self.assertIn('deu: has no glossary: make glossary/deu.json', output)
+        self.assertIn('deu: has no glossary: create glossary/deu.json', output)
         self.assertIn('1 texts read like their source', output)
 
     def test_finds_swapped_messages(self):
@@ -486,16 +486,16 @@ class UpdateCatalogues(InAFolder):
     def test_changes_nothing_that_is_up_to_date(self):
         before = self.read('catalogues/deu.ts')
         self.assertEqual(self.run_script('update-catalogues'),
-                         (0, 'enu: 9 texts, 0 of them to be translated\n'
-                             'deu: 9 texts, 0 of them to be translated\n'))
+                         (0, 'enu: 9 texts, 0 of them untranslated\n'
+                             'deu: 9 texts, 0 of them untranslated\n'))
         self.assertEqual(self.read('catalogues/deu.ts'), before)
 
     def test_leaves_a_new_text_to_the_translator_and_keeps_the_others(self):
         self.write('str-table-rows.inc', ROWS + 'ROW(10, "new", "Brand new")\n')
         _, output = self.run_script('update-catalogues')
-        self.assertIn('deu: 10 texts, 1 of them to be translated', output)
+        self.assertIn('deu: 10 texts, 1 of them untranslated', output)
         _, findings = self.check()
-        self.assertIn('deu: row 10 new: to be translated', findings)
+        self.assertIn('deu: row 10 new: untranslated', findings)
         self.assertIn(' 1 findings', findings)
 
     def test_drops_a_text_that_has_left_the_table_and_says_what_it_read(self):
@@ -518,7 +518,7 @@ class UpdateCatalogues(InAFolder):
     def test_keeps_an_unfinished_translation_unfinished(self):
         self.german(self.message(' type="unfinished"', 'Weiter?'))
         _, output = self.run_script('update-catalogues')
-        self.assertIn('deu: 9 texts, 1 of them to be translated', output)
+        self.assertIn('deu: 9 texts, 1 of them untranslated', output)
         self.assertIn('<translation type="unfinished">Weiter?</translation>',
                       self.read('catalogues/deu.ts'))
 
@@ -568,13 +568,13 @@ class UpdateCatalogues(InAFolder):
                               '--localisation', self.folder],
                              capture_output=True, encoding='utf-8', check=False)
         self.assertEqual(run.returncode, 1)
-        self.assertRegex(run.stderr, r'^update-catalogues: .*deu\.ts is no sound XML: .*\n$')
+        self.assertRegex(run.stderr, r'^update-catalogues: .*deu\.ts is not well-formed XML: .*\n$')
         self.assertEqual(self.read('catalogues/deu.ts'), '<TS version="2.1"><context>')
 
     def test_starts_a_language_that_has_no_catalogue(self):
         os.remove(os.path.join(self.folder, 'catalogues', 'deu.ts'))
         _, output = self.run_script('update-catalogues')
-        self.assertIn('deu: 9 texts, 9 of them to be translated', output)
+        self.assertIn('deu: 9 texts, 9 of them untranslated', output)
 
 
 if __name__ == '__main__':
