@@ -60,9 +60,10 @@ NOT = re.compile(r"(?<=[( ])!(?=[\w(])")
 CONDITION = re.compile(r"\b(?:if|while) \((?=.*\))")
 RETURN = re.compile(r"\breturn ([^;{}\"]+);")
 CHOICE = re.compile(r"(?<=\? )([^?:;]+?)( : )([^?:;]+?)(?=[;,)])")
-PAIR = re.compile(r"(?<=[\w>]\()([\w.>*&-]+)(, )([\w.>*&-]+)(?=\))")
+# The order makes no difference to some.
+PAIR = re.compile(r"(?<!swap\()(?<!::min\()(?<!::max\()(?<!strcmp\()(?<=[\w>]\()([\w.>*&-]+)(, )([\w.>*&-]+)(?=\))")
 STATEMENT = re.compile(r"^[ ]+(?!(?:return|using|friend|static|constexpr|case|default|for|if|while|do|"
-                       r"else|switch|struct|class)\b)(?=(?:delete |throw |emit |\*|\+\+|--)?\w)", re.MULTILINE)
+                       r"else|switch|struct|class|private|public)\b)(?=(?:delete |throw |emit |\*|\+\+|--)?\w)", re.MULTILINE)
 INNER = re.compile(r"(?<=\) )(?=(?:delete |throw |emit |\*|\+\+|--)?\w[\w:.>*-]*(?:\(| [-+|]?= |;))"
                    r"(?!return\b|const\b|override\b|noexcept\b)")
 DECLARATION = re.compile(r"(?!delete |throw |emit )[\w:<>,]+(?: const)?(?: |[*&]+ )(?:const )?[\w:]*\w"
@@ -115,22 +116,24 @@ def edits(source):
         yield (*match.span(), "")
     for match in CONDITION.finditer(code):
         end = closing(code, match.end() - 1)
-        if "\n" not in code[match.end():end] and not re.search(r" = |;", code[match.end():end]):
+        # Not of a declaration; one comparison or "!" alone is turned by itself.
+        if re.fullmatch(r"(?!!)[^\n=<>!;]*|[^\n;]* (?:&&|\|\|) [^\n;]*", code[match.end():end]):
             yield match.end(), end, f"!({source[match.end():end]})"
     for match in RETURN.finditer(code):
         value = source[slice(*match.span(1))]
         for new in ("0", "-1") if re.fullmatch(r"-?\d+|\w+Err", value) else ("{}", f"!({value})"):
-            if new != value and value not in ("true", "false", "nullptr") and "\n" not in value:
+            if new != value and value not in ("true", "false", "nullptr", "*this") and "\n" not in value:
                 yield (*match.span(1), new)
     for pattern in (CHOICE, PAIR):
         for match in pattern.finditer(code):
             first, between, second = (source[slice(*match.span(i))] for i in (1, 2, 3))
-            if first != second and "\n" not in match.group():
+            if first != second and "\n" not in match.group() and first.count("(") == first.count(")") \
+                    and second.count("(") == second.count(")"):
                 yield (*match.span(), second + between + first)
     for match in itertools.chain(STATEMENT.finditer(code), INNER.finditer(code)):
         start, end = match.end(), statement_end(code, match.end())
-        if end > 0 and code[:start].rstrip()[-1:] in (";", "{", "}", ":", ")") and \
-                not DECLARATION.match(code, start, end):
+        if end > 0 and "= delete" not in code[start:end] and code[:start].rstrip()[-1:] in ";{}:)" \
+                and not DECLARATION.match(code, start, end):
             yield start, end, ""
     for match in COMMENTS_AND_LITERALS.finditer(source):
         text = match.group()
