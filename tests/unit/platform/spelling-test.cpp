@@ -1,0 +1,157 @@
+// How a volume that is blind to case stores a path. There is none in reach: a folder of another
+// file system stands for it, whose type and whose look at a name are replaced.
+#include <gmock/gmock.h>
+#include <linux/magic.h>
+#include <unicode/normalizer2.h>
+#include <unicode/unistr.h>
+
+#include <cerrno>
+#include <string>
+
+#include "../foundation/system-calls.h"
+#include "platform/spelling-posix.h"
+#include "support/files.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// What all names have in common that are one for the volume.
+icu::UnicodeString Key(std::string const& name) {
+  UErrorCode status = U_ZERO_ERROR;
+  icu::UnicodeString const text = icu::UnicodeString::fromUTF8(name);
+  return icu::Normalizer2::getNFCInstance(status)->normalize(text, status).foldCase();
+}
+
+class StoredPath : public testing::Test {
+ protected:
+  StoredPath() {
+    HasType(MSDOS_SUPER_MAGIC);
+    calls.lstat = [](char const* path, struct stat* info) {
+      if (test::LibraryLstat(path, info) == 0) return 0;
+      fs::path const asked = path;
+      if (!fs::is_directory(asked.parent_path())) return -1;
+      for (fs::directory_entry const& entry : fs::directory_iterator(asked.parent_path())) {
+        if (Key(entry.path().filename()) == Key(asked.filename())) {
+          return test::LibraryLstat(entry.path().c_str(), info);
+        }
+      }
+      errno = ENOENT;
+      return -1;
+    };
+  }
+
+  void HasType(long type) {
+    calls.statfs = [type](char const*, struct statfs* info) {
+      info->f_type = static_cast<decltype(info->f_type)>(type);
+      return 0;
+    };
+  }
+  /// The stored path of something in the folder, seen from there.
+  std::string Stored(std::string const& inside) const {
+    std::string const path = platform::AsStored((folder / inside).c_str());
+    std::string const above = folder / "";
+    return path.rfind(above, 0) == 0 ? path.substr(above.size()) : path;
+  }
+
+  test::TempDir const folder;
+  test::SystemCalls calls;
+};
+
+TEST_F(StoredPath, HasEachNameInTheCaseThatTheVolumeKeeps) {
+  test::WriteFile(folder / "Kept/Some File.txt", "");
+  test::WriteFile(folder / "Kept/Other", "");
+  EXPECT_EQ(Stored("Kept/Some File.txt"), "Kept/Some File.txt");
+  EXPECT_EQ(Stored("kept/some file.txt"), "Kept/Some File.txt");
+  EXPECT_EQ(Stored("KEPT/SOME FILE.TXT"), "Kept/Some File.txt");
+  EXPECT_EQ(Stored("kEPT"), "Kept");
+}
+
+TEST_F(StoredPath, HasNamesThatAreAllInOneCase) {
+  test::WriteFile(folder / "lower", "");
+  test::WriteFile(folder / "UPPER", "");
+  EXPECT_EQ(Stored("LOWER"), "lower");
+  EXPECT_EQ(Stored("upper"), "UPPER");
+}
+
+TEST_F(StoredPath, HasNamesOfOtherScriptsInTheFormAndCaseThatTheVolumeKeeps) {
+  test::WriteFile(folder / "U\u0308ber \u0416", "");
+  EXPECT_EQ(Stored("\u00FCBER \u0436"), "U\u0308ber \u0416");
+}
+
+TEST_F(StoredPath, OfANameWithoutLettersIsThatName) {
+  test::WriteFile(folder / "2024-01", "");
+  EXPECT_EQ(Stored("2024-01"), "2024-01");
+}
+
+TEST_F(StoredPath, OfBytesThatAreNoTextIsThatName) {
+  test::WriteFile(folder / "A\xFF", "");
+  EXPECT_EQ(Stored("A\xFF"), "A\xFF");
+}
+
+TEST_F(StoredPath, OfOneOfTwoObjectsWhoseNamesDifferInCaseIsAsGiven) {
+  calls.lstat = nullptr;
+  test::WriteFile(folder / "twin", "");
+  test::WriteFile(folder / "TWIN", "");
+  EXPECT_EQ(Stored("twin"), "twin");
+  EXPECT_EQ(Stored("TWIN"), "TWIN");
+}
+
+TEST_F(StoredPath, OfAnObjectWithBothNamesIsAsGiven) {
+  calls.lstat = nullptr;
+  test::WriteFile(folder / "link", "");
+  fs::create_hard_link(folder / "link", folder / "LINK");
+  EXPECT_EQ(Stored("link"), "link");
+  EXPECT_EQ(Stored("LINK"), "LINK");
+}
+
+TEST_F(StoredPath, OfObjectsOfTwoVolumesWithOneNumberIsAsGiven) {
+  calls.lstat = [](char const* path, struct stat* info) {
+    *info = {};
+    info->st_ino = 2;
+    info->st_dev = fs::path(path).filename() == "mount" ? 1 : 2;
+    return 0;
+  };
+  test::WriteFile(folder / "MOUNT", "");
+  EXPECT_EQ(platform::AsStored((folder / "mount").c_str()), folder / "mount");
+}
+
+TEST_F(StoredPath, OfWhatIsGoneIsAsGiven) {
+  EXPECT_EQ(Stored("gone"), "gone");
+  // One of its two cases is gone.
+  calls.lstat = nullptr;
+  test::WriteFile(folder / "here", "");
+  EXPECT_EQ(Stored("HERE"), "HERE");
+  EXPECT_EQ(Stored("here"), "here");
+}
+
+TEST_F(StoredPath, HasNoNeedlessSlashes) {
+  test::WriteFile(folder / "Kept/file", "");
+  EXPECT_EQ(Stored("kept//FILE/"), "Kept/file");
+  EXPECT_EQ(platform::AsStored("/"), "/");
+}
+
+TEST_F(StoredPath, IsAsGivenWhereTheVolumesTypeIsUnknown) {
+  test::WriteFile(folder / "Kept", "");
+  calls.statfs = [](char const*, struct statfs*) { return -1; };
+  EXPECT_EQ(Stored("kept"), "kept");
+}
+
+TEST_F(StoredPath, IsLookedForOnVolumesThatMayBeBlindAlone) {
+  test::WriteFile(folder / "Kept", "");
+  for (std::uint32_t const type : {0x4D44U, 0x2011BAB0U, 0x5346544EU, 0x7366746EU, 0x517BU,
+                                   0xFE534D42U, 0xFF534D42U, 0x4244U, 0x482BU, 0x65735546U}) {
+    HasType(type);
+    EXPECT_EQ(Stored("kept"), "Kept") << std::hex << type;
+    HasType(static_cast<std::int32_t>(type));  // signed, as some libraries have it
+    EXPECT_EQ(Stored("kept"), "Kept") << std::hex << type;
+    for (std::uint32_t const other : {type - 1, type + 1}) {
+      HasType(other);
+      EXPECT_EQ(Stored("kept"), "kept") << std::hex << other;
+    }
+  }
+  HasType(0xEF53);  // ext4
+  EXPECT_EQ(Stored("kept"), "kept");
+}
+
+}  // namespace
