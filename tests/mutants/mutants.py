@@ -278,26 +278,28 @@ def limit_memory():
     resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
 
 
-def in_order(tests, file):
-    """The tests of the file's own folder first, then unit tests, then programs, then the rest."""
+def in_order(tests, file, kills):
+    """The tests of the file's own folder first, then unit tests, then programs, then the rest.
+    Of these, those that have killed most of the file's mutants."""
     folder = "unit/" + pathlib.PurePath(file).parent.name
     return sorted(tests, key=lambda t: (not str(t.folder).endswith(folder), t.target == "all",
-                                        "/unit/" not in str(t.folder)))
+                                        "/unit/" not in str(t.folder), -kills[file, t.name]))
 
 
-def judge(box, mutant, tests, seconds):
+def judge(box, mutant, tests, seconds, kills):
     """Plants the mutant: "killed", "surviving" or "not compiling", and by what."""
     path = box.copy / mutant.file
     source = path.read_text(encoding="utf-8")
     path.write_text(source[:mutant.start] + mutant.text + source[mutant.end:], encoding="utf-8")
     try:
-        for test in in_order(tests, mutant.file):
+        for test in in_order(tests, mutant.file, kills):
             status, output = box.build(test.target)
             if status != 0:
                 return "not compiling", ""
             limit = 30 + 5 * seconds[test.name]
             status, output = box.run(test.command, test.folder, limit)
             if status != 0:
+                kills[mutant.file, test.name] += 1
                 failed = re.search(r"\[  FAILED  \] (\S+?)[,\s]", output)
                 return "killed", ("time limit of " if status is None else "") + (
                     failed.group(1) if failed else test.name)
@@ -342,6 +344,7 @@ def main():
         subprocess.run(["cp", "-a", first.copy, boxes[-1].copy], check=True)
 
     print(f"== Planting {len(mutants)} mistakes, seed {seed}", flush=True)
+    kills = collections.Counter()
     waiting, results, lock = queue.SimpleQueue(), collections.defaultdict(list), threading.Lock()
     for mutant in mutants:
         waiting.put(mutant)
@@ -352,7 +355,7 @@ def main():
                 mutant = waiting.get_nowait()
             except queue.Empty:
                 return
-            verdict, by = judge(box, mutant, tests, seconds)
+            verdict, by = judge(box, mutant, tests, seconds, kills)
             with lock:
                 results[verdict].append(mutant)
                 print(f"{verdict:13} {mutant.file}:{mutant.line}: {mutant.before}\n"
