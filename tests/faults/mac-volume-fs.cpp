@@ -12,10 +12,10 @@
 #include <unicode/ustring.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdint>
 #include <cstring>
-#include <sstream>
 #include <string>
 
 namespace {
@@ -30,8 +30,13 @@ bool IsUtf8(char const* text) {
   return status != U_INVALID_CHAR_FOUND;
 }
 
+bool IsAscii(std::string const& name) {
+  return std::all_of(name.begin(), name.end(), [](char c) { return c >= 0; });
+}
+
 /// What names that are one to the volume have in common.
 icu::UnicodeString Key(std::string const& name) {
+  if (IsAscii(name)) return icu::UnicodeString::fromUTF8(name).foldCase();
   UErrorCode status = U_ZERO_ERROR;
   icu::Normalizer2 const* const decomposed = icu::Normalizer2::getNFDInstance(status);
   icu::UnicodeString key = decomposed->normalize(icu::UnicodeString::fromUTF8(name), status);
@@ -39,9 +44,12 @@ icu::UnicodeString Key(std::string const& name) {
   return decomposed->normalize(key, status);
 }
 
-std::string AsSpelled(std::string const& parent, std::string const& name) {
+bool Exists(std::string const& real) {
   struct stat info;
-  if (lstat((parent + "/" + name).c_str(), &info) == 0) return name;
+  return lstat(real.c_str(), &info) == 0;
+}
+
+std::string AsSpelled(std::string const& parent, std::string const& name) {
   std::string found = name;
   if (DIR* const dir = opendir(parent.c_str())) {
     icu::UnicodeString const key = Key(name);
@@ -54,13 +62,11 @@ std::string AsSpelled(std::string const& parent, std::string const& name) {
 }
 
 /// The object behind a path, however its components are spelled.
-std::string Real(char const* path) {
-  std::string real = folder;
-  std::istringstream parts(path);
-  for (std::string part; std::getline(parts, part, '/');) {
-    if (!part.empty()) real += "/" + AsSpelled(real, part);
-  }
-  return real;
+std::string Real(std::string const& path) {
+  if (path == "/" || Exists(folder + path)) return folder + path;
+  std::size_t const slash = path.rfind('/');
+  std::string const parent = slash == 0 ? folder : Real(path.substr(0, slash));
+  return parent + "/" + AsSpelled(parent, path.substr(slash + 1));
 }
 
 /// The same, with the last component as it is asked for: what a new name is to look like.
@@ -80,10 +86,10 @@ int GiveToCaller(std::string const& real, int result) {
 }
 
 void* Init(fuse_conn_info* /*connection*/, fuse_config* config) {
-  // Two spellings would be cached apart.
+  // Two spellings would be cached apart. Attributes may be: each lookup brings them anew.
   config->entry_timeout = 0;
   config->negative_timeout = 0;
-  config->attr_timeout = 0;
+  config->attr_timeout = 1;
   config->use_ino = 1;
   // A file that is removed while it is open is gone, without another name in its folder.
   config->hard_remove = 1;

@@ -35,4 +35,4 @@ until mountpoint -q "$place/volume"; do
 done
 trap finish EXIT
 
-TMPDIR=$place/volume "$@"
+TMPDIR=$place/volume LARKMOOR_TEST_VOLUME=MacVolume "$@"

@@ -184,14 +184,20 @@ bool IsShort() {
   return wish != nullptr && *wish != '\0';
 }
 
+char const* NameOfVolume() { return getenv("LARKMOOR_TEST_VOLUME"); }
+
 void Report(std::string const& line) {
   static std::ofstream figures = [] {
+    char const* const volume = NameOfVolume();
     auto const* const current = testing::UnitTest::GetInstance()->current_test_info();
     std::string name = std::string(current->test_suite_name()) + "." + current->name() + ".txt";
+    if (volume != nullptr) name = std::string(volume) + "." + name;
     std::replace(name.begin(), name.end(), '/', '.');
     fs::path const folder = LARKMOOR_TEST_FIGURES;
     fs::create_directories(folder);
-    return std::ofstream(folder / name);
+    std::ofstream out(folder / name);
+    if (volume != nullptr) out << volume << ":" << std::endl;
+    return out;
   }();
   std::cout << line << std::endl;
   figures << line << std::endl;

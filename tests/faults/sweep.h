@@ -82,7 +82,11 @@ class Tally {
 /// Whether LARKMOOR_SHORT_SWEEPS asks for the same places with fewer runs at each.
 bool IsShort();
 
-/// Prints a line and adds it to the figures of this test, which scripts/test shows.
+/// The volume that these tests were put on by LARKMOOR_TEST_VOLUME, null where that isn't set.
+char const* NameOfVolume();
+
+/// Prints a line and adds it to the figures of this test, which scripts/test shows. Each volume's
+/// are kept apart.
 void Report(std::string const& line);
 
 }  // namespace test

@@ -26,7 +26,8 @@ class TempDir {
 };
 
 /// Puts the temporary folders that come into memory, if there is enough of it. For tests that make
-/// and remove thousands of files, which a disk takes its time over.
+/// and remove thousands of files, which a disk takes its time over. With LARKMOOR_TEST_VOLUME in
+/// the environment they stay on the volume that the tests were put on.
 void PreferMemory();
 
 /// Writes a file, making the folders above it.
