@@ -1,8 +1,8 @@
-# Copies the libraries of a Mac's bundle into it. Takes "larkmoor_app", its path, and "macdeployqt", that
-# program's. Its own choice of plug-ins is switched off: those that were installed stand in the one
-# folder where the launcher looks for them, and only need to be pointed to the libraries.
+# Copies the libraries of a Mac's bundle into it. Takes the paths "larkmoor_app" and "macdeployqt".
+# macdeployqt doesn't select plug-ins: the installed ones are in the only folder where the launcher looks,
+# and it only points them to the libraries.
 if(NOT EXISTS "${macdeployqt}")
-  message(FATAL_ERROR "macdeployqt is missing: run scripts/setup build, or name it with LARKMOOR_MACDEPLOYQT")
+  message(FATAL_ERROR "macdeployqt is missing: run scripts/setup build, or set LARKMOOR_MACDEPLOYQT to its path")
 endif()
 file(GLOB_RECURSE plugins ${larkmoor_app}/Contents/Frameworks/plugins/*.dylib)
 list(TRANSFORM plugins PREPEND -executable=)

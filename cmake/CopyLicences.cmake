@@ -1,6 +1,5 @@
-# Copies the licences of the bundle's libraries into it. Takes "larkmoor_app", its path, and
-# "larkmoor_scripts", the folder of the script that does so; the environment names a folder of further
-# texts in LARKMOOR_LICENSES.
+# Copies the licences of the bundle's libraries into it. Takes the paths "larkmoor_app" and
+# "larkmoor_scripts"; the environment variable LARKMOOR_LICENSES may name a folder with more licences.
 find_program(larkmoor_python python3 NO_CACHE)
 if(NOT larkmoor_python)
   message(FATAL_ERROR "python3 is missing: run scripts/setup build")
@@ -10,9 +9,9 @@ execute_process(
   OUTPUT_VARIABLE missing
   RESULT_VARIABLE status)
 if(NOT status EQUAL 0)
-  message(FATAL_ERROR "The licences can't be copied into ${larkmoor_app}, see the message above")
+  message(FATAL_ERROR "Can't copy the licences into ${larkmoor_app}, see the message above")
 endif()
 if(missing)
   string(STRIP "${missing}" missing)
-  message(WARNING "The bundle can't ship without its licences:\n${missing}")
+  message(WARNING "The bundle can't ship without its licences: add them with make-bundle --licenses\n${missing}")
 endif()

@@ -1,18 +1,18 @@
-# Larkmoor.app, as "cmake --install" and CPack lay it out. The layout is the same on every system:
-# the launcher finds its own files by their place relative to its executable.
+# The layout of Larkmoor.app for "cmake --install" and CPack. It is the same on every system, because the
+# launcher finds its files relative to its executable.
 #
-#   LARKMOOR_PACKAGE   the client's package to carry
-#   LARKMOOR_INFO      the INFO to lay beside it; by default the one inside the package
+#   LARKMOOR_PACKAGE   the client's package
+#   LARKMOOR_INFO      the INFO beside it (default: the one in the package)
 #
-# Both are read when installing, from the environment first, so that one build serves many packages.
-set(LARKMOOR_PACKAGE "" CACHE FILEPATH "Package of the client that the bundle carries")
+# Both are read at installation, from the environment first, so that one build serves many packages.
+set(LARKMOOR_PACKAGE "" CACHE FILEPATH "The client's package")
 set(LARKMOOR_INFO "" CACHE FILEPATH "INFO of the bundle; empty for the one inside the package")
 
 set(LARKMOOR_BUNDLE Larkmoor.app)
 set(contents ${LARKMOOR_BUNDLE}/Contents)
 set(resources ${PROJECT_SOURCE_DIR}/resources)
 
-# What the launcher is built for: scripts/check-bundle holds the bundle's programs to it.
+# The launcher's architectures, which scripts/check-bundle requires of all programs in the bundle.
 set(LARKMOOR_ARCHITECTURES)
 if(APPLE)
   set(architectures ${CMAKE_OSX_ARCHITECTURES})
@@ -36,8 +36,8 @@ install(FILES ${resources}/larkmoor.icns DESTINATION ${contents}/Resources COMPO
 install(FILES ${resources}/images/ico_72_larkmoor.png
   DESTINATION ${contents}/Resources/images COMPONENT bundle)
 
-# The launcher looks for plug-ins here and nowhere else. PNG is built into Qt; and without the GL
-# integrations of xcb the shown dialog takes a third of the memory.
+# The launcher looks for plug-ins only here. PNG is built into Qt; without xcb's GL integrations the dialog
+# takes a third of the memory.
 if(APPLE)
   set(plugins QCocoaIntegrationPlugin QOffscreenIntegrationPlugin QMacStylePlugin)
 else()
@@ -60,7 +60,7 @@ if(APPLE)
   get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
   get_filename_component(qt_programs ${qmake} DIRECTORY)
   find_program(LARKMOOR_MACDEPLOYQT macdeployqt HINTS ${qt_programs})
-  # No variable here may be called like a component: the generated script compares with "bundle".
+  # No variable may have the name of a component: the generated script compares with "bundle".
   install(CODE "
     set(macdeployqt \"${LARKMOOR_MACDEPLOYQT}\")
     set(larkmoor_app \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${LARKMOOR_BUNDLE}\")
@@ -68,7 +68,7 @@ if(APPLE)
     COMPONENT bundle)
 endif()
 
-# Behind everything that brings a library.
+# After everything that installs a library.
 install(CODE "
   set(larkmoor_app \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${LARKMOOR_BUNDLE}\")
   set(larkmoor_scripts \"${PROJECT_SOURCE_DIR}/scripts\")

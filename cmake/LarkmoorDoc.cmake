@@ -1,5 +1,5 @@
-# The target "doc": the API reference, from the headers, in doc/html of the build folder. Fails on
-# any warning.
+# The target "doc": the API reference of the headers, in doc/html of the build folder. Any warning is an
+# error.
 find_package(Doxygen QUIET)
 if(DOXYGEN_FOUND)
   configure_file(${PROJECT_SOURCE_DIR}/docs/Doxyfile ${PROJECT_BINARY_DIR}/Doxyfile @ONLY)
@@ -10,7 +10,7 @@ if(DOXYGEN_FOUND)
     VERBATIM)
 else()
   add_custom_target(doc
-    COMMAND ${CMAKE_COMMAND} -E echo "Doxygen is missing: run scripts/setup docs, then configure anew"
+    COMMAND ${CMAKE_COMMAND} -E echo "Doxygen is missing: run scripts/setup docs, then configure again"
     COMMAND ${CMAKE_COMMAND} -E false
     VERBATIM)
 endif()

@@ -1,14 +1,14 @@
 # larkmoor_layer(NAME SOURCES ... LINK ...): one folder of src/.
 #
-# Each layer is compiled by itself, against the libraries it names and no others, so that a layer
-# that must not know of a library can't include its headers. larkmoor_core gathers the layers.
+# Each layer is compiled separately against the libraries it names, so it can't include the headers of
+# others. larkmoor_core combines the layers.
 function(larkmoor_layer name)
   cmake_parse_arguments(LAYER "" "" "SOURCES;LINK" ${ARGN})
   add_library(larkmoor_${name} OBJECT ${LAYER_SOURCES})
   target_include_directories(larkmoor_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_link_libraries(larkmoor_${name} PRIVATE larkmoor_compile PUBLIC ${LAYER_LINK})
-  # Hidden, so that calls within a file may be inlined: Qt asks for -fPIC, and under it the compiler
-  # has to expect that a visible function is replaced by another library's.
+  # Hidden, so that the compiler may inline calls: with -fPIC, which Qt requires, it must assume that another
+  # library interposes a visible function.
   set_target_properties(larkmoor_${name} PROPERTIES
     POSITION_INDEPENDENT_CODE ON
     CXX_VISIBILITY_PRESET hidden

@@ -1,5 +1,5 @@
-# Names the family of platform sources to build, src/platform/*-mac.cpp or src/platform/*-posix.cpp,
-# and the linker's option for looking up all functions of libraries before main().
+# Selects the platform sources, src/platform/*-mac.cpp or src/platform/*-posix.cpp, and the linker option
+# that binds all functions before main().
 if(APPLE)
   set(LARKMOOR_PLATFORM mac)
   set(LARKMOOR_BIND_AT_START LINKER:-bind_at_load)

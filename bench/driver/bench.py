@@ -21,7 +21,7 @@ from measure import Runner, compare, in_turn, median
 
 
 class Session:
-    """One run: where, with what, how much, and what came of it."""
+    """One run: its inputs, its extent and its results."""
 
     def __init__(self, build, results, folder, plan, display):
         self.build = build
@@ -36,7 +36,7 @@ class Session:
         self.report = reports.empty()
 
     def displays(self):
-        """Where to run: never on the display of whoever runs this."""
+        """The displays to run on: never the user's own."""
         found = [("offscreen", None)]
         if self.display:
             found.append(("Xvfb", self.display))
@@ -46,8 +46,8 @@ class Session:
         return self.plan.big_of(self.packages, kind)
 
     def orders(self, sides, rounds):
-        """An order of the sides for each round: drawn anew, or in a short run each there is, from
-        a fresh start, so that a side that counts on another one fails."""
+        """An order of the contenders for each round: random, or in a short run every order in turn, each
+        from the initial state, so that a contender that relies on another one fails."""
         if self.plan.every_order:
             for order in itertools.permutations(range(sides)):
                 self.start_afresh()
@@ -80,12 +80,12 @@ class Session:
         print(f"   {name}: {value / 2**20:.1f} MiB of {limit / 2**20:.1f}", flush=True)
 
     def add_points(self, lines, x, contenders, rounds):
-        """Processor time: a line of a few points bears no noise."""
+        """Adds processor times, because few points tolerate little noise."""
         for contender, samples in zip(contenders, self.in_turn(contenders, rounds)):
             lines.setdefault(contender.name, []).append([x, median(samples, "cpu")])
 
     def growth(self, file, name, work, lines, peers=1):
-        """Lines of points: ours, then that many peers, then the floor."""
+        """Adds lines of points: ours, then `peers` peers, then the floor."""
         self.report["growths"].append(
             {"file": file, "name": name, "work": work, "lines": lines, "peers": peers})
         print(f"   {name}, by {work}", flush=True)
@@ -93,8 +93,7 @@ class Session:
 
 @contextlib.contextmanager
 def xvfb():
-    """A display of our own. It isn't set back when its last client leaves, which would be measured
-    with the next."""
+    """A display of our own. It doesn't reset after its last client, which would delay the next one."""
     reader, writer = os.pipe()
     server = subprocess.Popen(
         ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1024x768x24", "-nolisten", "tcp",
@@ -105,7 +104,7 @@ def xvfb():
         with os.fdopen(reader) as pipe:
             number = pipe.readline().strip()
         if not number:
-            raise workspace.Failure("Xvfb doesn't start: run it by hand to see why")
+            raise workspace.Failure("Xvfb doesn't start: run it manually to see why")
         yield f":{number}"
     finally:
         server.terminate()
@@ -113,7 +112,7 @@ def xvfb():
 
 
 def results(arguments):
-    """Where the report goes: what a short run finds means nothing and is kept apart."""
+    """The folder of the report; that of a short run is separate, because its figures mean nothing."""
     folder = arguments.build / "short" if arguments.short else arguments.build
     folder.mkdir(exist_ok=True)
     return folder
@@ -123,7 +122,7 @@ def run(arguments):
     plan = plans.Short() if arguments.short else plans.Full()
     plan.limit(arguments.pairs)
     if not workspace.FreshExt4.is_possible():
-        print("No ext4 of our own without root and loop devices: measured on tmpfs alone.")
+        print("An ext4 needs root and loop devices: measuring only on tmpfs.")
     with xvfb() as display:
         for name in arguments.measures or measures.ALL:
             with contextlib.ExitStack() as stack:
@@ -136,7 +135,7 @@ def run(arguments):
 
 
 def measure(session, name):
-    """Its results take the place of earlier ones in the report."""
+    """Its results replace earlier ones in the report."""
     begin, load = time.monotonic(), workspace.load()
     print(f"== {name}", flush=True)
     session.report = reports.empty()
@@ -158,8 +157,8 @@ def main():
     arguments = parser.parse_args()
     for name in arguments.measures:
         if name not in measures.ALL:
-            parser.error(f"there is no measure '{name}'; there are {', '.join(measures.ALL)}")
-    # So that the file systems are taken down when the run is cut short.
+            parser.error(f"unknown measure '{name}'; the measures are {', '.join(measures.ALL)}")
+    # Exits normally, so that the file systems are unmounted.
     signal.signal(signal.SIGTERM, lambda *_: sys.exit("bench: ended by a signal"))
     try:
         run(arguments)

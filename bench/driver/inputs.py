@@ -1,5 +1,5 @@
-"""What is measured with: trees from a fixed seed, packages of them, and the bundle and home that the
-launcher runs in."""
+"""The inputs: trees from a fixed seed, packages of them, and the bundle and home in which the launcher
+runs."""
 
 import os
 import pathlib
@@ -11,7 +11,7 @@ import sysconfig
 import workspace
 
 SEED = 20140915
-VERSION = 2  # changes with what the trees hold, so that packages of another kind aren't used
+VERSION = 2  # changes with the contents of the trees, so that older packages aren't used
 
 EXECUTABLE = "Contents/MacOS/larkmoor-drive-ui"
 INFO = "Contents/Resources/INFO"
@@ -20,8 +20,7 @@ INFO_TEXT = "[Version]\nmajor_version=3\nminor_version=1\nbuild_version={}\nicon
 MAKE_PACKAGE = pathlib.Path(__file__).parents[2] / "scripts/make-package"
 ICON = pathlib.Path(__file__).parents[2] / "resources/images/ico_72_larkmoor.png"
 
-# Without the system's forty or so files of rules for fonts, which each program that shows text reads
-# anew.
+# Without the system's forty or so configuration files for fonts, which every program with a window parses.
 ONE_FONT = """<?xml version="1.0"?>
 <!DOCTYPE fontconfig SYSTEM "urn:fontconfig:fonts.dtd">
 <fontconfig><dir>/usr/share/fonts/truetype/dejavu</dir><cachedir>{cache}</cachedir></fontconfig>
@@ -36,7 +35,7 @@ FORMATS = {
 
 
 def _vocabulary():
-    """Words as short and as often repeated as those of a program's texts."""
+    """Words as short and as frequent as those in a program's texts."""
     source = random.Random(SEED)
     return [bytes(source.choices(b"etaoinshrdlucmfw_.", k=source.randint(2, 10))) + b" "
             for _ in range(4000)]
@@ -46,8 +45,8 @@ _WORDS = _vocabulary()
 
 
 def content(source, size):
-    """A quarter can't be packed, as in pictures, half is words, a quarter repeats what stood
-    before: about half is left by gzip."""
+    """A quarter is incompressible, as in pictures, half is words, a quarter repeats earlier bytes: gzip
+    compresses it to about half."""
     quarter = size // 4
     words = b"".join(source.choices(_WORDS, k=size // 14 + 1))[: 2 * quarter]
     start = source.randbytes(quarter) + words
@@ -56,7 +55,7 @@ def content(source, size):
 
 
 def client(folder):
-    """What makes a tree a client: something to start, and its version."""
+    """What makes a tree a client: an executable and a version."""
     executable = folder / EXECUTABLE
     executable.parent.mkdir(parents=True, exist_ok=True)
     executable.write_text("#!/bin/sh\n")
@@ -67,7 +66,7 @@ def client(folder):
 
 
 def tree(folder, files, size, folders):
-    """`files` files of about the same size, `size` bytes in all, in `folders` folders."""
+    """`files` files of similar size, `size` bytes in total, in `folders` folders."""
     source = random.Random(SEED)
     places = [folder / "Contents/Resources" / f"group-{i % 40:02}" / f"folder-{i:05}"
               for i in range(folders)]
@@ -92,7 +91,7 @@ def deep_tree(folder, files, depth):
 
 
 def system_tree(folder, size):
-    """The system's own libraries, in the order of their names, until there are `size` bytes."""
+    """The system's libraries, in order of their names, up to `size` bytes."""
     libraries = pathlib.Path("/usr/lib") / (sysconfig.get_config_var("MULTIARCH") or "")
     place = folder / "Contents/Frameworks"
     place.mkdir(parents=True)
@@ -110,7 +109,7 @@ def system_tree(folder, size):
 
 
 def pack(folder, package, options):
-    """Client and version come last, as in every package."""
+    """The client's executable and INFO are last, as in every package."""
     paths = sorted(str(path.relative_to(folder)) for path in folder.rglob("*"))
     paths = [path for path in paths if path not in (EXECUTABLE, INFO)] + [EXECUTABLE, INFO]
     partial = package.with_name(package.name + ".partial")
@@ -120,12 +119,12 @@ def pack(folder, package, options):
 
 
 def make_package(folder, package, *options):
-    """As a release makes it."""
+    """As for a release."""
     subprocess.run([MAKE_PACKAGE, "--quiet", *options, folder, package], check=True)
 
 
 class Packages:
-    """Packages are kept from one run to the next: packing takes longer than measuring."""
+    """Packages, kept for the next run: packing takes longer than measuring."""
 
     def __init__(self, cache, scratch):
         self.cache = cache / f"inputs-{VERSION}"
@@ -133,7 +132,7 @@ class Packages:
         self.scratch = scratch
 
     def get(self, name, kinds, make_tree):
-        """A package of the tree in each of the kinds, on the file system that is measured on."""
+        """A package of the tree for each of the kinds."""
         missing = [kind for kind in kinds if not (self.cache / f"{name}.{kind}").exists()]
         if missing:
             folder = self.scratch / "tree"
@@ -143,9 +142,8 @@ class Packages:
             remove(folder)
         return {kind: self.cache / f"{name}.{kind}" for kind in kinds}
 
-
     def xz(self, name, tree):
-        """The smallest that takes no more memory to unpack than a user's machine has to spare."""
+        """The smallest package that unpacks in moderate memory."""
         package = self.cache / f"{name}.xz.lpk"
         if not package.exists():
             make_package(tree, package, "--filter", "xz", "--level", "6")
@@ -153,7 +151,7 @@ class Packages:
 
 
 class Bundle:
-    """The application as a user has it, the peers beside the launcher, and a home."""
+    """The bundle as a user has it, with the peers beside the launcher, and a home."""
 
     def __init__(self, folder, build, qt_plugins):
         self.root = folder / "Larkmoor.app"
@@ -198,7 +196,7 @@ class Bundle:
             self.carried = package
 
     def empty(self):
-        """As it was at first: nothing carried, nothing installed."""
+        """Back to the initial state: no package, nothing installed."""
         self.package.unlink(missing_ok=True)
         self.carried = None
         self.forget_installation()
@@ -207,7 +205,7 @@ class Bundle:
         remove(self.home / ".Larkmoor")
 
     def install_same_build(self):
-        """So that a start has nothing to upgrade."""
+        """Installs the build of the bundle, so that a start has nothing to upgrade."""
         if not self.installed.exists():
             client(self.installed)
 
@@ -221,11 +219,11 @@ class Bundle:
         info = self.installed / INFO
         if not info.exists() or info.read_text() != INFO_TEXT.format(2):
             log = (self.home / ".Larkmoor/log/launcher.log").read_text(errors="replace")
-            raise workspace.Failure(f"the launcher installed nothing and says:\n{log}")
+            raise workspace.Failure(f"the launcher installed nothing and logged:\n{log}")
 
 
 def size(path):
-    """Bytes that a file, or all files of a tree, take on a file system."""
+    """Bytes that a file, or all files of a tree, take on the file system."""
     files = [path] if path.is_file() else path.rglob("*")
     return sum(file.stat().st_blocks for file in files) * 512
 

@@ -7,7 +7,7 @@ import tempfile
 
 import workspace
 
-# A is taken twice: every other run against the rest. What those two medians differ by is noise.
+# A is compared with A: every other run with the rest. The difference of these medians is noise.
 MAX_DIFFERENCE_OF_A_AND_A = 0.05
 
 
@@ -24,8 +24,8 @@ class Runner:
         self.warm_memory = warm_memory
 
     def warm(self, size):
-        """Sees to it that so many bytes, but no more than half of what is free, can be taken without
-        waiting for the host of a virtual machine. Where memory is limited it does nothing."""
+        """Touches `size` bytes, at most half of the free memory, and frees them, because a virtual machine
+        may have returned its free memory to the host and would wait for it. No effect if memory is short."""
         size = min(size, workspace.free_memory() // 2)
         if size > 0:
             subprocess.run([self.warm_memory, str(size)], check=False)
@@ -42,9 +42,9 @@ class Runner:
 
 @dataclasses.dataclass
 class Contender:
-    """One side of a comparison. `prepare` runs before each run, outside of the time, and makes ready
-    all that the run needs: another side may have gone before, or none. `check` runs after it. A run
-    takes about `memory` bytes, files on the tmpfs included."""
+    """One program of a comparison. `prepare` runs before each run and isn't measured; it prepares everything
+    that the run needs, whichever program ran before. `check` runs after it. A run takes about `memory`
+    bytes, including files on the tmpfs."""
 
     name: str
     command: list
@@ -59,10 +59,9 @@ def median(samples, of):
 
 
 def in_turn(runner, contenders, orders):
-    """Each of them once in a round: what changes on the machine meanwhile meets all of them. `orders`
-    holds one order of the contenders for each round, since a program also meets what the one before
-    it has left behind: a client that was just started, for one. A list of samples for each
-    contender."""
+    """Runs each of them once per round, so that other load affects all of them. `orders` has one order of
+    the contenders for each round, because a run is affected by the previous one, for instance by a client
+    that is still starting. Returns a list of samples for each contender."""
     samples = [[] for _ in contenders]
     for order in orders:
         for i in order:
@@ -77,14 +76,14 @@ def in_turn(runner, contenders, orders):
 
 
 def noise(samples):
-    """How far two halves of the same measurement lie apart, as a share."""
+    """The relative difference of the two halves of a measurement."""
     if len(samples) < 2:
         return None
     return abs(median(samples[::2], "wall") / median(samples[1::2], "wall") - 1)
 
 
 def compare(contenders, samples, goal=None):
-    """The first contender is ours, the second the peer, a third one the floor."""
+    """The first contender is ours, the second the peer, the third, if any, the floor."""
     wall = [median(taken, "wall") for taken in samples]
     cpu = [median(taken, "cpu") for taken in samples]
     result = {

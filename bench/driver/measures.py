@@ -23,15 +23,15 @@ def _starts(session, display=None, fonts=None):
         "launcher": "launcher",
         "minimal with dialog, thread, catalogue": "bench-minimal-dialog",
         "bare minimal": "bench-minimal",
-        "the least that a start takes": "bench-start-floor",
+        "start floor": "bench-start-floor",
     }
     return [Contender(name, [bundle.program(program)], environment, bundle.install_same_build)
             for name, program in names.items()]
 
 
 def start(session):
-    """A plain start: nothing to upgrade. Once more with a single font, since reading what the system
-    says about fonts is a good part of what each of them does."""
+    """A plain start: nothing to upgrade. Also with a single font, because the configuration of fonts takes a
+    large part of each start."""
     places = [(where, display, None) for where, display in session.displays()]
     places.append(("offscreen, one font", None, session.bundle.one_font))
     for where, display, fonts in places:
@@ -57,7 +57,7 @@ def memory(session):
 
 
 def notify(session):
-    """Notifications while the window keeps pace: the memory must not grow with them."""
+    """The memory must not grow with the number of notifications, if the window keeps up."""
     few, many = session.plan.notifications
     peaks = []
     for count in (few, many):
@@ -85,7 +85,7 @@ def calls(session):
 
 
 def _count_calls(lines):
-    """By name, over all threads. What the started client does as a program of its own isn't ours."""
+    """By name, over all threads, without those of the client after its exec."""
     count, ours, gone = {}, None, set()
     for line in lines:
         call = re.match(r"(\d+) +(\w+)\(", line)
@@ -101,7 +101,7 @@ def _count_calls(lines):
 # ---- upgrade ----
 
 def _upgrade(session, name, package, tree):
-    """A whole one: an older client of the same size is there."""
+    """A whole upgrade: an older client of the same size is installed."""
     bundle = session.bundle
 
     def prepare():
@@ -113,8 +113,7 @@ def _upgrade(session, name, package, tree):
 
 
 def upgrade(session):
-    """What a user waits for, with the package that scripts/make-package makes by default, and what
-    it takes to make that."""
+    """What a user waits for, with the default package of scripts/make-package, and the cost of making it."""
     plan = session.plan
     default, gzip = session.folder / "default.lpk", session.folder / "gzip.lpk"
     with _Source(session, plan.big[1]) as tree:
@@ -154,7 +153,7 @@ def _install(session, package, display=None, name="launcher"):
 
 
 def _into_fresh_folder(session, package, name, command):
-    """A command that unpacks the package from where the launcher finds it."""
+    """A command that unpacks the package in the bundle."""
     folder = session.folder / "unpacked"
 
     def prepare():
@@ -217,7 +216,7 @@ def install_growth(session):
 # ---- remove and copy ----
 
 class _Source:
-    """A tree or file made once, to be copied before each run."""
+    """A tree or file, created once and copied before each run."""
 
     def __init__(self, session, make):
         self.path = session.folder / "source"
@@ -232,15 +231,29 @@ class _Source:
         inputs.remove(self.path)
 
 
+def _make_room(target, ext4):
+    """Removes what the previous run left; an ext4 is recreated."""
+    if ext4:
+        ext4.renew()
+    else:
+        inputs.remove(target)
+
+
+def _growth_with_source(session, all_series, contenders_of):
+    for file, name, work, series in all_series:
+        lines = {}
+        for x, make in series:
+            with _Source(session, make) as source:
+                session.add_points(lines, x, contenders_of(session, source), session.plan.growth_rounds)
+        session.growth(file, name, work, lines)
+
+
 def _removals(session, source, ext4=None):
-    """Each removes a copy of the tree; on ext4 the file system is made anew as well."""
+    """Each removes a copy of the tree."""
     target = (ext4.folder if ext4 else session.folder) / "removed"
 
     def prepare():
-        if ext4:
-            ext4.renew()
-        else:
-            inputs.remove(target)
+        _make_room(target, ext4)
         workspace.run(["cp", "-r", source, target])
         if ext4:
             workspace.run(["sync", "-f", target])
@@ -266,27 +279,18 @@ def remove(session):
 
 
 def remove_growth(session):
-    plan = session.plan
-    for file, name, work, series in plan.removal_series:
-        lines = {}
-        for x, make_tree in series:
-            with _Source(session, make_tree) as source:
-                session.add_points(lines, x, _removals(session, source), plan.growth_rounds)
-        session.growth(file, name, work, lines)
+    _growth_with_source(session, session.plan.removal_series, _removals)
 
 
 def _copies(session, source, ext4=None):
     target = (ext4.folder if ext4 else session.folder) / "copied"
 
     def prepare():
-        if ext4:
-            ext4.renew()
-        else:
-            inputs.remove(target)
+        _make_room(target, ext4)
 
     synced = 'cp -r "$1" "$2" && find "$2" -type f -exec sync {} +'
     programs = session.build / "bench"
-    # On ext4 a file takes its size twice: what was written, and the image that it goes to.
+    # On ext4 a file takes its size twice: in the page cache, and in the image.
     memory = inputs.size(source) * (2 if ext4 else 1)
     contenders = [
         Contender("FSCopyPath", [programs / "bench-copy", source, target], None, prepare,
@@ -314,13 +318,7 @@ def copy(session):
 
 
 def copy_growth(session):
-    plan = session.plan
-    for file, name, work, series in plan.copy_series:
-        lines = {}
-        for x, make in series:
-            with _Source(session, make) as source:
-                session.add_points(lines, x, _copies(session, source), plan.growth_rounds)
-        session.growth(file, name, work, lines)
+    _growth_with_source(session, session.plan.copy_series, _copies)
     inputs.remove(session.folder / "copied")
 
 
@@ -329,7 +327,7 @@ def copy_growth(session):
 _PART = re.compile(r"(?P<group>[^/]+)/(?P<operation>[^/]+)/(?P<who>[^/]+?)"
                    r"(/(?P<size>\d+))?(/real_time)?(/threads:(?P<threads>\d+))?$")
 
-# Ours, then the group's goal against the closest peer, then what the series grows with.
+# Our name, the goal against the fastest peer, and the parameter of the series.
 _GROUPS = {
     "level file": ("Config", 1.0, "lines"),
     "log filtered": ("Logger", 1.0, "threads"),
@@ -339,8 +337,8 @@ _GROUPS = {
 
 
 def parts(session):
-    """Google Benchmark, its benchmarks in random order. Processor time is taken, also of several
-    threads: what they wait for each other shows in it as calls of the system."""
+    """Runs Google Benchmark in random order. It uses processor time for several threads, too: waiting for
+    each other shows as system calls."""
     plan = session.plan
     out = session.folder / "parts.json"
     workspace.run(

@@ -1,4 +1,4 @@
-"""How much is measured: in full, or in short to see that it works."""
+"""The extent of a run: full, or short to test the measuring."""
 
 import functools
 import random
@@ -83,7 +83,7 @@ class Full:
     ]
 
     def limit(self, pairs):
-        """No measure takes more pairs than that."""
+        """Limits every measure to that many pairs."""
         if pairs:
             for name in ("starts", "memory_runs", "packings", "installs", "removal_rounds", "copy_rounds",
                          "growth_rounds", "part_repetitions"):
@@ -95,7 +95,7 @@ class Full:
 
 
 class Short(Full):
-    """Everything on next to nothing, in every order of the sides. The figures mean nothing."""
+    """Everything on tiny inputs, in every order of the contenders. The figures mean nothing."""
 
     every_order = True
     notifications = (100, 1000)

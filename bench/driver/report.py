@@ -1,4 +1,4 @@
-"""The table, the file for machines and the pictures."""
+"""The tables, the JSON file and the pictures."""
 
 import json
 import math
@@ -7,7 +7,7 @@ import subprocess
 
 from measure import is_noisy
 
-MEANINGFUL_PAIRS = 3  # with less nothing is said of goals
+MEANINGFUL_PAIRS = 3  # with fewer there is no verdict
 
 
 def _time(seconds):
@@ -36,7 +36,7 @@ def _row(result):
 
 
 def table(rows, heads):
-    """In Markdown, so that a document can take it as it is. Numbers are aligned to the right."""
+    """A Markdown table, for documents. Numbers are right-aligned."""
     widths = [max(len(row[i]) for row in [heads, *rows]) for i in range(len(heads))]
     lines = []
     for row in [heads, *rows]:
@@ -49,12 +49,12 @@ def table(rows, heads):
 
 
 def empty():
-    """What one measure may find."""
+    """The results that one measure may have."""
     return {"comparisons": [], "memory": [], "growths": [], "calls": {}, "parts": []}
 
 
 def keep(folder, name, found):
-    """Puts what a measure found into the report, in place of what it found earlier."""
+    """Adds the results of a measure to the report, replacing earlier ones."""
     path = folder / "report.json"
     report = json.loads(path.read_text()) if path.exists() else {}
     report[name] = found
@@ -100,7 +100,7 @@ def text(measures):
 
 
 def _parts_text(parts):
-    """One line for each operation: its ratio to the fastest peer over its series."""
+    """One row per operation: its ratio to the fastest peer over the series."""
     rows = []
     for name in dict.fromkeys(part["name"] for part in parts):
         ratios = sorted(part["ratio"] for part in parts if part["name"] == name)
@@ -112,7 +112,7 @@ def _parts_text(parts):
 
 
 def exponent(points):
-    """Cost grows with that power of the work, over the upper half of the series."""
+    """The power of the work with which the cost grows, over the upper half of the series."""
     (x0, y0), (x1, y1) = points[len(points) // 2 - 1], points[-1]
     return math.log(y1 / y0) / math.log(x1 / x0) if x0 != x1 else 0.0
 
@@ -132,7 +132,7 @@ def _growth_text(growth):
 
 
 def _conditions(measures):
-    """When each measure ran, and whether the machine was quiet enough to believe it."""
+    """When each measure ran, and how noisy the machine was."""
     rows = []
     for name, found in measures.items():
         noisy = sum(is_noisy(result) for result in found["comparisons"])
@@ -140,12 +140,12 @@ def _conditions(measures):
         rows.append([name, found["date"], f"{found['load'][0]}, {found['load'][1]}",
                      f"{found['seconds']} s", f"{noisy} of {of}" if of else ""])
     lines = table(rows, ["measure", "run at", "load before, after", "took", "noisy"])
-    return lines + ("\n\nNoisy: two halves of the same measurement, A against A, differ by more than "
-                    "5 %: not to be believed. The cpu ratio bears more than the ratio of wall times.")
+    return lines + ("\n\nNoisy: the two halves of a measurement (A/A) differ by more than 5 %. The "
+                    "processor ratio tolerates more load than the ratio of wall times.")
 
 
 def plot(commands):
-    """Has gnuplot draw, where it is installed."""
+    """Runs gnuplot, if it is installed."""
     if shutil.which("gnuplot"):
         subprocess.run(["gnuplot"], input="\n".join(commands) + "\n", text=True, check=True)
 
@@ -168,7 +168,7 @@ def draw(growth, folder):
 
 
 def draw_waits(measures, path):
-    """What a user waits for, as bars: a plain start, and an upgrade beside its peers."""
+    """What a user waits for: a plain start, and an upgrade beside its peers."""
     if not {"start", "upgrade"} <= measures.keys():
         return
     start = measures["start"]["comparisons"][0]["contenders"][0]

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Compares the filters and levels that a package can be made with. Started by scripts/bench study."""
+"""Compares the filters and levels for packages. Run by scripts/bench study."""
 
 import argparse
 import dataclasses
@@ -20,7 +20,7 @@ MB = 1000**2
 
 
 def small_files(folder, size):
-    """The texts and modules that the system's programs come with, one in three thousand bytes."""
+    """Text files and modules of the system's programs, about 3,000 bytes each."""
     place = folder / "Contents/Resources"
     inputs.client(folder)
     taken = 0
@@ -37,7 +37,7 @@ def small_files(folder, size):
 
 
 def media(folder, size):
-    """What no filter makes smaller, as pictures and films are."""
+    """Incompressible files, such as pictures and films."""
     source = random.Random(inputs.SEED)
     place = folder / "Contents/Resources"
     inputs.client(folder)
@@ -56,7 +56,7 @@ CLIENTS = {
 class Setting:
     filter: str
     level: int = None
-    window: int = None  # its binary logarithm, where it isn't the level's own
+    window: int = None  # its binary logarithm, if not the default of the level
 
     @property
     def name(self):
@@ -65,7 +65,7 @@ class Setting:
         return self.filter + level + window
 
     def command(self, tar, package):
-        """Through bsdtar, as libarchive writes it; zstd itself also takes a window and all cores."""
+        """bsdtar, or zstd itself, which supports a window and uses all cores."""
         if self.filter == "zstd":
             window = [f"--zstd=wlog={self.window}"] if self.window else []
             return ["zstd", "-q", "-f", f"-T{os.cpu_count()}", "--ultra", f"-{self.level}", *window,
@@ -89,7 +89,7 @@ SETTINGS = [
 
 
 def measure(runner, floor, folder, tar, setting):
-    """Sizes in bytes, times in seconds of a processor, memory in bytes."""
+    """Returns sizes and memory in bytes, processor times in seconds."""
     package = folder / "package"
     unpacked = folder / "unpacked"
     packing = runner.run(setting.command(tar, package))
@@ -104,7 +104,7 @@ def measure(runner, floor, folder, tar, setting):
 
 
 def table(found):
-    """One row for each setting: all clients together, then the size of each."""
+    """One row per setting: the total size, then the size for each client."""
     names = list(found)
     rows = []
     for setting in (setting.name for setting in SETTINGS):
@@ -120,7 +120,7 @@ def table(found):
 
 
 def draw(found, path):
-    """Size against time to unpack: one point for each setting, a colour for each filter."""
+    """Size against time to unpack: one point per setting, one colour per filter."""
     lines = {}
     for setting in SETTINGS:
         if setting.level is None or setting.name not in found["libraries"]:

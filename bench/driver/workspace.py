@@ -1,7 +1,7 @@
-"""A file system of our own to measure on, and facts about the machine.
+"""File systems to measure on, and facts about the machine.
 
-Creating files soon after a mass removal on the same ext4 is many times slower, so measuring in an
-ordinary folder would measure the runs before it.
+Creating files soon after a mass removal on the same ext4 is many times slower, so results from an ordinary
+folder would depend on the previous runs.
 """
 
 import contextlib
@@ -16,11 +16,11 @@ SHARED_MEMORY = pathlib.Path("/dev/shm")
 
 
 class Failure(Exception):
-    """Says what is wrong and what mends it."""
+    """Its message names the cause and the fix."""
 
 
 def run(command, **options):
-    """Runs a command, its output thrown away; what it says of a failure is in the exception."""
+    """Runs a command and discards its output; the exception of a failure has its messages."""
     done = subprocess.run([str(word) for word in command], stdin=subprocess.DEVNULL,
                           stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, **options)
     check(done.returncode, command, done.stderr)
@@ -28,13 +28,13 @@ def run(command, **options):
 
 def check(status, command, words):
     if status != 0:
-        words = words.decode(errors="replace").strip() or "it says nothing"
-        raise Failure(f"{' '.join(map(str, command))}\n   ended with status {status}: {words}")
+        words = words.decode(errors="replace").strip() or "no message"
+        raise Failure(f"{' '.join(map(str, command))}\n   exited with status {status}: {words}")
 
 
 @contextlib.contextmanager
 def memory(size):
-    """A folder on a tmpfs with that many bytes free, removed at the end."""
+    """A folder on a tmpfs with `size` bytes free, removed at the end."""
     if not SHARED_MEMORY.is_dir() or shutil.disk_usage(SHARED_MEMORY).free < size:
         raise Failure(
             f"{SHARED_MEMORY} has less than {size >> 20} MiB free: free some, or run "
@@ -45,7 +45,7 @@ def memory(size):
 
 
 class FreshExt4:
-    """An ext4 in a file on the tmpfs, made anew as often as wanted. Needs root and a loop device."""
+    """An ext4 in a file on the tmpfs that can be recreated. Needs root and a loop device."""
 
     def __init__(self, memory_folder, size):
         self.image = memory_folder / "ext4.image"
@@ -92,7 +92,7 @@ def machine():
 
 
 def free_memory():
-    """Bytes that could be taken."""
+    """Available memory in bytes."""
     for line in pathlib.Path("/proc/meminfo").read_text().splitlines():
         if line.startswith("MemAvailable:"):
             return int(line.split()[1]) * 1024
@@ -100,5 +100,5 @@ def free_memory():
 
 
 def load():
-    """Processes that want to run, over the last minute."""
+    """The load average of the last minute."""
     return round(os.getloadavg()[0], 1)

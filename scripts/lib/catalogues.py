@@ -1,5 +1,6 @@
 """Reads the string table and reads and writes the translation catalogues."""
 
+import argparse
 import os
 import re
 import sys
@@ -143,6 +144,21 @@ def write_catalogue(path, groups, messages):
     with open(path + '.new', 'w', encoding='utf-8', newline='\n') as file:
         file.write('\n'.join(out))
     os.replace(path + '.new', path)
+
+
+def read_options(help_text, *positional):
+    """The options that the scripts share, and a list for each positional argument. -h prints the help text
+    and exits."""
+    parser = argparse.ArgumentParser(add_help=False)
+    parser.add_argument('-h', '--help', action='store_true')
+    parser.add_argument('--localisation', default=LOCALISATION)
+    for name in positional:
+        parser.add_argument(name, nargs='*')
+    options = parser.parse_args()
+    if options.help:
+        print(help_text.strip())
+        sys.exit()
+    return options
 
 
 def run(main):

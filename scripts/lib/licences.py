@@ -194,12 +194,12 @@ def check(bundle):
     for name in sorted(names):
         texts = [text for text in texts_in(folder / name) if text.stat().st_size]
         if not texts:
-            yield f'Contents/Resources/licenses/{name} holds no text: make the bundle anew'
+            yield f'Contents/Resources/licenses/{name} holds no text: make the bundle again'
         for text in texts:
             for common in common_names(text):
                 if not (folder / COMMON.name / common).is_file():
                     yield (f'{text.relative_to(bundle)} refers to {common}, which is missing in '
-                           f'Contents/Resources/licenses/{COMMON.name}: make the bundle anew')
+                           f'Contents/Resources/licenses/{COMMON.name}: make the bundle again')
 
 
 def main():

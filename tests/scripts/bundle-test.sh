@@ -119,7 +119,7 @@ TestBundleLiesWhereItIsAskedForWhateverTheInstallationsRoot() {
 
 TestFrameWithoutPackageSaysSo() {
   expect_success make_bundle out.app
-  expect_said "The bundle carries no package"
+  expect_said "The bundle has no package"
 }
 
 TestOneBundleIsMade() {
