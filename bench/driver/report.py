@@ -35,15 +35,15 @@ def _row(result):
             "" if result["noise"] is None else f"{100 * result['noise']:.1f} %"]
 
 
-def table(rows, heads):
-    """A Markdown table, for documents. Numbers are right-aligned."""
+def table(rows, heads, names=2):
+    """A Markdown table, for documents. The first columns are names, the others right-aligned numbers."""
     widths = [max(len(row[i]) for row in [heads, *rows]) for i in range(len(heads))]
     lines = []
     for row in [heads, *rows]:
-        cells = [cell.ljust(width) if i < 2 else cell.rjust(width)
+        cells = [cell.ljust(width) if i < names else cell.rjust(width)
                  for i, (cell, width) in enumerate(zip(row, widths))]
         lines.append("| " + " | ".join(cells) + " |")
-    rules = ["-" * width if i < 2 else "-" * (width - 1) + ":" for i, width in enumerate(widths)]
+    rules = ["-" * width if i < names else "-" * (width - 1) + ":" for i, width in enumerate(widths)]
     lines.insert(1, "| " + " | ".join(rules) + " |")
     return "\n".join(lines)
 
@@ -94,7 +94,7 @@ def text(measures):
     if report["calls"]:
         rows = [[call, str(counts[0]), str(counts[1]), f"{counts[0] - counts[1]:+d}"]
                 for call, counts in report["calls"].items() if counts[0] != counts[1]]
-        parts.append(table(rows, ["system call", "launcher", "minimal", "difference"]))
+        parts.append(table(rows, ["system call", "launcher", "minimal", "difference"], 1))
     parts.append(_conditions(measures))
     return "\n\n".join(parts)
 
@@ -124,11 +124,11 @@ def _growth_text(growth):
     for i, x in enumerate(xs):
         values = [growth["lines"][name][i][1] for name in names]
         closest = min(values[1 : 1 + growth["peers"]])
-        rows.append([f"{x:g}", "", *[_time(value) for value in values],
+        rows.append([f"{x:g}", *[_time(value) for value in values],
                      f"{values[0] / closest:.2f}"])
     powers = ["x^" + format(exponent(growth["lines"][name]), ".2f") for name in names]
-    rows.append(["grows as", "", *powers, ""])
-    return f"{growth['name']}\n" + table(rows, [growth["work"], "", *names, "ratio"])
+    rows.append(["grows as", *powers, ""])
+    return f"{growth['name']}\n" + table(rows, [growth["work"], *names, "ratio"], 1)
 
 
 def _conditions(measures):

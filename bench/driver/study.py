@@ -116,7 +116,7 @@ def table(found):
                      f"{sum(one['pack'] for one in all_of):.1f} s",
                      f"{sum(one['unpack'] for one in all_of):.2f} s",
                      f"{max(one['memory'] for one in all_of) / 2**20:.0f} MiB"])
-    return reports.table(rows, ["filter, level", "MB", *names, "pack", "unpack twice", "memory"])
+    return reports.table(rows, ["filter, level", "MB", *names, "pack", "unpack twice", "memory"], 1)
 
 
 def draw(found, path):
