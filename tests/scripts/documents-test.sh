@@ -99,7 +99,8 @@ TestTheReadmeLeadsToEveryDocument() {
   documents | sed "s|^$PROJECT/||" | grep -v '^README.md$' | expect_found "not in the README" is_in_readme
 }
 
-is_in_readme() { grep -qF "]($1)" "$PROJECT/README.md"; }
+# A link to a folder shows its README.
+is_in_readme() { grep -qF -e "]($1)" -e "](${1%/README.md})" "$PROJECT/README.md"; }
 
 # The newest section, "## [1.2.3] - 2030-12-31", is that of the version which is being worked on.
 TestTheChangelogBeginsWithTheProjectsVersion() {
