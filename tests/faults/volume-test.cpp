@@ -471,28 +471,63 @@ TEST_F(MacVolume, APackageWithANameThatIsNotUtf8GivesTheOldTreeBack) {
   EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp"));
 }
 
-TEST_F(MacVolume, StrictWantsTheCaseThatTheVolumeKeeps) {
+/// How a path below the home is stored, and other spellings that lead to it.
+constexpr char kStored[] = "/Users/\u00C9mile/Stra\u00DFe/Foo";
+constexpr char kDecomposed[] = "/Users/E\u0301mile/Stra\u00DFe/Foo";
+char const* const kInAnotherCase[] = {
+    "/Users/\u00C9mile/Stra\u00DFe/foo", "/users/\u00C9mile/Stra\u00DFe/Foo",
+    "/Users/\u00E9mile/Stra\u00DFe/Foo", "/Users/e\u0301mile/Stra\u00DFe/Foo",
+    "/Users/\u00C9mile/STRASSE/Foo",
+};
+
+TEST_F(MacVolume, IsFileExistWithStrictWantsTheCaseThatTheVolumeKeeps) {
   std::string const home = sandbox_.Home();
-  test::WriteFile(home + "/Users/\xC3\x89mile/Foo", "bytes");
-  for (char const* const name : {"/Users/\xC3\x89mile/Foo", "/Users/E\xCC\x81mile/Foo"}) {
+  test::WriteFile(home + kStored, "bytes");
+  for (char const* const name : {kStored, kDecomposed}) {
     EXPECT_TRUE(IsFileExist(ustring(home + name), false)) << name;
     EXPECT_TRUE(IsFileExist(ustring(home + name), true)) << name;
   }
-  for (char const* const name : {"/Users/\xC3\x89mile/foo", "/users/\xC3\x89mile/Foo",
-                                 "/Users/\xC3\xA9mile/Foo", "/Users/e\xCC\x81mile/Foo"}) {
+  for (char const* const name : kInAnotherCase) {
     EXPECT_TRUE(IsFileExist(ustring(home + name), false)) << name;
     EXPECT_FALSE(IsFileExist(ustring(home + name), true)) << name;
-    _FILE_INFO_tag info;
-    EXPECT_EQ(GetFileInfo(ustring(home + name), info), 0);
-    EXPECT_EQ(info.path, ustring(home + "/Users/\xC3\x89mile/Foo"));
-    EXPECT_EQ(FSStat(ustring(home + name), info, true), 0);
-    EXPECT_FALSE(info.exists);
-    EXPECT_EQ(FSRename(ustring(home + name), ustring(home + "/other"), true), -2);
   }
   EXPECT_FALSE(IsFileExist(ustring(home + "/Users/none"), false));
-  ustring real(home + "/users/\xC3\xA9MILE/FOO");
-  EXPECT_EQ(FSGetRealPath(real), 0);
-  EXPECT_EQ(real, ustring(home + "/Users/\xC3\x89mile/Foo"));
+}
+
+TEST_F(MacVolume, FSStatWithStrictWantsTheCaseThatTheVolumeKeeps) {
+  std::string const home = sandbox_.Home();
+  test::WriteFile(home + kStored, "bytes");
+  for (char const* const name : kInAnotherCase) {
+    _FILE_INFO_tag info;
+    EXPECT_EQ(FSStat(ustring(home + name), info, true), 0);
+    EXPECT_FALSE(info.exists) << name;
+    EXPECT_EQ(FSStat(ustring(home + name), info, false), 0);
+    EXPECT_TRUE(info.exists) << name;
+  }
+}
+
+TEST_F(MacVolume, PathsAreReportedInTheCaseThatTheVolumeKeeps) {
+  std::string const home = sandbox_.Home();
+  test::WriteFile(home + kStored, "bytes");
+  for (char const* const name : kInAnotherCase) {
+    _FILE_INFO_tag info;
+    EXPECT_EQ(GetFileInfo(ustring(home + name), info), 0);
+    EXPECT_EQ(info.path, ustring(home + kStored));
+    ustring real(home + name);
+    EXPECT_EQ(FSGetRealPath(real), 0);
+    EXPECT_EQ(real, ustring(home + kStored));
+  }
+}
+
+TEST_F(MacVolume, FSRenameWithStrictMissesASourceInAnotherCase) {
+  std::string const home = sandbox_.Home();
+  for (char const* const name : kInAnotherCase) {
+    test::WriteFile(home + kStored, "bytes");
+    EXPECT_EQ(FSRename(ustring(home + name), ustring(home + "/other"), true), -2) << name;
+    EXPECT_TRUE(fs::exists(Behind() + kStored)) << name;
+    EXPECT_EQ(FSRename(ustring(home + name), ustring(home + "/other"), false), 0) << name;
+    EXPECT_FALSE(fs::exists(Behind() + kStored)) << name;
+  }
 }
 
 TEST_F(MacVolume, FSRenameWithStrictMovesWhatIsSpelledAsTheVolumeKeepsIt) {
