@@ -93,7 +93,7 @@ tool tr Ccdsu
 tool uname amnoprsv
 tool uniq cdDiuf:s:
 tool wc clmwL
-tool xargs 0optrxE:I:J:L:n:P:R:S:s:
+tool xargs 0optxE:I:J:L:n:P:R:S:s:
 # What a Mac hasn't at all; what the scripts look for before they call it isn't here.
 for name in tac shuf timeout realpath sha256sum md5sum numfmt stdbuf setsid; do
   printf '#!/bin/sh\necho "%s: not on a Mac" >&2\nexit 127\n' $name >"$bin/$name"
