@@ -39,26 +39,22 @@ install(FILES ${resources}/images/ico_72_larkmoor.png
 # The launcher looks for plug-ins only here. PNG is built into Qt; without xcb's GL integrations the dialog
 # takes a third of the memory.
 if(APPLE)
-  set(plugins QCocoaIntegrationPlugin QOffscreenIntegrationPlugin QMacStylePlugin)
+  set(plugins platforms/libqcocoa platforms/libqoffscreen styles/libqmacstyle)
 else()
-  set(plugins QXcbIntegrationPlugin QOffscreenIntegrationPlugin QMinimalIntegrationPlugin)
+  set(plugins platforms/libqxcb platforms/libqoffscreen platforms/libqminimal)
 endif()
 foreach(plugin IN LISTS plugins)
-  if(TARGET Qt5::${plugin})
-    set(folder platforms)
-    if(plugin MATCHES Style)
-      set(folder styles)
-    endif()
-    install(FILES $<TARGET_FILE:Qt5::${plugin}>
-      DESTINATION ${contents}/Frameworks/plugins/${folder} COMPONENT bundle)
+  set(file ${larkmoor_qt_plugins}/${plugin}${CMAKE_SHARED_LIBRARY_SUFFIX})
+  if(EXISTS ${file})
+    get_filename_component(folder ${plugin} DIRECTORY)
+    install(FILES ${file} DESTINATION ${contents}/Frameworks/plugins/${folder} COMPONENT bundle)
   else()
-    message(WARNING "Qt comes without ${plugin}: the bundle lacks it")
+    message(WARNING "Qt comes without ${file}: the bundle lacks it")
   endif()
 endforeach()
 
 if(APPLE)
-  get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
-  get_filename_component(qt_programs ${qmake} DIRECTORY)
+  get_filename_component(qt_programs ${larkmoor_qmake} DIRECTORY)
   find_program(LARKMOOR_MACDEPLOYQT macdeployqt HINTS ${qt_programs})
   # No variable may have the name of a component: the generated script compares with "bundle".
   install(CODE "

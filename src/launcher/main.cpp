@@ -53,7 +53,8 @@ int main(int argc, char** argv) {
   QTranslator translator(nullptr);
   QString catalogue = QStringLiteral(":/enu.qm");
   catalogue = ":/" + TovarelLocale::getDefaultLanguage() + ".qm";
-  translator.load(catalogue, QString(), QString(), QString());
+  // Its result tells no more than isEmpty().
+  static_cast<void>(translator.load(catalogue, QString(), QString(), QString()));
   if (!translator.isEmpty()) QCoreApplication::installTranslator(&translator);
   StrTable::InitStrTable();
 

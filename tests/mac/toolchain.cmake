@@ -29,7 +29,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE NEVER)
 set(CMAKE_FIND_PACKAGE_PREFER_CONFIG ON)
-foreach(package Qt5 GTest benchmark spdlog)
+foreach(package QT Qt5 GTest benchmark spdlog)
   set(${package}_DIR ${CMAKE_CURRENT_LIST_DIR}/packages)
 endforeach()
 

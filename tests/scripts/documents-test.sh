@@ -41,7 +41,7 @@ is_in_project() { [ -e "$PROJECT/${1%.}" ]; }
 
 TestModesOfTheTestScriptExist() {
   # shellcheck disable=SC2046
-  grep -ohE 'scripts/test [a-z]+' $(documents) | awk '{ print $2 }' | sort -u |
+  grep -ohE 'scripts/test [a-z][a-z0-9]+' $(documents) | awk '{ print $2 }' | sort -u |
     expect_found "no mode of scripts/test" is_mode
 }
 
@@ -49,7 +49,7 @@ is_mode() { "$SCRIPTS/test" -h | grep -qE "^  $1 "; }
 
 TestGroupsOfTheSetupScriptExist() {
   # shellcheck disable=SC2046
-  grep -ohE 'scripts/setup [a-z]+`' $(documents) | tr -d '`' | awk '{ print $2 }' | sort -u |
+  grep -ohE 'scripts/setup [a-z][a-z0-9]+`' $(documents) | tr -d '`' | awk '{ print $2 }' | sort -u |
     expect_found "no group of scripts/setup" is_group
 }
 

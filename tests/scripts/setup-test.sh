@@ -46,7 +46,7 @@ TestDoesNothingWhenAllIsThere() {
   fake npm 'echo called >>calls'
   npm_in_place 0.16.0
   expect_success with_fakes ./scripts/setup all
-  expect_said "Everything for build test lint fuzz coverage bench docs mac is installed"
+  expect_said "Everything for build qt6 test lint fuzz coverage bench docs mac is installed"
   [ ! -e calls ] || fail "apt-get or npm was called"
 }
 
@@ -110,6 +110,27 @@ TestInstallsOnlyWhatIsMissing() {
   expect_success setup build
   expect_equal "update -qq -o APT::Update::Error-Mode=any
 install -y -qq --no-install-recommends -o DPkg::Lock::Timeout=300 cmake ninja-build" "$(cat calls)"
+}
+
+TestDebianBuildsWithQt5UnlessQt6IsAskedFor() {
+  fake dpkg-query 'exit 1'
+  expect_success setup -l build
+  grep -qx qtbase5-dev out || fail "Qt 5 isn't asked for"
+  ! grep -q '^qt6-' out || fail "Qt 6 is asked for"
+  expect_success setup -l qt6
+  expect_equal "qt6-base-dev
+qt6-l10n-tools
+qt6-tools-dev" "$(cat out)"
+}
+
+TestAMacBuildsWithQt6UnlessQt5IsAskedFor() {
+  fake uname 'echo Darwin'
+  fake brew 'exit 1'
+  expect_success setup -l all
+  grep -qx qt out || fail "Qt 6 isn't asked for"
+  ! grep -qx qt@5 out || fail "Qt 5 is asked for"
+  expect_success setup -l build qt5
+  grep -qx qt@5 out || fail "Qt 5 isn't asked for"
 }
 
 TestUsesSudoForAUser() {

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QIcon>
 #include <QImage>
+#include <QPixmap>
 #include <QTranslator>
 
 #include "localisation/str-table.h"
@@ -75,6 +76,16 @@ TEST_F(ProgressDialog, StaysFourHundredPixelsWideInEveryLanguageAndWithAnyLabel)
     EXPECT_EQ(dialog.width(), 400) << name;
     QCoreApplication::removeTranslator(&translator);
   }
+}
+
+// Run once as it is and once at scale 2.
+TEST_F(ProgressDialog, IsPaintedAtTheScaleOfItsScreen) {
+  double const scale = qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1")).toDouble();
+  ProcessingProgressDialog dialog;
+  dialog.show();
+  QPixmap const picture = dialog.grab();
+  EXPECT_EQ(picture.devicePixelRatio(), scale);
+  EXPECT_EQ(picture.width(), 400 * scale);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDirIterator>
 #include <QFile>
+#include <QResource>
 #include <QSet>
 #include <QTranslator>
 #include <algorithm>
@@ -113,6 +114,15 @@ TEST_F(TextsResource, IsCompiledAtFormatVersionOneUnderItsNames) {
   EXPECT_THAT(source, HasSubstr("qt_resource_struct[]"));
   EXPECT_THAT(source, HasSubstr("qt_resource_name[]"));
   EXPECT_THAT(source, HasSubstr("qt_resource_data[]"));
+}
+
+TEST_F(TextsResource, CompressesSixteenCataloguesWithZlibAndStoresFourPlain) {
+  for (std::string const& name : AllCatalogues()) {
+    bool const plain = name == "cht" || name == "chs" || name == "jpn" || name == "krn";
+    EXPECT_EQ(QResource(Path(name)).compressionAlgorithm(),
+              plain ? QResource::NoCompression : QResource::ZlibCompression)
+        << name;
+  }
 }
 
 TEST_F(TextsResource, IsThereBeforeAnyoneAsksAndAfterASecondRegistration) {

@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 #include <functional>
 
 #include "localisation/str-table.h"
@@ -200,6 +201,15 @@ TEST_F(VersionLoading, HandsOnAValueThatIsNoNumberUnchanged) {
   WriteFile(UserInfo(), "[Version]\nbuild_version=123abc\n");
   service.LoadSourceVersion();
   EXPECT_STREQ(service.source_build_version.c_str(), "123abc");
+}
+
+// Only the log shows it: a build number is ASCII.
+TEST_F(VersionLoading, DecodesAVersionOutsideAsciiAsItsQtDoes) {
+  WriteFile(UserInfo(), "[Version]\nmajor_version=3\xC3\xBC\nbuild_version=100\n");
+  service.LoadSourceVersion();
+  bool const is_latin1 = QLibraryInfo::version().majorVersion() == 5;
+  EXPECT_STREQ(service.source_major_version.c_str(), is_latin1 ? "3Ã¼" : "3ü");
+  EXPECT_STREQ(service.source_build_version.c_str(), "100");
 }
 
 TEST_F(VersionLoading, IgnoresOtherGroupsAndKeysAtTopLevel) {
