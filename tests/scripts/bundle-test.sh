@@ -217,6 +217,16 @@ TestCheckFindsLauncherThatCannotBeExecuted() {
   expect_failure "chmod +x" check_bundle good/Larkmoor.app
 }
 
+TestCheckFindsAPluginOfAnotherQt() {
+  local compiler plugins=good/Larkmoor.app/Contents/Frameworks/plugins/platforms
+  compiler=$(sed -n 's/^CMAKE_CXX_COMPILER:[^=]*=//p' "$BUILD/CMakeCache.txt")
+  make_good_bundle
+  "$compiler" -shared -o libQt4Core.so.4 -Wl,-soname,libQt4Core.so.4 -x c++ /dev/null
+  "$compiler" -shared -o $plugins/libqminimal.so -x c++ /dev/null -Wl,--no-as-needed \
+    -Wl,-rpath,"$PWD" -L. -l:libQt4Core.so.4
+  expect_failure "libqminimal.so is linked with Qt 4, the launcher with Qt" check_bundle good/Larkmoor.app
+}
+
 TestCheckFindsMissingPlugins() {
   make_good_bundle
   in_bundle mv Frameworks/plugins/platforms/libqxcb.so saved
