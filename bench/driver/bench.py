@@ -31,7 +31,7 @@ class Session:
         self.display = display
         self.runner = Runner(build / "bench/bench-timed-run", build / "bench/bench-warm-memory")
         self.packages = inputs.Packages(build / "bench", folder)
-        self.bundle = inputs.Bundle(folder, build, pathlib.Path(os.environ["QT_PLUGINS"]))
+        self.bundle = inputs.Bundle(folder, build)
         self.ext4 = None
         self.report = reports.empty()
 

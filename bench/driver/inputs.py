@@ -4,6 +4,7 @@ runs."""
 import os
 import pathlib
 import random
+import re
 import shutil
 import subprocess
 import sysconfig
@@ -150,10 +151,18 @@ class Packages:
         return package
 
 
+def qt_plugins(build):
+    """The folder of the Qt that a build is linked with."""
+    cache = (build / "CMakeCache.txt").read_text()
+    return pathlib.Path(re.search("^larkmoor_qt_plugins:INTERNAL=(.+)$", cache, re.MULTILINE)[1])
+
+
 class Bundle:
     """The bundle as a user has it, with the peers beside the launcher, and a home."""
 
-    def __init__(self, folder, build, qt_plugins):
+    PEERS = ("bench-minimal", "bench-minimal-dialog", "bench-start-floor", "bench-notify")
+
+    def __init__(self, folder, build, peers=PEERS):
         self.root = folder / "Larkmoor.app"
         self.home = folder / "home"
         programs = self.root / "Contents/MacOS"
@@ -164,10 +173,10 @@ class Bundle:
         for made in (programs, platforms, self.package.parent, self.home):
             made.mkdir(parents=True)
         shutil.copy(build / "src/launcher/launcher", programs)
-        for peer in ("bench-minimal", "bench-minimal-dialog", "bench-start-floor", "bench-notify"):
+        for peer in peers:
             shutil.copy(build / "bench" / peer, programs)
         for plugin in ("libqoffscreen.so", "libqxcb.so"):
-            (platforms / plugin).symlink_to(qt_plugins / "platforms" / plugin)
+            (platforms / plugin).symlink_to(qt_plugins(build) / "platforms" / plugin)
         (self.resources / "INFO").write_text(INFO_TEXT.format(2))
         (self.resources / "images").mkdir()
         shutil.copy(ICON, self.resources / "images")

@@ -142,10 +142,27 @@ def upgrade(session):
         ], plan.installs)
 
 
+# ---- qt ----
+
+def qt(session):
+    """The launcher with Qt 6, against the one with Qt 5. It needs a bundle of its own, since it finds
+    its plug-ins there."""
+    bundles = {"Qt 6": inputs.Bundle(session.folder / "qt6", session.build.with_name("release-qt6"), ()),
+               "Qt 5": session.bundle}
+    package = session.big_package("tar.zst")
+    for where, display in session.displays():
+        starts = [Contender(name, [bundle.program("launcher")], bundle.environment(display),
+                            bundle.install_same_build) for name, bundle in bundles.items()]
+        session.compare(f"plain start with Qt 6, {where}", starts, session.plan.starts)
+        session.compare(f"install {session.plan.big_name} with Qt 6, {where}",
+                        [_install(session, package, display, name, bundle)
+                         for name, bundle in bundles.items()], session.plan.installs)
+
+
 # ---- install ----
 
-def _install(session, package, display=None, name="launcher"):
-    bundle = session.bundle
+def _install(session, package, display=None, name="launcher", bundle=None):
+    bundle = bundle or session.bundle
 
     def prepare():
         bundle.forget_installation()
@@ -389,7 +406,7 @@ def _add_part(session, group, operation, lines):
 
 
 ALL = {
-    "start": start, "memory": memory, "notify": notify, "calls": calls, "upgrade": upgrade,
+    "start": start, "memory": memory, "notify": notify, "calls": calls, "upgrade": upgrade, "qt": qt,
     "install": install,
     "remove": remove, "copy": copy, "parts": parts, "install-growth": install_growth,
     "remove-growth": remove_growth, "copy-growth": copy_growth,
