@@ -546,7 +546,9 @@ TEST(FSCloseDir, EmptiesTheHandleAndBearsAClosedOne) {
   TempDir folder;
   DIR_HANDLE handle;
   ASSERT_EQ(FSOpenDir(folder.path().c_str(), 0, handle), 0);
+  int const descriptor = dirfd(handle.dir);
   FSCloseDir(handle);
+  EXPECT_EQ(fcntl(descriptor, F_GETFD), -1) << "the folder is still open";
   EXPECT_EQ(handle.dir, nullptr);
   EXPECT_TRUE(handle.path.empty());
   FSCloseDir(handle);
