@@ -224,6 +224,18 @@ TEST(FSMKDirP, ReplacesWhatStandsInTheWay) {
   EXPECT_TRUE(fs::is_directory(folder / "last"));
 }
 
+TEST(FSMKDirP, FailsWhereWhatStandsInTheWayCannotBeRemoved) {
+  TempDir folder;
+  WriteFile(folder / "locked/file", "text");
+  test::GiveAway(folder.path().c_str());
+  test::GiveAway((folder / "locked").c_str());
+  test::RunUnprivileged([&folder] {
+    fs::permissions(folder / "locked", fs::perms(0500));
+    EXPECT_EQ(FSMKDirP(folder / "locked/file", nullptr, true, kUmaskMode), -1);
+    fs::permissions(folder / "locked", fs::perms(0700));
+  });
+}
+
 TEST(FSMKDirP, DoesNotReplaceADanglingLink) {
   TempDir folder;
   fs::create_symlink("nothing", folder / "dangling");
@@ -883,6 +895,18 @@ TEST(FSMktemp, MakesAnEmptyFileOfMode0644) {
   EXPECT_EQ(fs::path(path.c_str()).filename().string().size(), 6U);
   EXPECT_EQ(fs::file_size(path.c_str()), 0U);
   EXPECT_EQ(ModeOf(path.c_str()), 0644U);
+}
+
+TEST(FSMktemp, LeavesNoDescriptorOpen) {
+  if (!fs::exists("/proc/self/fd")) GTEST_SKIP() << "open descriptors can't be listed";
+  auto const count = [] {
+    return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
+  };
+  TempDir folder;
+  auto const before = count();
+  ustring path;
+  EXPECT_EQ(FSMktemp(folder.path().c_str(), path), 0);
+  EXPECT_EQ(count(), before);
 }
 
 TEST(FSMktemp, MakesANewFileEachTime) {

@@ -593,6 +593,12 @@ TEST_F(LoggerTest, InitializeMakesLockAndSharedDataAnew) {
   EXPECT_EQ(LoggerProbe::PrivateCount(), 0U);
 }
 
+TEST_F(LoggerTest, AStandardStreamForgetsThePathOfTheFileBefore) {
+  ASSERT_EQ(OpenFile(), 0);
+  ASSERT_EQ(Logger::Initialize(Logger::TYPE_STDERR, "", "", 50), 0);
+  EXPECT_EQ(LoggerProbe::Path(), "");
+}
+
 TEST_F(LoggerTest, StandardOutputGetsStampedRecords) {
   ASSERT_EQ(Logger::Initialize(Logger::TYPE_STDOUT, LogPath().c_str(), "", 7), 0);
   EXPECT_EQ(*LoggerProbe::Size(), -1);

@@ -128,6 +128,31 @@ TEST_F(Bundle, StartsItsProgramHeedingTheSignalsThatWeIgnore) {
   wait(nullptr);
 }
 
+/// Leaves something other than 0 where the next call has its variables.
+void DirtyTheStack() {
+  volatile unsigned char bytes[1 << 14];
+  for (auto& byte : bytes) byte = 0xFF;
+}
+
+TEST_F(Bundle, StartsItsProgramWithNoSignalBlocked) {
+  // Read by the shell itself, which blocks signals while it starts a program.
+  InstallClient("while read -r key value; do [ $key != SigBlk: ] || echo $value; done < " +
+                ("/proc/$$/status > '" + (folder / "part")) + "'; mv '" + (folder / "part") +
+                "' '" + (folder / "blocked") + "'\n");
+  QString const app = App();
+  sigset_t ours;
+  sigset_t former;
+  sigemptyset(&ours);
+  sigaddset(&ours, SIGTERM);
+  pthread_sigmask(SIG_BLOCK, &ours, &former);
+  DirtyTheStack();
+  bool const opened = platform::OpenBundle(app);
+  pthread_sigmask(SIG_SETMASK, &former, nullptr);
+  ASSERT_TRUE(opened);
+  EXPECT_EQ(std::stoull(Await("blocked"), nullptr, 16), 0U);
+  wait(nullptr);
+}
+
 TEST_F(Bundle, KeepsItsEnvironment) {
   setenv("LARKMOOR_TEST_MARK", "inherited", 1);
   InstallClient("echo $LARKMOOR_TEST_MARK > '" + (folder / "part") + "'; mv '" + (folder / "part") +

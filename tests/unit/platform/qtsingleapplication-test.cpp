@@ -223,4 +223,22 @@ TEST_F(SingleInstance, IsHeldByTheFirstStartThatMakesTheFolder) {
   EXPECT_EQ(test::Run(options).out, "first second\n");
 }
 
+// The program is found from its own folder, whatever is mounted above.
+TEST_F(SingleInstance, IsHeldBesideTheTemporaryFilesWhereMemoryTakesNone) {
+  std::string const prepare =
+      "mount -t tmpfs -o ro none /dev/shm && mount -t tmpfs none /run && mount -t tmpfs none /tmp";
+  std::string const in_namespace = "exec unshare --user --map-root-user --mount sh -c ";
+  if (test::Run({{"sh", "-c", in_namespace + "'" + prepare + "'"}, {}, "", "", false}).status !=
+      0) {
+    GTEST_SKIP() << "this system allows no user namespace, or no mount in one";
+  }
+  test::Process::Options options;
+  options.folder = fs::path(LARKMOOR_TEST_GUARD_HOLDER).parent_path();
+  options.environment = {{"QT_QPA_PLATFORM", "offscreen"}};
+  options.arguments = {"sh", "-c",
+                       in_namespace + "'" + prepare +
+                           " && ./guard-holder once < /dev/null && ls -d /tmp/larkmoor-*'"};
+  EXPECT_EQ(test::Run(options).out, "first\n/tmp/larkmoor-launcher-0\n");
+}
+
 }  // namespace

@@ -6,10 +6,14 @@
 #include <unicode/unistr.h>
 
 #include <cerrno>
+#include <cstdint>
+#include <cstring>
 #include <string>
 
 #include "../foundation/system-calls.h"
 #include "platform/spelling-posix.h"
+#include "platform/volume-flush.h"
+#include "platform/volume-lookup.h"
 #include "support/files.h"
 
 namespace fs = std::filesystem;
@@ -23,6 +27,8 @@ icu::UnicodeString Key(std::string const& name) {
   return icu::Normalizer2::getNFCInstance(status)->normalize(text, status).foldCase();
 }
 
+/// A volume that is blind to case: a folder of another file system stands for it, whose type and
+/// whose look at a name are replaced.
 class StoredPath : public testing::Test {
  protected:
   StoredPath() {
@@ -152,6 +158,64 @@ TEST_F(StoredPath, IsLookedForOnVolumesThatMayBeBlindAlone) {
   }
   HasType(0xEF53);  // ext4
   EXPECT_EQ(Stored("kept"), "kept");
+}
+
+TEST(FindByNormalForm, HasNoFormOfBytesThatAreNoText) {
+  test::TempDir folder;
+  std::string found = "before";
+  EXPECT_FALSE(platform::FindByNormalForm((folder / "\xFF").c_str(), false, found));
+  EXPECT_EQ(found, "before");
+}
+
+TEST(LookAt, FindsAnotherSpellingOnlyWhereNamesAreToBlame) {
+  test::TempDir folder;
+  std::string const composed = folder / "\u00FC";
+  test::WriteFile(folder / "u\u0308", "");
+  if (fs::exists(composed)) GTEST_SKIP() << "the volume takes both forms for one name";
+  test::SystemCalls calls;
+  int error = 0;
+  calls.lstat = [&](char const* path, struct stat* info) {
+    if (path != composed) return test::LibraryLstat(path, info);
+    errno = error;
+    return -1;
+  };
+  struct stat info;
+  for (int const of_names : {ENOENT, ENOTDIR, EACCES, ENAMETOOLONG}) {
+    error = of_names;
+    EXPECT_EQ(platform::LookAt(composed.c_str(), info), 0) << strerror(error);
+  }
+  for (int const of_disks : {EIO, ELOOP, ENOMEM}) {
+    error = of_disks;
+    EXPECT_EQ(platform::LookAt(composed.c_str(), info), -1) << strerror(error);
+    EXPECT_EQ(errno, error);
+  }
+}
+
+TEST(FlushVolume, FlushesWhatItOpensBehindTheVolume) {
+  test::TempDir folder;
+  test::SystemCalls calls;
+  int flushed = 0;
+  calls.fsync = [&flushed](int) {
+    ++flushed;
+    return 0;
+  };
+  EXPECT_EQ(platform::FlushVolume(folder.path().c_str()), 0);
+  EXPECT_EQ(flushed, 1);
+}
+
+TEST(FlushVolume, FailsWithTheErrorOfThatFlush) {
+  test::TempDir folder;
+  test::SystemCalls calls;
+  calls.fsync = [](int) {
+    errno = EIO;
+    return -1;
+  };
+  calls.close = [](int) { errno = EINTR; };
+  int const result = platform::FlushVolume(folder.path().c_str());
+  int const error = errno;
+  calls.close = nullptr;
+  EXPECT_EQ(result, -1);
+  EXPECT_EQ(error, EIO);
 }
 
 }  // namespace

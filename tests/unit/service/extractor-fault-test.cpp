@@ -28,6 +28,7 @@ struct Calls {
   std::vector<std::string> made;
   std::string failing;
   int failing_at = 0;  ///< 1 for the first call of that name
+  bool has_reason = true;
   int depth = 0;
 } the_calls;
 
@@ -64,7 +65,8 @@ Result* Pointer(char const* name, Arguments... arguments) {
 /// A failure is but a warning, for nothing but ARCHIVE_OK may pass.
 int Status(Call const& call, archive* failing, int result) {
   if (!call.fails()) return result;
-  archive_set_error(failing, ENOSPC, "made to fail");
+  archive_clear_error(failing);
+  if (the_calls.has_reason) archive_set_error(failing, ENOSPC, "made to fail");
   return ARCHIVE_WARN;
 }
 
@@ -247,6 +249,13 @@ TEST_F(ExtractorFault, EndsAtAnEntryThatCannotBeFinishedAfterReportingIt) {
       LinesOfAFailedExtraction(),
       ElementsAre("[ERROR] extractor(0): archive_write_finish_entry failed: 'made to fail'"));
   EXPECT_EQ(Made("progress"), 1);
+}
+
+TEST_F(ExtractorFault, SaysWhereTheLibraryHasNoReason) {
+  FailAt("archive_write_finish_entry", 1);
+  the_calls.has_reason = false;
+  EXPECT_THAT(LinesOfAFailedExtraction(),
+              ElementsAre("[ERROR] extractor(0): archive_write_finish_entry failed: '(null)'"));
 }
 
 TEST_F(ExtractorFault, FreesTheReaderAndThenTheWriterWhereverItEnds) {
