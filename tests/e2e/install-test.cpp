@@ -62,6 +62,15 @@ TEST_F(Install, PrintsOneLineToStandardOutput) {
   EXPECT_EQ(box.Launch().out, "lib path = '" + box.Bundle() + "/Contents/Frameworks/plugins'\n");
 }
 
+TEST_F(Install, LooksForPluginsInTheBundleAndNowhereElse) {
+  box.Carry(100);
+  fs::remove_all(box.Bundle() + "/Contents/Frameworks");
+  test::Outcome const run = test::Run(box.Start());
+  EXPECT_EQ(run.signal, SIGABRT);
+  EXPECT_THAT(run.err, HasSubstr("no Qt platform plugin could be initialized"));
+  EXPECT_FALSE(fs::exists(box.App()));
+}
+
 TEST_F(Install, LeavesTheInstalledTreeAloneOnAPlainStart) {
   box.Carry(100);
   box.Install(100);

@@ -860,6 +860,27 @@ TEST(FSRemove, FailsWhereAnObjectCannotBeRemoved) {
   });
 }
 
+TEST(FSRemove, StopsAtTheFirstFolderThatCannotBeRemoved) {
+  TempDir folder;
+  for (char const* const name : {"tree", "tree/a", "tree/b"}) {
+    fs::create_directories(folder / name);
+    test::GiveAway((folder / name).c_str());
+  }
+  test::RunUnprivileged([&folder] {
+    for (std::string const name : {"tree/a", "tree/b"}) {
+      WriteFile(folder / (name + "/file"), "");
+      fs::create_directories(folder / (name + "/locked/empty"));
+      fs::permissions(folder / (name + "/locked"), fs::perms(0500));
+    }
+    EXPECT_EQ(FSRemove(folder / "tree", false), -3);
+    // Which of the two comes first is the volume's choice.
+    EXPECT_TRUE(fs::exists(folder / "tree/a/file") || fs::exists(folder / "tree/b/file"));
+    for (char const* const name : {"tree/a/locked", "tree/b/locked"}) {
+      fs::permissions(folder / name, fs::perms(0700));
+    }
+  });
+}
+
 TEST(FSRemove, FailsWhereTheLookAtAnEntryFails) {
   TempDir folder;
   WriteFile(folder / "tree/file", "");

@@ -343,6 +343,29 @@ TEST(VolumePath, LeadsPastAnUnreadableFolderOfTheOtherForm) {
   });
 }
 
+TEST(VolumePath, IsFoundByListingTheWorkingFolder) {
+  TempDir const folder;
+  std::string const kelvin = "\u212A";
+  WriteFile(folder / kelvin, "");
+  WorkingFolder const here(folder.path());
+  EXPECT_EQ(Itself("K"), folder / kelvin);
+}
+
+TEST(VolumePath, IsFoundInAFolderThatCannotBeListed) {
+  Places const places;
+  test::GiveAway(places.path().c_str());
+  test::RunUnprivileged([&places] {
+    for (auto const& [asked, stands] :
+         {std::pair(kComposed, kDecomposed), std::pair(kDecomposed, kComposed)}) {
+      std::string const folder = places / ("only " + std::string(asked));
+      WriteFile(fs::path(folder) / stands, "");
+      fs::permissions(folder, fs::perms(0300));
+      EXPECT_EQ(Itself(folder + "/" + asked), folder + "/" + stands);
+      fs::permissions(folder, fs::perms(0700));
+    }
+  });
+}
+
 TEST(VolumePath, FailsWhereTheFolderMayNotBeSearched) {
   Places const places;
   test::GiveAway(places.path().c_str());
@@ -352,6 +375,17 @@ TEST(VolumePath, FailsWhereTheFolderMayNotBeSearched) {
     EXPECT_EQ(Followed(places / "real"), "status -36");
     fs::permissions(places.path(), fs::perms(0700));
   });
+}
+
+TEST(VolumePath, LeavesNoDescriptorOpen) {
+  if (!fs::exists("/proc/self/fd")) GTEST_SKIP() << "open descriptors can't be listed";
+  auto const count = [] {
+    return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
+  };
+  Places const places;
+  auto const before = count();
+  EXPECT_EQ(Itself(places / "real/file"), places / "real/file");
+  EXPECT_EQ(count(), before);
 }
 
 TEST(VolumePath, IsFoundWithoutADescriptorToSpare) {

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "../foundation/system-calls.h"
+#include "platform/file-system-name.h"
 #include "platform/spelling-posix.h"
 #include "platform/volume-flush.h"
 #include "platform/volume-lookup.h"
@@ -188,6 +189,29 @@ TEST(LookAt, FindsAnotherSpellingOnlyWhereNamesAreToBlame) {
     error = of_disks;
     EXPECT_EQ(platform::LookAt(composed.c_str(), info), -1) << strerror(error);
     EXPECT_EQ(errno, error);
+  }
+  // The search ends with another error than it began with.
+  fs::remove(folder / "u\u0308");
+  error = ENOTDIR;
+  EXPECT_EQ(platform::LookAt(composed.c_str(), info), -1);
+  EXPECT_EQ(errno, ENOTDIR);
+}
+
+TEST(FileSystemName, IsThatOfTheTypeOrEmpty) {
+  static std::pair<long, char const*> const kNames[] = {
+      {0x6969, "nfs"},       {0x517B, "smbfs"},    {0xFF534D42, "smbfs"},
+      {0xFE534D42, "smbfs"}, {-0xACB2BE, "smbfs"}, {0x4D44, "msdos"},
+      {0xEF53, ""},          {0x6968, ""},         {0x01021994, ""},
+  };
+  test::SystemCalls calls;
+  for (auto const& [type, expected] : kNames) {
+    calls.statfs = [type = type](char const*, struct statfs* info) {
+      info->f_type = type;
+      return 0;
+    };
+    std::string name = "before";
+    EXPECT_EQ(platform::FileSystemName("/any", name), 0);
+    EXPECT_EQ(name, expected) << std::hex << type;
   }
 }
 

@@ -491,9 +491,22 @@ TEST_F(FSCopyPathTest, CopiesATreeWithPlainModes) {
   WriteFile(From() + "/a", "1");
   WriteFile(From() + "/b/c", "2");
   chmod((From() + "/b/c").c_str(), 0600);
+  test::Tree const before = test::ReadTree(From());
   EXPECT_EQ(Copy(), 0);
   EXPECT_EQ(test::ReadFile(To() + "/a"), "1");
   EXPECT_EQ(test::ReadFile(To() + "/b/c"), "2");
+  EXPECT_EQ(test::ReadTree(From()), before);
+}
+
+TEST_F(FSCopyPathTest, LeavesNoFolderOpen) {
+  if (!fs::exists("/proc/self/fd")) GTEST_SKIP() << "open descriptors can't be listed";
+  auto const count = [] {
+    return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
+  };
+  WriteFile(From() + "/b/c", "2");
+  auto const before = count();
+  EXPECT_EQ(Copy(), 0);
+  EXPECT_EQ(count(), before);
 }
 
 TEST_F(FSCopyPathTest, CopiesAnEmptyFolder) {
@@ -517,6 +530,7 @@ TEST_F(FSCopyPathTest, CopiesOneFile) {
   WriteFile(From(), "1");
   EXPECT_EQ(Copy(), 0);
   EXPECT_EQ(test::ReadFile(To()), "1");
+  EXPECT_EQ(test::ReadFile(From()), "1");
   EXPECT_THAT(log.OwnLines(), ElementsAre(CopyLine()));
 }
 
