@@ -272,11 +272,11 @@ void Logger::FollowRotation() {
 int Logger::WriteRecord(char const* format, va_list args) {
   if (log_type == TYPE_SYSLOG) {
     vsyslog(LOG_ERR, format, args);
-    return 0;
+    return 0;  // of a stream that isn't counted
   }
   if (log_type != TYPE_FILE && !IsStandardType()) {
     std::vfprintf(stderr, format, args);
-    return 0;
+    return 0;  // of a stream that isn't counted
   }
   FILE* const stream = log_fp;
   if (stream == nullptr) return 0;  // another thread's rotation failed meanwhile

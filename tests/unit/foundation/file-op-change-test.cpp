@@ -862,6 +862,7 @@ TEST(FSRemove, FailsWhereAnObjectCannotBeRemoved) {
 
 TEST(FSRemove, StopsAtTheFirstFolderThatCannotBeRemoved) {
   TempDir folder;
+  test::GiveAway(folder.path().c_str());
   for (char const* const name : {"tree", "tree/a", "tree/b"}) {
     fs::create_directories(folder / name);
     test::GiveAway((folder / name).c_str());

@@ -343,6 +343,12 @@ TEST(VolumePath, LeadsPastAnUnreadableFolderOfTheOtherForm) {
   });
 }
 
+TEST(VolumePath, OfALinkWhoseNameEndsInADotIsItsOwn) {
+  Places const places;
+  fs::create_symlink("real", places / "a.");
+  EXPECT_EQ(Itself(places / "a."), places / "a.");
+}
+
 TEST(VolumePath, IsFoundByListingTheWorkingFolder) {
   TempDir const folder;
   std::string const kelvin = "\u212A";
