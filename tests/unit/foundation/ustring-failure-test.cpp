@@ -20,6 +20,7 @@ namespace {
 using testing::MatchesRegex;
 
 int allocations_left = -1;  // -1: all succeed
+int blocks = 0;             // that are in use
 bool no_instance = false;
 UErrorCode instance_status = U_ZERO_ERROR;
 UErrorCode normalize_status = U_ZERO_ERROR;
@@ -45,10 +46,20 @@ extern "C" {
 
 void* __real_malloc(size_t size);
 void* __real_realloc(void* block, size_t size);
+void __real_free(void* block);
 void* __wrap_malloc(size_t size);
 void* __wrap_realloc(void* block, size_t size);
+void __wrap_free(void* block);
 
-void* __wrap_malloc(size_t size) { return Refused() ? nullptr : __real_malloc(size); }
+void* __wrap_malloc(size_t size) {
+  if (Refused()) return nullptr;
+  ++blocks;
+  return __real_malloc(size);
+}
+void __wrap_free(void* block) {
+  if (block != nullptr) --blocks;
+  __real_free(block);
+}
 void* __wrap_realloc(void* block, size_t size) {
   return Refused() ? nullptr : __real_realloc(block, size);
 }
@@ -81,7 +92,11 @@ class UstringFailure : public testing::Test {
     no_instance = false;
     instance_status = U_ZERO_ERROR;
     normalize_status = U_ZERO_ERROR;
+    EXPECT_EQ(blocks, blocks_before) << "memory is lost";
   }
+
+ private:
+  int const blocks_before = blocks;
 };
 
 template <class Call>
