@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <new>
+#include <set>
 #include <string>
 
 #include "foundation/ustring.h"
@@ -20,7 +21,7 @@ namespace {
 using testing::MatchesRegex;
 
 int allocations_left = -1;  // -1: all succeed
-int blocks = 0;             // that are in use
+std::set<void*> blocks;     // that are in use
 bool no_instance = false;
 UErrorCode instance_status = U_ZERO_ERROR;
 UErrorCode normalize_status = U_ZERO_ERROR;
@@ -52,16 +53,16 @@ void* __wrap_realloc(void* block, size_t size);
 void __wrap_free(void* block);
 
 void* __wrap_malloc(size_t size) {
-  if (Refused()) return nullptr;
-  ++blocks;
-  return __real_malloc(size);
-}
-void __wrap_free(void* block) {
-  if (block != nullptr) --blocks;
-  __real_free(block);
+  return Refused() ? nullptr : *blocks.insert(__real_malloc(size)).first;
 }
 void* __wrap_realloc(void* block, size_t size) {
-  return Refused() ? nullptr : __real_realloc(block, size);
+  if (Refused()) return nullptr;
+  blocks.erase(block);
+  return *blocks.insert(__real_realloc(block, size)).first;
+}
+void __wrap_free(void* block) {
+  blocks.erase(block);
+  __real_free(block);
 }
 
 UNormalizer2 const* unorm2_getInstance(char const* package, char const* name,
@@ -96,7 +97,7 @@ class UstringFailure : public testing::Test {
   }
 
  private:
-  int const blocks_before = blocks;
+  std::set<void*> const blocks_before = blocks;
 };
 
 template <class Call>
