@@ -1,31 +1,24 @@
 #include "foundation/ustring.h"
 
-#include <unicode/unorm2.h>
-#include <unicode/ustring.h>
-
 #include <algorithm>
-#include <bitset>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <functional>
-#include <iostream>
+#include <istream>
 #include <new>
+#include <ostream>
 #include <stdexcept>
 #include <utility>
+
+#include "foundation/ustring-internal.h"
+
+using ustring_internal::Needed;
+using ustring_internal::Terminate;
 
 namespace {
 
 constexpr unsigned long kFirstCapacity = 4;
-
-static_assert(sizeof(unsigned short) == sizeof(UChar), "ICU works on the units as they stand");
-
-UChar* Units(unsigned short* s) { return reinterpret_cast<UChar*>(s); }
-
-void Warn(char const* call, UErrorCode status, int line) {
-  std::cerr << "Warning: " << call << ": error code " << static_cast<int>(status) << " at line "
-            << line << std::endl;
-}
 
 /// The length of a text of which at most n units are wanted.
 unsigned long Length(char const* s, unsigned long n) {
@@ -36,12 +29,6 @@ unsigned long Length(unsigned short const* s, unsigned long n) {
   unsigned long length = 0;
   while (length < n && s[length] != 0) ++length;
   return length;
-}
-
-/// The units needed for a text with n more behind it, and its terminator.
-unsigned long Needed(unsigned long length, unsigned long n) {
-  if (n >= ustring::npos - length) throw std::bad_alloc();
-  return length + n + 1;
 }
 
 /// Room for exactly `needed` units, unless the buffer is large enough and not twice too large.
@@ -59,12 +46,6 @@ template <class Unit>
 bool Holds(Unit const* buffer, unsigned long length, Unit const* s) {
   std::less<Unit const*> const before;
   return !before(s, buffer) && !before(buffer + length, s);
-}
-
-template <class Unit>
-void Terminate(Unit* buffer, unsigned long& length, unsigned long at) {
-  length = at;
-  buffer[at] = 0;
 }
 
 /// Adds n units, which may stand in the buffer itself.
@@ -106,34 +87,6 @@ void KeepPart(Unit*& buffer, unsigned long& length, unsigned long& capacity, Uni
 std::string_view Part(std::string const& s, unsigned long pos, unsigned long n) {
   if (pos > s.size()) throw std::out_of_range("basic_string::substr");
   return {s.data() + pos, Length(s.data() + pos, std::min(n, s.size() - pos))};
-}
-
-class ByteSet {
- public:
-  explicit ByteSet(std::string_view bytes) {
-    for (char const c : bytes) set_.set(static_cast<unsigned char>(c));
-  }
-  bool has(char c) const { return set_[static_cast<unsigned char>(c)]; }
-
- private:
-  std::bitset<256> set_;
-};
-
-unsigned char Fold(char c) {
-  auto const byte = static_cast<unsigned char>(c);
-  return byte >= 'A' && byte <= 'Z' ? static_cast<unsigned char>(byte + ('a' - 'A')) : byte;
-}
-
-int Identity(char c) { return static_cast<unsigned char>(c); }
-
-/// How two texts differ at the first place where they do, if that isn't behind n bytes.
-template <class Map>
-int Difference(char const* a, char const* b, unsigned long n, Map map) {
-  for (; n != 0; ++a, ++b, --n) {
-    int const difference = map(*a) - map(*b);
-    if (difference != 0 || *a == '\0') return difference;
-  }
-  return 0;
 }
 
 }  // namespace
@@ -207,87 +160,6 @@ void ustring::swap(ustring& other) noexcept {
   std::swap(wdata, other.wdata);
   std::swap(wdata_length, other.wdata_length);
   std::swap(wdata_capacity, other.wdata_capacity);
-}
-
-// ---- conversion ----
-
-unsigned short const* ustring::c_str_utf16() const {
-  if (wdata_length == 0) convert_from_data();
-  return wdata;
-}
-
-int ustring::convert_from_data() const {
-  UErrorCode status = U_ZERO_ERROR;
-  int32_t length = 0;
-  u_strFromUTF8(nullptr, 0, &length, data, -1, &status);
-  status = U_ZERO_ERROR;
-  realloc_wdata(Needed(static_cast<unsigned long>(length), 0));
-  u_strFromUTF8(Units(wdata), static_cast<int32_t>(wdata_capacity), &length, data, -1, &status);
-  if (U_FAILURE(status)) {
-    Warn("u_strFromUTF8", status, __LINE__);
-    clear_wdata();
-    return -1;
-  }
-  Terminate(wdata, wdata_length, static_cast<unsigned long>(length));
-  return 0;
-}
-
-// The text doesn't survive a failure: the UTF-16 can't stand as the truth, and the UTF-8 is of
-// before the change.
-int ustring::convert_from_wdata() {
-  UErrorCode status = U_ZERO_ERROR;
-  int32_t length = 0;
-  u_strToUTF8(nullptr, 0, &length, Units(wdata), -1, &status);
-  status = U_ZERO_ERROR;
-  try {
-    realloc_data(Needed(static_cast<unsigned long>(length), 0));
-  } catch (std::bad_alloc const&) {
-    clear_wdata();  // the text is still that of before the change
-    throw;
-  }
-  u_strToUTF8(data, static_cast<int32_t>(data_capacity), &length, Units(wdata), -1, &status);
-  if (U_FAILURE(status)) {
-    Warn("u_strToUTF8", status, __LINE__);
-    clear();
-    return -1;
-  }
-  Terminate(data, data_length, static_cast<unsigned long>(length));
-  return 0;
-}
-
-ustring ustring::normalize(ustring const& s, normalization_form form) {
-  static constexpr UNormalization2Mode kModes[] = {UNORM2_COMPOSE, UNORM2_DECOMPOSE};
-  UErrorCode status = U_ZERO_ERROR;
-  ustring result;
-  if (s.empty()) return result;
-  UNormalizer2 const* const normalizer = unorm2_getInstance(nullptr, "nfc", kModes[form], &status);
-  if (U_FAILURE(status) || normalizer == nullptr) {
-    Warn("unorm2_getInstance", status, __LINE__);
-    return result;
-  }
-  int32_t length = unorm2_normalize(normalizer, Units(const_cast<unsigned short*>(s.c_str_utf16())),
-                                    -1, nullptr, 0, &status);
-  status = U_ZERO_ERROR;
-  result.realloc_wdata(Needed(static_cast<unsigned long>(length), 0));
-  length =
-      unorm2_normalize(normalizer, Units(const_cast<unsigned short*>(s.c_str_utf16())), -1,
-                       Units(result.wdata), static_cast<int32_t>(result.wdata_capacity), &status);
-  if (U_FAILURE(status)) {
-    Warn("unorm2_normalize", status, __LINE__);
-    result.clear();
-    return result;
-  }
-  Terminate(result.wdata, result.wdata_length, static_cast<unsigned long>(length));
-  result.convert_from_wdata();
-  return result;
-}
-
-bool ustring::is_valid(ustring const& s) {
-  if (s.empty()) return true;
-  UErrorCode status = U_ZERO_ERROR;
-  int32_t length = 0;
-  u_strFromUTF8(nullptr, 0, &length, s.data, -1, &status);
-  return status != U_INVALID_CHAR_FOUND;
 }
 
 // ---- assign ----
@@ -460,89 +332,13 @@ ustring operator+(ustring const& a, unsigned short b) {
 
 void swap(ustring& a, ustring& b) noexcept { a.swap(b); }
 
-// ---- search ----
-
-unsigned long ustring::find_text(std::string_view pattern, unsigned long pos) const {
-  if (pos >= data_length) return npos;
-  return std::string_view(data, data_length).find(pattern, pos);
-}
-
-unsigned long ustring::rfind_text(std::string_view pattern, unsigned long pos) const {
-  if (pattern.size() > data_length || empty()) return npos;
-  unsigned long at = std::min(pos, data_length - 1);
-  if (pattern.empty()) return at;
-  at = std::min(at, data_length - pattern.size());
-  for (++at; at-- > 0;) {
-    if (data[at] == pattern[0] && std::memcmp(data + at, pattern.data(), pattern.size()) == 0) {
-      return at;
-    }
-  }
-  return npos;
-}
-
-unsigned long ustring::first_byte(std::string_view set, unsigned long pos, bool in_set) const {
-  if (in_set && set.size() == 1) return find_text(set, pos);
-  ByteSet const bytes(set);
-  for (; pos < data_length; ++pos) {
-    if (bytes.has(data[pos]) == in_set) return pos;
-  }
-  return npos;
-}
-
-unsigned long ustring::last_byte(std::string_view set, unsigned long pos, bool in_set) const {
-  ByteSet const bytes(set);
-  unsigned long end = pos < data_length ? pos + 1 : data_length;
-  for (; end > 0; --end) {
-    if (bytes.has(data[end - 1]) == in_set) return end - 1;
-  }
-  return npos;
-}
-
 // ---- change in place ----
-
-ustring& ustring::ltrim(char const* set) {
-  unsigned long const dropped = std::min(first_byte(set, 0, false), data_length);
-  if (dropped == 0) return *this;
-  std::memmove(data, data + dropped, data_length - dropped);
-  Terminate(data, data_length, data_length - dropped);
-  clear_wdata();
-  return *this;
-}
-
-ustring& ustring::rtrim(char const* set) {
-  unsigned long const length = last_byte(set, npos, false) + 1;  // npos wraps round to 0
-  if (length == data_length) return *this;
-  Terminate(data, data_length, length);
-  clear_wdata();
-  return *this;
-}
-
-ustring& ustring::trim(char const* set) {
-  ltrim(set);
-  return rtrim(set);
-}
 
 ustring& ustring::replace(char from, char to) {
   for (char* c = data; *c != '\0'; ++c) {
     if (*c == from) *c = to;
   }
   return *this;
-}
-
-// ---- comparison ----
-
-int ustring::compare(ustring const& other) const {
-  return std::strcmp(data, other.data) == 0 ? 0 : Difference(data, other.data, npos, Identity);
-}
-
-int ustring::compare(ustring const& other, unsigned long n) const {
-  unsigned long const bytes = std::min(n, data_length + 1);
-  return std::strncmp(data, other.data, bytes) == 0 ? 0
-                                                    : Difference(data, other.data, bytes, Identity);
-}
-
-int ustring::compare(ustring const& a, ustring const& b, bool ignore_case) {
-  return ignore_case ? Difference(a.data, b.data, npos, Fold) : a.compare(b);
 }
 
 // ---- streams ----
