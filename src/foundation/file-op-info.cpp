@@ -1,4 +1,4 @@
-// What stands at a path, and what a path says by itself.
+// Queries about a file, and about its path as a string.
 
 #include <sys/stat.h>
 
@@ -14,7 +14,7 @@ namespace {
 void FillFromStat(ustring const& path, struct stat const& info, _FILE_INFO_tag& out) {
   out.exists = true;
   out.mtime = info.st_mtime;
-  out.path = path;  // which may be one of the two texts
+  out.path = path;  // may be one of the two members itself
   out.name = FSBaseName(out.path);
   out.size = info.st_size;
   out.uid = info.st_uid;
@@ -51,7 +51,7 @@ bool FSIsParentFolder(ustring const& parent, ustring const& child) {
 }
 
 bool IsFileExist(ustring const& path, bool strict) {
-  // Text that isn't valid UTF-8 has no normal form and so comes out empty as well.
+  // A string that isn't valid UTF-8 has no normal form, so this one is empty too.
   ustring const normal = file_op::ToNfc(path);
   if (normal.empty()) return false;
   _FILE_INFO_tag info;
@@ -61,10 +61,10 @@ bool IsFileExist(ustring const& path, bool strict) {
 
 int GetFileInfo(ustring const& path, _FILE_INFO_tag& info) {
   struct stat found;
-  if (platform::LookAt(path.c_str(), found) != 0) {
+  if (platform::Lstat(path.c_str(), found) != 0) {
     if (errno != ENOENT) return -1;
     _FILE_INFO_tag missing;
-    missing.path = path;  // which may be that of `info`
+    missing.path = path;  // may be a member of `info`
     missing.name = FSBaseName(path);
     info = missing;
     return 0;

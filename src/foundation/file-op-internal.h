@@ -7,30 +7,30 @@
 
 #include "foundation/ustring.h"
 
-// What the sources behind file-op.h share, for nobody else. A log line names "file-op" and a line
-// number, so all that logs is in file-op.cpp.
+// Shared by the sources of file-op.h alone. Log lines name "file-op" and a line number, so every
+// function that logs is in file-op.cpp.
 
 namespace file_op {
 
-/// Whether a path is plain ASCII, as nearly all are: it is in NFC already.
+/// Whether a path is plain ASCII, as nearly all are, and therefore in NFC already.
 bool IsAscii(ustring const& path);
 ustring ToNfc(ustring const& path);
 
-/// The FileType of a mode, and of a directory entry's d_type; FILE_TYPE_NONE for an unknown one.
+/// The FileType of a mode or of a `d_type`; FILE_TYPE_NONE for any other kind.
 int FileTypeOfMode(mode_t mode);
 int FileTypeOfEntry(unsigned char d_type);
 
-/// How the volume spells a path, in NFC. Returns 0 or -1; logs the path and the outcome.
+/// Gets a path as the volume spells it, in NFC. Returns 0 or -1. Logs the path and the outcome.
 int SpellAsVolume(ustring const& path, ustring& spelled);
-/// The same for an entry of a folder whose path is spelled as the volume spells it. So is then the
-/// entry's own, and the volume needn't be asked for it.
+/// The same for an entry of a folder whose path has the volume's spelling already. The entry's path
+/// then has it too, and the volume isn't asked.
 int CheckEntry(ustring const& path);
 
-/// readdir_r, which is deprecated because a name may be longer than the buffer. No supported file
-/// system has such names, and the function keeps no state outside its arguments.
+/// Calls readdir_r. It is deprecated because a name may not fit the buffer; no supported file
+/// system has such names. It keeps no state of its own.
 int ReadEntry(DIR* dir, dirent& buffer, dirent*& entry);
 
-/// The names in a folder, without "." and "..". A read error ends the list.
+/// The names in a folder, without "." and "..". A read error counts as the end.
 class Listing {
  public:
   explicit Listing(ustring const& path) : dir_(opendir(path.c_str())) {}
@@ -42,7 +42,7 @@ class Listing {
 
   bool IsOpen() const { return dir_ != nullptr; }
   int descriptor() const { return dirfd(dir_); }
-  /// Valid until the next call; null at the end.
+  /// The next name, valid until the next call; null at the end.
   char const* Next();
 
  private:

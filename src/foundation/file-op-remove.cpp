@@ -12,13 +12,14 @@ namespace {
 
 int RemoveAt(int folder, char const* name, ustring const& path);
 
-/// How FSRemove goes through a directory. Both ways take the same steps.
+/// How FSRemove traverses a folder. Both ways make the same checks in the same order.
 enum class Walk {
-  kByPath,     ///< each object by its path from the start
-  kByFolders,  ///< by its name in the open folder, which saves two walks along the path
+  kByPath,     ///< each entry by its full path
+  kByFolders,  ///< each entry by its name in the open folder, which saves two path lookups
 };
 
-/// Removes what is in a directory. `is_readable` is false, and all stays, when it can't be listed.
+/// Removes the entries of a folder. If it can't be listed, removes nothing and sets `is_readable`
+/// to false.
 int RemoveEntries(ustring const& path, Walk walk, bool& is_readable) {
   file_op::Listing entries(path);
   is_readable = entries.IsOpen();
@@ -32,10 +33,10 @@ int RemoveEntries(ustring const& path, Walk walk, bool& is_readable) {
   return 0;
 }
 
-/// FSRemove of an object that is `path` to everybody and `name` seen from an open folder.
+/// FSRemove of an entry: `name` relative to an open folder, `path` in full.
 int RemoveAt(int folder, char const* name, ustring const& path) {
-  // The look of GetFileInfo, without filling a record. A path that is too long for the system can't
-  // be looked at, though its name can.
+  // Does what GetFileInfo does, without filling a record. GetFileInfo fails on a path that is too
+  // long for the system, although the name alone would do.
   if (path.length() >= PATH_MAX) return -1;
   struct stat found;
   if (fstatat(folder, name, &found, AT_SYMLINK_NOFOLLOW) != 0) return errno == ENOENT ? 0 : -1;
@@ -55,8 +56,8 @@ int FSRemove(ustring const& path, [[maybe_unused]] bool ignored) {
   if (path.empty() || GetFileInfo(path, info) != 0) return -1;
   if (!info.exists) return 0;
   if (info.type != FILE_TYPE_DIRECTORY) return file_op::RemoveOne(path);
-  // A path with a link or dots in it may lead through the very tree that is removed, and then leads
-  // elsewhere, or nowhere, as soon as the link has gone.
+  // A path with a symlink or dots in it may lead through the very tree that is being removed: once
+  // the symlink is gone, it leads elsewhere or nowhere.
   Walk const walk = info.path == file_op::ToNfc(path) ? Walk::kByFolders : Walk::kByPath;
   bool is_readable = false;
   if (int const result = RemoveEntries(path, walk, is_readable)) return result;

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// The part of FSRename for a directory that goes to another volume.
+/// Moves a folder to another volume.
 int MoveDirectory(ustring const& source, ustring const& target, bool strict) {
   if (FSMKDir(target, true) != 0) return -3;
   {

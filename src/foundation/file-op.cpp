@@ -20,7 +20,7 @@
 
 namespace {
 
-constexpr int kWantsDetails = 1;  // bit of DIR_HANDLE::flags
+constexpr int kWantsDetails = 1;  // a bit of DIR_HANDLE::flags
 constexpr unsigned short kModeOfUmask = 65535;
 constexpr std::size_t kPathBufferSize = 4096;
 constexpr int kCopyBufferSize = 32 * 1024 * 1024;
@@ -29,7 +29,7 @@ struct FreeBlock {
   void operator()(void* block) const { std::free(block); }
 };
 
-/// An open file. One that was written is synced before it is closed.
+/// An open file. A written one is flushed before it is closed.
 class Descriptor {
  public:
   enum class Use { kRead, kWrite };
@@ -64,7 +64,7 @@ UInt8 const* VolumeText(ustring const& path) {
   return reinterpret_cast<UInt8 const*>(path.c_str_utf8());
 }
 
-/// Finds the object at a path that is in NFC. 0 or -1.
+/// Finds the file at a path in NFC. Returns 0 or -1.
 int FindNormalPath(ustring const& path, FSRef& ref) {
   LOG_MSG(LEVEL_DEBUG, log_component::file_op(), "[DEBUG] file-op(%d): Input file path = [%s].\n",
           path.c_str());
@@ -81,7 +81,7 @@ void LogSpelling(ustring const& spelled) {
           "[DEBUG] file-op(%d): FSRefMakePath outTargetPath path = [%s].\n", spelled.c_str());
 }
 
-/// How the volume spells a path that is in NFC.
+/// SpellAsVolume for a path in NFC.
 int SpellNormalPath(ustring const& path, ustring& spelled) {
   FSRef ref;
   if (FindNormalPath(path, ref) != 0) return -1;
@@ -96,7 +96,7 @@ int SpellNormalPath(ustring const& path, ustring& spelled) {
   return 0;
 }
 
-/// CheckEntry of a path that is in NFC.
+/// CheckEntry for a path in NFC.
 int CheckNormalEntry(ustring const& path) {
   FSRef ref;
   if (FindNormalPath(path, ref) != 0) return -1;
@@ -104,10 +104,10 @@ int CheckNormalEntry(ustring const& path) {
   return 0;
 }
 
-/// One step of FSMKDirP: sees to it that a directory stands at the prefix.
+/// One step of FSMKDirP: makes the folder at this prefix, unless it exists.
 int MakePrefix(char const* prefix, bool replace, bool is_last, mode_t mode) {
   struct stat info;
-  // Whatever makes the look fail, mkdir gives the decisive error.
+  // Whatever the reason, the error of mkdir decides.
   if (stat(prefix, &info) != 0) return mkdir(prefix, mode);
   if (S_ISDIR(info.st_mode)) return 0;
   if (replace) {
@@ -127,7 +127,7 @@ int MakePrefix(char const* prefix, bool replace, bool is_last, mode_t mode) {
   return -1;
 }
 
-/// Makes one prefix after the other, cutting the text at each slash in turn. `end` is left at the
+/// Makes one prefix after another by cutting the string at each slash in turn. Leaves `end` at the
 /// last cut.
 int MakePrefixes(char* text, char*& end, bool replace, mode_t mode) {
   for (end = text;;) {
@@ -171,8 +171,8 @@ int CopyBytes(int source, int target, char* buffer) {
 
 }  // namespace
 
-// Both normalise a copy, since the caller's string may hold an outdated UTF-16 copy, or be another
-// thread's as well.
+// Both normalise a copy: the caller's string may hold an outdated UTF-16 copy, or be shared with
+// another thread.
 int file_op::SpellAsVolume(ustring const& path, ustring& spelled) {
   return IsAscii(path) ? SpellNormalPath(path, spelled)
                        : SpellNormalPath(ustring(path).normalize(ustring::NFC), spelled);
@@ -225,7 +225,7 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
 }
 
 void FSCloseDir(DIR_HANDLE& handle) {
-  // Not every system's closedir bears a null pointer.
+  // Some systems' closedir crashes on a null pointer.
   if (handle.dir != nullptr) closedir(handle.dir);
   handle.dir = nullptr;
   handle.path.clear();
@@ -292,7 +292,7 @@ int FSCreateSymbolicLink(ustring const& target, ustring const& link) {
 int FSReadSymbolicLink(ustring const& link, ustring& target) {
   char text[1024] = {};
   ssize_t const length = readlink(link.c_str(), text, sizeof(text));
-  // A text that fills the buffer has no terminator, and is most likely cut.
+  // A target that fills the buffer has no terminator and is most likely truncated.
   if (length == sizeof(text)) errno = ENAMETOOLONG;
   if (length < 0 || length == sizeof(text)) {
     LOG_MSG(LEVEL_ERROR, log_component::file_op(),
@@ -377,7 +377,7 @@ int FSMKDirFromRoot(ustring const& target, ustring const& root) {
 }
 
 int FSCopy(ustring const& source, ustring const& target, bool remove_source) {
-  // In this order, so that the source is closed first, then the target, and the buffer is freed.
+  // The order matters: the source is closed first, then the target, and the buffer is freed last.
   std::unique_ptr<char, FreeBlock> buffer;
   Descriptor to(Descriptor::Use::kWrite);
   Descriptor from(Descriptor::Use::kRead);
@@ -410,7 +410,7 @@ int FSCopy(ustring const& source, ustring const& target, bool remove_source) {
 
 int FSMktemp(ustring const& directory, ustring& path) {
   char name[kPathBufferSize];
-  // A text that is cut has lost its XXXXXX and is refused.
+  // A truncated template has lost its XXXXXX, and mkostemp rejects it.
   std::snprintf(name, sizeof(name), "%s/XXXXXX", directory.c_str());
   int const descriptor = mkostemp(name, O_CLOEXEC);
   if (descriptor < 0) {

@@ -15,7 +15,7 @@ constexpr int kDefaultThreshold = Logger::LEVEL_WARNING;
 constexpr int kRotateAtBytes = 1024 * 1024 + 1;
 constexpr int kRotateCountAfterDestroy = 32;
 
-/// Makes what `slot` points to, unless another thread was faster.
+/// Allocates what `slot` points to, unless another thread was faster.
 template <typename T>
 void AllocateOnce(std::atomic<T*>& slot) {
   if (slot.load(std::memory_order_acquire) != nullptr) return;
@@ -24,16 +24,15 @@ void AllocateOnce(std::atomic<T*>& slot) {
   if (!slot.compare_exchange_strong(expected, fresh, std::memory_order_acq_rel)) std::free(fresh);
 }
 
-/// Opens for appending, and not for the programs that the launcher starts.
+/// Opens for appending, close-on-exec.
 FILE* OpenForAppending(ustring const& path) {
   FILE* const stream = std::fopen(path.c_str(), "a");
   if (stream != nullptr) fcntl(fileno(stream), F_SETFD, FD_CLOEXEC);
   return stream;
 }
 
-/// Local time, which localtime_r leaves to the caller to keep up with changes of the time zone.
-/// Doing so costs more than all the rest of a record, and once a second is enough. The caller holds
-/// the lock.
+/// Local time. localtime_r doesn't have to notice changes of the time zone, and tzset costs more
+/// than the rest of a record, so it runs once a second. The caller holds the lock.
 tm LocalTime(time_t now) {
   static time_t zone_read_at = 0;
   if (zone_read_at != now) tzset();
@@ -59,7 +58,7 @@ struct GenerationName {
 
 }  // namespace
 
-// The names are never destroyed: a destructor may log.
+// Never destroyed: a destructor may log.
 namespace log_component {
 
 ustring const& launcher() {
@@ -174,7 +173,7 @@ int Logger::Rotate() {
   std::remove(GenerationName(log_path, rotate_cnt - 1).text);
 
   CloseLogFile();
-  // Only a failure may be seen as a null stream: a thread that looks meanwhile, ahead of the lock,
+  // Only a failure may leave a null stream: a thread that reads it without the lock in the meantime
   // would drop its record.
   bool const is_renamed = std::rename(log_path.c_str(), GenerationName(log_path, 0).text) == 0;
   FILE* const stream = is_renamed ? OpenForAppending(log_path) : nullptr;
@@ -214,7 +213,7 @@ void Logger::DestroySharedData() {
   shared_data_set = false;
 }
 
-/// Makes what the compiler can't. Safe from any thread at any time.
+/// Makes what can't be initialised at compile time. Safe from any thread at any time.
 bool Logger::Start() {
   static bool const made = [] {
     new (&log_level_room.object) std::map<ustring, int>;
@@ -230,9 +229,8 @@ bool Logger::HasSharedData() {
          log_rotated_count_shared.load(std::memory_order_acquire) != nullptr;
 }
 
-/// Gives the shared data the values that Initialize hasn't: it hasn't run, or it has failed.
-/// Nothing is to be followed then, and a stream that is no log file of ours is never rotated. The
-/// caller holds the lock.
+/// Initialises the shared data if Initialize hasn't, because it never ran or failed. No rotation is
+/// then pending, and a stream that isn't our log file is never rotated. The caller holds the lock.
 void Logger::SetSharedData() {
   if (shared_data_set) return;
   *log_rotated_count_shared = log_rotated_count_private;
@@ -268,7 +266,7 @@ void Logger::FollowRotation() {
   log_rotated_count_private = *log_rotated_count_shared;
 }
 
-/// Returns the bytes written to a counted stream, or 0.
+/// Returns the bytes written to a stream whose size is counted, or 0.
 int Logger::WriteRecord(char const* format, va_list args) {
   if (log_type == TYPE_SYSLOG) {
     vsyslog(LOG_ERR, format, args);
@@ -279,7 +277,7 @@ int Logger::WriteRecord(char const* format, va_list args) {
     return 0;  // of a stream that isn't counted
   }
   FILE* const stream = log_fp;
-  if (stream == nullptr) return 0;  // another thread's rotation failed meanwhile
+  if (stream == nullptr) return 0;  // another thread's rotation has failed since
   int written = WriteTimeStamp(stream);
   written += std::vfprintf(stream, format, args);
   std::fflush(stream);

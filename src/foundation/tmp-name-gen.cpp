@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Six bits of the value for each character, from the high end down.
+/// Each character encodes six bits of the value, high bits first.
 void EncodeThreeBytes(unsigned char const* bytes, char* characters) {
   static constexpr char map[] = "0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ-_";
   characters[0] = map[bytes[0] >> 2];

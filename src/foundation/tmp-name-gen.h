@@ -4,12 +4,12 @@
 
 #include "foundation/ustring.h"
 
-/// Makes up names for temporary files: eight characters that are all safe in a file name. The
-/// sequence is seeded from the clock; it is for avoiding collisions, not for secrets. After a fork
-/// parent and child go on with the same sequence.
+/// Generates names for temporary files: eight characters that are safe in a file name. Seeded from
+/// the clock, to avoid collisions, not for security. After a fork, parent and child continue the
+/// same sequence.
 class TmpNameGen {
  public:
-  /// The one that the process shares. Any thread.
+  /// The instance that the process shares. Any thread may call it.
   static TmpNameGen* getInstance();
 
   TmpNameGen();
@@ -19,17 +19,16 @@ class TmpNameGen {
 
   /// Any thread.
   ustring getTmpName();
-  /// A name behind `directory` and a slash. Nobody looks whether something stands there. Any
-  /// thread.
+  /// `directory`, a slash and a name. Doesn't check whether the path exists. Any thread.
   ustring getTmpPath(ustring const& directory);
 
-  /// Writes the clock into `size` bytes as text.
+  /// Writes the time as a string into `size` bytes.
   static void get_key(unsigned char* key, unsigned long size);
-  /// Sets up the permutation of 256 bytes from all 256 bytes of the key. A key that is empty as a
-  /// text is filled from rand() first.
+  /// Initialises the permutation from all 256 bytes of the key. A key that starts with NUL is
+  /// filled from rand() first.
   static void rc4_init(unsigned char* sbox, unsigned char* key);
-  /// Takes `count` bytes from the permutation and changes it on the way. Each call starts at the
-  /// permutation's beginning.
+  /// Returns `count` bytes of the permutation and changes it on the way. Each call starts at its
+  /// beginning.
   static void rc4_randomize(unsigned char* sbox, unsigned char* output, int count);
 
  private:

@@ -1,4 +1,4 @@
-// UTF-16 and normal forms, by ICU.
+// UTF-16 and normal forms, through ICU.
 
 #include <unicode/unorm2.h>
 #include <unicode/ustring.h>
@@ -47,8 +47,7 @@ int ustring::convert_from_data() const {
   return 0;
 }
 
-// The text doesn't survive a failure: the UTF-16 can't stand as the truth, and the UTF-8 is of
-// before the change.
+// A failure empties the string: the UTF-16 is invalid, and the UTF-8 predates the change.
 int ustring::convert_from_wdata() {
   UErrorCode status = U_ZERO_ERROR;
   int32_t length = 0;
@@ -57,7 +56,7 @@ int ustring::convert_from_wdata() {
   try {
     realloc_data(Needed(static_cast<unsigned long>(length), 0));
   } catch (std::bad_alloc const&) {
-    clear_wdata();  // the text is still that of before the change
+    clear_wdata();  // the UTF-8 still predates the change
     throw;
   }
   u_strToUTF8(data, static_cast<int32_t>(data_capacity), &length, Units(wdata), -1, &status);

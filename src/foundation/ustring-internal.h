@@ -4,11 +4,11 @@
 
 #include "foundation/ustring.h"
 
-// What the sources of ustring share, for nobody else.
+// Shared by the sources of ustring.h alone.
 
 namespace ustring_internal {
 
-/// The units needed for a text with n more behind it, and its terminator.
+/// The units needed for a string of this length, n more and the terminator.
 inline unsigned long Needed(unsigned long length, unsigned long n) {
   if (n >= ustring::npos - length) throw std::bad_alloc();
   return length + n + 1;

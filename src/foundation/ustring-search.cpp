@@ -1,4 +1,4 @@
-// Search, what trims by it, and comparison.
+// Search, trimming and comparison.
 
 #include <algorithm>
 #include <bitset>
@@ -30,7 +30,7 @@ unsigned char Fold(char c) {
 
 int Identity(char c) { return static_cast<unsigned char>(c); }
 
-/// How two texts differ at the first place where they do, if that isn't behind n bytes.
+/// The difference of the first bytes that differ, among the first n.
 template <class Map>
 int Difference(char const* a, char const* b, unsigned long n, Map map) {
   for (; n != 0; ++a, ++b, --n) {
@@ -92,7 +92,7 @@ ustring& ustring::ltrim(char const* set) {
 }
 
 ustring& ustring::rtrim(char const* set) {
-  unsigned long const length = last_byte(set, npos, false) + 1;  // npos wraps round to 0
+  unsigned long const length = last_byte(set, npos, false) + 1;  // npos wraps to 0
   if (length == data_length) return *this;
   Terminate(data, data_length, length);
   clear_wdata();

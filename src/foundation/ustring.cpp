@@ -20,7 +20,7 @@ namespace {
 
 constexpr unsigned long kFirstCapacity = 4;
 
-/// The length of a text of which at most n units are wanted.
+/// The length of a string, at most n.
 unsigned long Length(char const* s, unsigned long n) {
   return n == ustring::npos ? std::strlen(s) : strnlen(s, n);
 }
@@ -31,7 +31,8 @@ unsigned long Length(unsigned short const* s, unsigned long n) {
   return length;
 }
 
-/// Room for exactly `needed` units, unless the buffer is large enough and not twice too large.
+/// Reallocates to exactly `needed` units, unless the buffer is large enough and less than about
+/// twice as large.
 template <class Unit>
 void Fit(Unit*& buffer, unsigned long& capacity, unsigned long needed) {
   if (capacity >= needed && capacity / 2 <= needed) return;
@@ -48,7 +49,7 @@ bool Holds(Unit const* buffer, unsigned long length, Unit const* s) {
   return !before(s, buffer) && !before(buffer + length, s);
 }
 
-/// Adds n units, which may stand in the buffer itself.
+/// Appends n units, which may lie in the buffer itself.
 template <class Unit>
 void Append(Unit*& buffer, unsigned long& length, unsigned long& capacity, Unit const* s,
             unsigned long n) {
@@ -62,14 +63,13 @@ void Append(Unit*& buffer, unsigned long& length, unsigned long& capacity, Unit 
 template <class Unit>
 void AppendCopies(Unit*& buffer, unsigned long& length, unsigned long& capacity, Unit c,
                   unsigned long n) {
-  if (c == 0) n = 0;  // a text ends at its first NUL
+  if (c == 0) n = 0;  // a string ends at its first NUL
   Fit(buffer, capacity, Needed(length, n));
   std::fill_n(buffer + length, n, c);
   Terminate(buffer, length, length + n);
 }
 
-/// Leaves n units that stand inside the buffer, or none where it can't shrink. They move before it
-/// does.
+/// Keeps n units of the buffer, or none if it can't be reallocated. They move before it does.
 template <class Unit>
 void KeepPart(Unit*& buffer, unsigned long& length, unsigned long& capacity, Unit const* s,
               unsigned long n) {
@@ -83,7 +83,7 @@ void KeepPart(Unit*& buffer, unsigned long& length, unsigned long& capacity, Uni
   Terminate(buffer, length, n);
 }
 
-/// The text that `s.substr(pos, n)` holds, up to its first NUL.
+/// What `s.substr(pos, n)` would return, up to its first NUL.
 std::string_view Part(std::string const& s, unsigned long pos, unsigned long n) {
   if (pos > s.size()) throw std::out_of_range("basic_string::substr");
   return {s.data() + pos, Length(s.data() + pos, std::min(n, s.size() - pos))};
@@ -106,7 +106,7 @@ ustring& ustring::operator=(ustring&& s) noexcept {
   if (this == &s) return *this;
   swap(s);
   s.clear();
-  clear_wdata();  // as in a copy: the UTF-16 may be older than the text
+  clear_wdata();  // as in a copy: the UTF-16 may be outdated
   return *this;
 }
 
@@ -119,7 +119,7 @@ ustring::~ustring() {
 
 void ustring::init() { allocate(kFirstCapacity, kFirstCapacity); }
 
-// Takes at once the memory that an empty text with this text appended would end with.
+// Allocates at once what appending to an empty string would end with.
 void ustring::init(std::string_view a, std::string_view b) {
   unsigned long const needed = Needed(a.size(), b.size());
   bool const fits_empty = needed <= kFirstCapacity && needed >= kFirstCapacity / 2;
@@ -317,7 +317,7 @@ ustring operator+(ustring const& a, ustring const& b) { return {a.data, b.data};
 ustring operator+(ustring const& a, char const* b) { return {a.data, b}; }
 ustring operator+(ustring const& a, char b) { return {a.data, ustring::text_of(b)}; }
 
-// The sum is copied out: a copy has no UTF-16 made.
+// Returns a copy, which has no UTF-16.
 ustring operator+(ustring const& a, unsigned short const* b) {
   ustring sum(a);
   sum.append(b);

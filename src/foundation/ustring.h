@@ -5,22 +5,22 @@
 #include <string>
 #include <string_view>
 
-/// A text held as UTF-8, with a UTF-16 copy made when somebody asks for one.
+/// A UTF-8 string with a UTF-16 copy that is made on demand.
 ///
-/// The UTF-8 bytes are the truth; lengths and positions count them, never characters. A text ends
-/// at its first NUL, whatever length it was given with. The names are those of std::string; where
-/// the results differ from it (the empty pattern in searches, `<=` and `>=`), the member says so.
+/// Lengths and positions count UTF-8 bytes, never characters. A string ends at its first NUL,
+/// whatever length was given. The members are named as those of std::string; where results differ
+/// from it (the empty pattern in searches, `<=` and `>=`), the member says so.
 ///
-/// Both buffers belong to the one object. They fit the text: they grow to the exact size and are
-/// given back when less than about half is used.
+/// Both buffers belong to the object. They grow to the exact size and shrink when less than about
+/// half is used.
 ///
-/// A ustring belongs to one thread at a time: c_str_utf16() and normalize() write the UTF-16 copy
-/// even of a const object. Several threads may share an object through c_str(), c_str_utf8(),
-/// length(), empty() and the comparisons alone.
+/// One thread at a time may use an object: c_str_utf16() and normalize() write the UTF-16 copy even
+/// of a const one. Several threads may share an object if all of them use only c_str(),
+/// c_str_utf8(), length(), empty() and the comparisons.
 ///
 /// Throws std::bad_alloc when memory runs out: an assignment then leaves the object empty, any
-/// other change leaves the text as it was. Throws std::out_of_range where a position is checked. A
-/// null pointer is no valid text.
+/// other change leaves it as it was. Throws std::out_of_range where a position is checked. A null
+/// pointer is not a valid argument.
 class ustring {
  public:
   enum normalization_form { NFC = 0, NFD = 1 };
@@ -30,14 +30,14 @@ class ustring {
 
   ustring();
   ustring(ustring const& s);
-  ustring(ustring&& s) noexcept;  ///< Leaves `s` empty and usable; ends the process if it can't.
+  ustring(ustring&& s) noexcept;  ///< Leaves `s` empty and usable; terminates if it can't.
   ustring(char const* s);
   ustring(unsigned short const* s);
   ustring(std::string const& s);
   ustring(char c);
   ~ustring();
 
-  /// Replaces the text. When a position is out of range the object is left empty, unless `s` is
+  /// Replaces the string. If a position is out of range, the object is left empty, unless `s` is
   /// the object itself.
   ustring& assign(ustring const& s, unsigned long pos = 0, unsigned long n = npos);
   ustring& assign(char const* s);
@@ -48,9 +48,8 @@ class ustring {
   ustring& assign(char c, unsigned long n = 1);
   ustring& assign(unsigned short c, unsigned long n = 1);
 
-  /// Adds to the end. `s` may be the object itself or point into its buffers. UTF-16 that isn't
-  /// well formed empties the object; present text that isn't valid UTF-8 is replaced by what is
-  /// appended as UTF-16.
+  /// Appends. `s` may be the object itself or point into its buffers. Ill-formed UTF-16 empties the
+  /// object. If the object holds invalid UTF-8, appended UTF-16 replaces it.
   ustring& append(ustring const& s, unsigned long pos = 0, unsigned long n = npos);
   ustring& append(char const* s);
   ustring& append(char const* s, unsigned long n);
@@ -75,15 +74,14 @@ class ustring {
   ustring& operator+=(char c) { return append(c, 1); }
   ustring& operator+=(unsigned short c) { return append(c, 1); }
 
-  /// The UTF-8 text, valid until the next change.
+  /// The UTF-8, valid until the next change.
   char const* c_str() const { return data; }
   char const* c_str_utf8() const { return data; }
-  /// The UTF-16 text, valid until the next change; empty, with a warning on std::cerr, when the
-  /// text isn't valid UTF-8. What was written by replace() or operator[] since the copy was made
-  /// isn't in it.
+  /// The UTF-16, valid until the next change; empty, with a warning on std::cerr, if the UTF-8 is
+  /// invalid. Doesn't include what replace() and operator[] wrote after the copy was made.
   unsigned short const* c_str_utf16() const;
 
-  /// Unchecked.
+  /// The position is not checked.
   char& operator[](unsigned long pos) { return data[pos]; }
   char const& operator[](unsigned long pos) const { return data[pos]; }
 
@@ -91,13 +89,13 @@ class ustring {
   unsigned long size() const { return data_length; }
   bool empty() const { return data_length == 0; }
 
-  /// These keep the memory.
+  /// Keep the buffers.
   void clear();
   void clear_data();
   void clear_wdata() const;
 
-  /// Searches compare bytes and may hit the middle of a character. NUL as the character stands for
-  /// the empty pattern. From a position at or behind the end nothing is found, not even "".
+  /// Searches compare bytes and may match in the middle of a character. A NUL character means the
+  /// empty pattern. Nothing is found from a position at or beyond the end, not even "".
   unsigned long find(std::string const& s, unsigned long pos = 0) const {
     return find_text(s.c_str(), pos);
   }
@@ -107,8 +105,8 @@ class ustring {
   }
   unsigned long find(char c, unsigned long pos = 0) const { return find_text(text_of(c), pos); }
 
-  /// Backward searches begin at `pos`, or at the last byte when `pos` is behind it: the empty
-  /// pattern is found there, at length() - 1 at most.
+  /// Backward searches begin at `pos`, or at the last byte if `pos` is beyond it. They find the
+  /// empty pattern there, at length() - 1 at most.
   unsigned long rfind(std::string const& s, unsigned long pos = npos) const {
     return rfind_text(s.c_str(), pos);
   }
@@ -172,7 +170,7 @@ class ustring {
     return last_byte(text_of(c), pos, false);
   }
 
-  /// Drop the leading, the trailing, or both runs of bytes that are in `set`.
+  /// Remove the leading bytes that are in `set`, the trailing ones, or both.
   ustring& ltrim(ustring const& set) { return ltrim(set.data); }
   ustring& ltrim(char const* set);
   ustring& rtrim(ustring const& set) { return rtrim(set.data); }
@@ -180,20 +178,20 @@ class ustring {
   ustring& trim(ustring const& set) { return trim(set.data); }
   ustring& trim(char const* set);
 
-  /// Throws when `pos` is behind the end; the end itself gives an empty text.
+  /// Throws if `pos` is beyond the end; at the end, returns an empty string.
   ustring substr(unsigned long pos = 0, unsigned long n = npos) const;
   void swap(ustring& other) noexcept;
-  /// Overwrites every byte `from`. A UTF-16 copy made earlier keeps the former text.
+  /// Replaces every byte `from`. An existing UTF-16 copy doesn't change.
   ustring& replace(char from, char to);
 
-  /// The difference of the first bytes that differ, taken as unsigned; 0 for equal texts.
+  /// The difference of the first bytes that differ, as unsigned; 0 for equal strings.
   int compare(ustring const& other) const;
-  /// The same over at most `n` bytes.
+  /// The same for the first `n` bytes.
   int compare(ustring const& other, unsigned long n) const;
-  /// The same; with `ignore_case` A to Z count as a to z, and no other letter is folded.
+  /// The same; `ignore_case` folds A to Z, and no other letters.
   static int compare(ustring const& a, ustring const& b, bool ignore_case);
 
-  /// Empty, with a warning on std::cerr, when the text isn't valid UTF-8.
+  /// Returns an empty string, with a warning on std::cerr, if the UTF-8 is invalid.
   ustring normalize(normalization_form form) const { return normalize(*this, form); }
   static ustring normalize(ustring const& s, normalization_form form);
   static bool is_valid(ustring const& s);
@@ -204,7 +202,7 @@ class ustring {
   friend ustring operator+(ustring const& a, char const* b);
   friend ustring operator+(ustring const& a, char b);
 
-  /// The two texts one behind the other, neither with a NUL in it.
+  /// The concatenation of two strings without NUL.
   ustring(std::string_view a, std::string_view b) { init(a, b); }
 
   void init();
@@ -228,7 +226,7 @@ class ustring {
   unsigned long data_length;
   unsigned long data_capacity;
   mutable unsigned short* wdata;
-  mutable unsigned long wdata_length;  // 0: the copy isn't made, or the text is empty
+  mutable unsigned long wdata_length;  // 0: there is no copy, or the string is empty
   mutable unsigned long wdata_capacity;
 };
 
@@ -240,13 +238,13 @@ ustring operator+(ustring const& a, unsigned short b);
 
 void swap(ustring& a, ustring& b) noexcept;
 
-/// By bytes. `<=` and `>=` are as strict as `<` and `>`: both are false for equal texts.
+/// Bytewise. `<=` and `>=` are as strict as `<` and `>`: both are false for equal strings.
 inline bool operator<(ustring const& a, ustring const& b) {
   return std::strcmp(a.c_str(), b.c_str()) < 0;
 }
 inline bool operator==(ustring const& a, ustring const& b) {
-  // Bytes of a known number are compared faster than texts whose end has to be found. What
-  // operator[] wrote may have moved the end, so that only texts that end there are told so.
+  // Comparing a known number of bytes is faster than finding the ends. operator[] may have written
+  // a NUL before the end, so only strings that still end there take this way.
   unsigned long const end = a.length();
   if (end == b.length() && a[end] == '\0' && std::memcmp(a.c_str(), b.c_str(), end + 1) == 0) {
     return true;

@@ -18,9 +18,9 @@ namespace {
 constexpr int kReady = 519;  // desc_lkmr_env_preparation_done
 constexpr unsigned long kGatheringMs = 2;
 constexpr int kFrameMs = 17;         // one frame at 60 Hz
-constexpr int kOutOfSightMs = 1000;  // when no paint event comes, as for a minimised window
+constexpr int kOutOfSightMs = 1000;  // if no paint event arrives, as for a minimised window
 
-/// Ends an event loop once the screen has shown what a window paints.
+/// Ends an event loop once the screen shows what a window has painted.
 class PaintWatch : public QObject {
  public:
   PaintWatch(QWidget* window, QEventLoop* loop) : loop_(loop) { window->installEventFilter(this); }
@@ -34,16 +34,16 @@ class PaintWatch : public QObject {
   QEventLoop* loop_;
 };
 
-/// Returns when the screen has shown the window as it is now. Painting comes after the signals that
-/// wait in the queue, and the window system may still be about to map the window of a short run: if
-/// it were hidden right away, its last label would never be seen.
+/// Returns once the screen shows the window's current state. Painting waits behind the queued
+/// signals, and after a short run the window system may not have mapped the window yet: hidden at
+/// once, its last label would never be seen.
 void LetItBeSeen(QWidget* window) {
   if (!window->isVisible()) return;
   QEventLoop loop;
   PaintWatch const watch(window, &loop);
   QTimer::singleShot(kOutOfSightMs, &loop, SLOT(quit()));
-  // Not update(): the event that it posts may wait behind the one that is being delivered, and the
-  // loop would not look at it. What can't be painted yet is painted when the window is mapped.
+  // Not update(): its event may wait behind the one being delivered, where the loop doesn't see it.
+  // What can't be painted yet is painted when the window is mapped.
   window->repaint();
   loop.exec();
 }
@@ -100,11 +100,11 @@ Launcher::Launcher() : QObject(nullptr), worker(nullptr), dialog(nullptr) {
   dialog = new ProcessingProgressDialog;
   dialog->setCancelButton(nullptr);
   dialog->setAutoReset(false);
-  // A window that is closed in the middle of an upgrade must not end the event loop: the worker
-  // would still be at work when its owner is deleted.
+  // Closing the window during an upgrade must not end the event loop: the worker would still be
+  // running when its owner is deleted.
   QApplication::setQuitOnLastWindowClosed(false);
-  // An archive of small files sends a notification every few microseconds, and waking this thread
-  // for each costs both threads more than writing the file. Too short to be seen in a window.
+  // An archive of small files sends a notification every few microseconds. Waking this thread for
+  // each one costs both threads more than writing the file. The delay is too short to see.
   connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
           [this] {
             if (dialog->isVisible()) QThread::msleep(kGatheringMs);
@@ -122,8 +122,8 @@ Launcher::Launcher() : QObject(nullptr), worker(nullptr), dialog(nullptr) {
 }
 
 Launcher::~Launcher() {
-  // LaunchDone has joined the thread already, unless the system ended the event loop in the middle
-  // of the work: then the work goes on to its end here, without a window.
+  // LaunchDone has already joined the thread, unless the system ended the event loop during an
+  // upgrade: the upgrade then finishes here, without a window.
   worker->QuitThread();
   worker->JoinThread();
   delete worker;
@@ -141,11 +141,11 @@ void Launcher::UpdateProgress(int total, int steps) { dialog->setValue(steps * 1
 void Launcher::SetLabelText(const QString& text) { dialog->setLabelText(text); }
 
 void Launcher::LaunchDone() {
-  // The worker has started the client already, so nobody waits for this.
+  // The client has already been started, so nobody waits for this.
   LetItBeSeen(dialog);
   dialog->setValue(100);
   dialog->hide();
-  // Joined before the loop is asked to end, so that main may delete us at once.
+  // Join before quitting the loop: main may then delete this object at once.
   worker->QuitThread();
   worker->JoinThread();
   QCoreApplication::quit();

@@ -7,7 +7,7 @@
 class ProcessingProgressDialog;
 class Service;
 
-/// The worker thread: nothing but an event loop for the Worker.
+/// The worker thread: just an event loop for the Worker.
 class HandlerThread : public QThread {
   Q_OBJECT
 
@@ -19,33 +19,32 @@ class HandlerThread : public QThread {
   void run() override;
 };
 
-/// Owns the upgrade service and runs the whole upgrade sequence on a thread of its own. Made and
-/// destroyed on the main thread; its slot runs on the worker thread. It never waits for the main
-/// thread: all it has to say leaves as queued signals.
+/// Owns the upgrade service and runs the whole upgrade on its own thread. Created and destroyed on
+/// the main thread; its slot runs on the worker thread. It never waits for the main thread and
+/// reports only through queued signals.
 class Worker : public QObject {
   Q_OBJECT
 
  public:
   Worker();
-  /// The thread must have ended: QuitThread, then JoinThread.
+  /// The thread must have ended: call QuitThread, then JoinThread.
   ~Worker() override;
 
   void StartThread();
   void QuitThread();
-  /// Blocks until the thread has ended, without a time limit.
+  /// Blocks until the thread has ended, without a timeout.
   void JoinThread();
 
  signals:
-  /// The last thing that happens on the worker thread.
+  /// Emitted last on the worker thread.
   void sigServiceDone();
   void sigShowMsg();
-  /// The total first, then how much of it is done.
+  /// The total, then how much of it is done.
   void sigUpdateProgress(int, int);
   void sigSetLabelText(const QString&);
 
  private slots:
-  /// Upgrades when needed, then cleans up and starts the sync client, whatever came before. Runs
-  /// once, to its end.
+  /// Upgrades if needed, then cleans up and starts the client, whatever happened before. Runs once.
   void HandleServicce();
 
  private:
@@ -53,8 +52,8 @@ class Worker : public QObject {
   Service* service;
 };
 
-/// Lives on the main thread, owns the dialog and the worker, and turns the worker's signals into
-/// calls on the dialog.
+/// Lives on the main thread. Owns the dialog and the worker, and forwards the worker's signals to
+/// the dialog.
 class Launcher : public QObject {
   Q_OBJECT
 
@@ -64,8 +63,8 @@ class Launcher : public QObject {
 
   /// Starts the worker thread.
   void Run();
-  /// Starts the sequence. May be called before the event loop is entered; the loop is then ended
-  /// by the sequence's end.
+  /// Starts the upgrade sequence. May be called before the event loop runs; the end of the sequence
+  /// ends the loop.
   void Start();
 
  signals:

@@ -16,16 +16,16 @@ namespace {
 
 constexpr int kLogGenerations = 50;
 
-/// Replaces the toolkit's plug-in folders by the bundle's own. There is no application object yet
-/// to ask where the executable lies, so argv[0] has to do; the first ".." takes off its name.
+/// Replaces Qt's plug-in folders with the bundle's own. Without an application object yet, the
+/// executable's folder comes from argv[0]; the first ".." removes the name.
 void UseBundledPlugins(char const* executable) {
   QString const path = QDir::cleanPath(QString(executable) + "/../../Frameworks/plugins");
   QCoreApplication::setLibraryPaths(QStringList{path});
   printf("lib path = '%s'\n", path.toUtf8().constData());
 }
 
-/// Opens the log under the user's root; its thresholds come from a file in the bundle. Where the
-/// folder can't be made, the log stays on standard error.
+/// Opens the log in the user's home, with thresholds from a file in the bundle. If the folder can't
+/// be made, the log stays on standard error.
 void OpenLog() {
   ustring const debug_marker = Service::GetRootLarkmoorInstallPath() + "/log/launcher.debug";
   ustring const folder = Service::GetUserLarkmoorInstallPath() + "/log";
@@ -36,8 +36,8 @@ void OpenLog() {
 
 }  // namespace
 
-// The order matters throughout. The plug-in path must stand before the application object; the log
-// before the guard, so that a second start can say so; the texts before the dialog's constructor.
+// The order matters: the plug-in path comes before the application object; the log before the
+// guard, so that a second start can be logged; the texts before the dialog.
 int main(int argc, char** argv) {
   setlocale(LC_ALL, "");
   Q_INIT_RESOURCE(texts);

@@ -3,21 +3,21 @@
 #include <QObject>
 #include <QString>
 
-/// The way from deep inside the worker thread to the dialog: code that knows no Worker calls the
-/// adapter, whose signals the Launcher has connected to its slots.
+/// Connects code deep inside the worker thread with the dialog. Code that knows no Worker calls the
+/// adapter; the Launcher connects its signals to slots.
 ///
-/// Any thread may call it. It holds no data, and with nobody connected its calls do nothing.
+/// Any thread may call it. It holds no data. Without connections, calls do nothing.
 class Notify_Adapter : public QObject {
   Q_OBJECT
 
  public:
-  /// The one object of the process. Made by the first caller, whose thread it belongs to; destroyed
-  /// at process exit, never by a caller.
+  /// The instance of the process. Created on the first call and by that thread; destroyed at
+  /// process exit, never by a caller.
   static Notify_Adapter* GetInstance();
 
-  /// Emits sigUpdateProgress: `current` of `total` entries are done, counted from 1.
+  /// Emits sigUpdateProgress: `current` of `total` entries are done, counting from 1.
   void UpdateProgress(int total, int current);
-  /// Emits sigUpdateDialogText with the label to show.
+  /// Emits sigUpdateDialogText with the new label.
   void UpdateDialogText(QString text);
 
  signals:

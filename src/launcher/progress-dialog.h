@@ -2,8 +2,8 @@
 
 #include <QProgressDialog>
 
-/// The one window of the launcher: a progress dialog with a fixed look, driven from outside. Main
-/// thread only. Making it shows nothing; a missing icon or font shows as exactly that.
+/// The launcher's only window: a progress dialog with a fixed look, controlled by its owner. Main
+/// thread only. The constructor doesn't show it. A missing icon or font is not an error.
 class ProcessingProgressDialog : public QProgressDialog {
   Q_OBJECT
 
@@ -11,8 +11,8 @@ class ProcessingProgressDialog : public QProgressDialog {
   ProcessingProgressDialog();
   ~ProcessingProgressDialog() override;
 
-  /// Gives the application the dialog's font family, for a faster start: QProgressDialog lays
-  /// itself out before the dialog sets its own font, and with one family Qt searches the system's
-  /// fonts once instead of twice. Call it before the constructor.
+  /// Sets the dialog's font family as the application's, for a faster start: QProgressDialog
+  /// computes its layout before the dialog sets its own font, and with a single family Qt searches
+  /// the system's fonts once instead of twice. Call it before the constructor.
   static void SetApplicationFont();
 };

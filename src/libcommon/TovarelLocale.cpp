@@ -5,8 +5,8 @@
 #include <QMap>
 #include <QMessageLogger>
 
-// A debug message of Qt's own logger. Its source, line and function are part of the message and are
-// what its readers filter by, so they are fixed here and don't follow the file's real lines.
+// A debug message through Qt's own logger. Source, line and function are part of the message, and
+// people filter by them, so they are fixed and don't follow the real ones.
 #define TRACE(line, function, format, value)                      \
   QMessageLogger(kSourcePath, line, function, "default")          \
       .debug(format, kSourcePath, line, "qPrintable(" #value ")", \
@@ -40,8 +40,8 @@ QMap<QString, QString> CataloguesByPrefix() {
 }  // namespace
 
 QString getLanguageForLocale(QString const& qstrLocaleLower) {
-  // Where two catalogues share a language the region decides, and only as a whole name. "pt" alone
-  // is Portugal's, although every region but Portugal gets Brazil's.
+  // Where two catalogues share a language, the region decides, as an exact match. "pt" alone is
+  // Portugal, although every region except Portugal gets Brazil's.
   for (char const* name : {"zh_tw", "zh_hk", "zh_mo"}) {
     if (qstrLocaleLower == QLatin1String(name)) return QStringLiteral("cht");
   }
@@ -79,8 +79,8 @@ QList<QString> getSupportedLanguages() {
 QString getStrLanguageFallSafe() { return qstrLanguageFallSafe; }
 
 QString getLanguageAbbrByID(int id) {
-  // One comparison refuses the negative ids too. The id behind the last language reaches the
-  // closing null pointer, which makes an empty string.
+  // The conversion to unsigned rejects negative ids too. The id after the last language reads the
+  // terminating null pointer, which makes an empty string.
   if (static_cast<unsigned>(id) > static_cast<unsigned>(kLanguageCount)) return QString();
   return QString(grgszLanguages[id]);
 }

@@ -25,8 +25,8 @@ char const* ktab[kRowCount];  // the keys, ASCII
 }  // namespace
 
 void InitStrTable() {
-  // Stores at run time rather than initialised arrays: those would cost the dynamic linker a
-  // relocation for each entry on every start.
+  // Assigned at run time: initialised arrays would cost the dynamic linker a relocation per entry
+  // at every start.
 #define ROW(id, key, text) \
   stab[id] = text;         \
   ktab[id] = key;
@@ -36,7 +36,7 @@ void InitStrTable() {
 
 QString LoadStr(int id) {
   QString text = QCoreApplication::translate("global", stab[id], nullptr, -1);
-  // On the translated text, so that a translator may break a line where English doesn't.
+  // Applied to the translation, so that translators may break lines where English doesn't.
   text.replace(QLatin1String("\\n"), QLatin1String("\n"));
   text.replace(QLatin1String("\\t"), QLatin1String("\t"));
   return text;

@@ -22,7 +22,7 @@ constexpr unsigned kSecondsBetweenProbes = 1;
 
 int BuildNumber(ustring const& build) { return build.empty() ? 0 : atoi(build.c_str()); }
 
-/// Asks a process to end, gives it until the last probe, then kills it.
+/// Asks a process to end, polls until it has or a timeout passes, then kills it.
 void Terminate(pid_t pid) {
   if (kill(pid, SIGTERM) != 0) {
     if (errno == ESRCH) return;
@@ -106,7 +106,7 @@ void MacService::StopService() {
 }
 
 int MacService::HandlePackageUpgrade() {
-  // Before a first installation no client of ours can be running.
+  // Before a first installation, no client of ours can be running.
   if (PerUserBinPathExist()) {
     LOG_MSG(LEVEL_DEBUG, log_component::service(),
             "[DEBUG] mac/mac-service(%d): local appdata exist\n");

@@ -2,30 +2,30 @@
 
 #include "service/larkmoor-service.h"
 
-/// The upgrade on a desktop with application bundles. Adds no state to Service; made on the main
-/// thread, used on the worker thread alone.
+/// The upgrade on a desktop with application bundles. Adds no state to Service. Created on the main
+/// thread, used only on the worker thread.
 class MacService : public Service {
  public:
   MacService();
   ~MacService() override;
 
-  /// One object for callers that have none at hand, made at first use and destroyed at exit. The
-  /// Worker makes its own.
+  /// An instance for callers that have none, created on first use and destroyed at exit. The Worker
+  /// creates its own.
   static MacService* GetInstace();
 
   void LoadSourceVerInfo();
   void LoadTargetVerInfo();
-  /// Whether anything stands where the user's sync client is started from, executable or not.
+  /// Whether the client's executable exists in the user's installation, executable or not.
   bool PerUserBinPathExist();
-  /// Unregisters the per-user bundle and opens it. 0 when the start was requested, -1 otherwise.
-  /// Blocks while the registration tool runs; does not wait for the client.
+  /// Unregisters the user's bundle and opens it. Returns 0 if the start was requested, else -1.
+  /// Blocks while the registration tool runs, but doesn't wait for the client.
   static int LaunchPerUserBin();
 
   void StopService() override;
   int HandlePackageUpgrade() override;
   void PostUpgrade() override;
   void PreUpgrade() override;
-  /// True when the carried build is newer than the installed one, or when the user's executable is
-  /// missing. Only the build numbers count, and PreUpgrade reads them.
+  /// True if the carried build is newer than the installed one, or the user's executable is
+  /// missing. Only build numbers count; PreUpgrade reads them.
   bool IsNeedUpgrade() override;
 };

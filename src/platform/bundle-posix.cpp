@@ -13,7 +13,7 @@
 namespace platform {
 namespace {
 
-/// The attributes and file actions of one posix_spawn, freed with it.
+/// The attributes and file actions of one posix_spawn.
 class SpawnPlan {
  public:
   SpawnPlan() {
@@ -27,8 +27,8 @@ class SpawnPlan {
   SpawnPlan(SpawnPlan const&) = delete;
   SpawnPlan& operator=(SpawnPlan const&) = delete;
 
-  /// A session of its own, no signal blocked or ignored, nothing open but /dev/null, and "/" as the
-  /// working folder, so that the program holds on to nothing of whoever started us.
+  /// Its own session, all signals at their defaults, only /dev/null open and "/" as the working
+  /// folder: the program keeps nothing of its starter in use.
   bool Detach() {
     sigset_t none;
     sigset_t all;

@@ -2,17 +2,18 @@
 
 class QString;
 
-/// Application bundles and the desktop's database of them. Any thread; both take the bundle's path.
+/// Application bundles and the desktop's launch database. Any thread; both functions take the
+/// bundle's path.
 namespace platform {
 
-/// Takes the bundle out of the launch database and waits for it. 0 when it is out or when the
-/// system has no such database, anything else when the registration tool failed, crashed or could
-/// not be started.
+/// Unregisters the bundle from the launch database and waits until that is done. Returns 0 on
+/// success or if the system has no such database, anything else if the registration tool failed,
+/// crashed or couldn't be started.
 int ForgetBundle(QString const& bundle);
 
-/// Starts the bundle's program as a process of its own, which gets no argument and no open
-/// descriptor of ours and goes on when we end. True when the start could be requested; what becomes
-/// of the program is not followed.
+/// Spawns the bundle's program as an independent process without arguments, which inherits no
+/// descriptor and outlives us. Returns whether the start could be requested; what becomes of the
+/// program isn't tracked.
 bool OpenBundle(QString const& bundle);
 
 }  // namespace platform

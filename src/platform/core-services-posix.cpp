@@ -26,14 +26,14 @@ OSStatus StatusOfErrno() {
   }
 }
 
-/// Whether a component is one that a resolved path doesn't hold.
+/// Whether a component can't be part of a resolved path.
 bool IsDotsOrNothing(char const* name, std::size_t length) {
   return length == 0 || (length == 1 && name[0] == '.') ||
          (length == 2 && name[0] == '.' && name[1] == '.');
 }
 
-/// Whether the text alone, links aside, could be a resolved path: absolute, and every component
-/// between two slashes, or behind the last one, is a name.
+/// Whether the string, symlinks aside, could be a resolved path: absolute, with a name between any
+/// two slashes and after the last one.
 bool IsPlainAbsolute(char const* path) {
   if (path[0] != '/') return false;
   for (char const* slash = path; *slash != '\0';) {
@@ -45,9 +45,9 @@ bool IsPlainAbsolute(char const* path) {
   return true;
 }
 
-/// Whether an object stands at the path and no symbolic link is on the way to it. One walk of the
-/// kernel answers this, where resolving looks at each directory above: the difference is most of
-/// the time that a removal takes. False also where the system call is missing or refused.
+/// Whether a file exists at the path and no symlink is on the way. This takes the kernel one path
+/// lookup, while realpath stats every folder above: the difference is most of the time of a
+/// removal. False also if the system call is missing or denied.
 bool LeadsThroughNoLink(char const* path, bool follow_leaf) {
   open_how how = {};
   how.flags = static_cast<decltype(how.flags)>(O_PATH | O_CLOEXEC | (follow_leaf ? 0 : O_NOFOLLOW));
@@ -58,12 +58,12 @@ bool LeadsThroughNoLink(char const* path, bool follow_leaf) {
   return true;
 }
 
-/// Resolves the directories above the last component and appends that as it is.
+/// Resolves the folders above the last component and appends that unchanged.
 OSStatus ResolveParent(char const* path, char const* name, char (&resolved)[PATH_MAX]) {
   struct stat info;
   if (lstat(path, &info) != 0) return StatusOfErrno();
 
-  // The slash stays in, so that the parent of "/name" is the root.
+  // Keeps the slash, so that the parent of "/name" is the root.
   std::string const parent = name == path ? "." : std::string(path, name);
   if (realpath(parent.c_str(), resolved) == nullptr) return StatusOfErrno();
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// The absolute path of an object as its volume spells it. macOS has calls for that; elsewhere this
-// header declares the same ones, so that the callers needn't know where they run.
+// The absolute path of a file as its volume spells it. macOS has calls for this; elsewhere, this
+// header declares the same ones, so callers are the same everywhere.
 
 #ifdef __APPLE__
 
@@ -20,36 +20,34 @@ using OSStatus = std::int32_t;
 
 enum : OSStatus {
   noErr = 0,
-  ioErr = -36,            ///< any failure that isn't named here
-  fnfErr = -43,           ///< nothing stands at the path
-  pathTooLongErr = -2110  ///< the path, as given or as it is to be returned, doesn't fit
+  ioErr = -36,            ///< any other failure
+  fnfErr = -43,           ///< nothing exists at the path
+  pathTooLongErr = -2110  ///< the path, as given or as returned, is too long
 };
 
 enum : OptionBits { kFSPathMakeRefDoNotFollowLeafSymlink = 1 };
 
-/// Stands for an existing object. Opaque: filled by FSPathMakeRef, read by FSRefMakePath. A plain
-/// value that owns nothing; unlike on macOS it doesn't follow the object when that is moved.
+/// A reference to an existing file. Opaque: FSPathMakeRef fills it, FSRefMakePath reads it. A plain
+/// value that owns nothing. Unlike on macOS, it doesn't follow a file that is moved.
 struct FSRef {
   char path[PATH_MAX];
 };
 
-// All functions return noErr, or one of the codes above; on failure `ref` and `path` hold nothing
-// of use. Any thread; no state is kept between calls.
+// All functions return noErr or one of the codes above; on failure, don't use `ref` and `path`. Any
+// thread may call them; they keep no state.
 //
-// A volume of macOS doesn't tell names apart by their normal form. So where a path leads nowhere as
-// it is given, its components are found by that, and the object's path has them as they stand.
+// macOS volumes don't distinguish names by normal form. So if nothing exists at a path as given,
+// its components are matched by normal form, and the resulting path spells them as stored.
 
-/// Finds the object at a path, the target of a link in the last component. `is_directory` may be
-/// null.
+/// Finds the file at a path, following a symlink at its end. `is_directory` may be null.
 OSStatus FSPathMakeRef(UInt8 const* path, FSRef* ref, Boolean* is_directory);
 
-/// The same; with kFSPathMakeRefDoNotFollowLeafSymlink a link in the last component is the object
-/// itself.
+/// The same; kFSPathMakeRefDoNotFollowLeafSymlink doesn't follow a symlink at the end.
 OSStatus FSPathMakeRefWithOptions(UInt8 const* path, OptionBits options, FSRef* ref,
                                   Boolean* is_directory);
 
-/// Writes the object's absolute path, without symbolic links in the directories above and in the
-/// case that the volume keeps, into a buffer of `max_path_size` bytes, the terminator included.
+/// Writes the absolute path into a buffer of `max_path_size` bytes, terminator included: without
+/// symlinks in the folders above, in the case that the volume stores.
 OSStatus FSRefMakePath(FSRef const* ref, UInt8* path, UInt32 max_path_size);
 
 #endif

@@ -7,9 +7,9 @@ namespace platform {
 
 namespace {
 
-/// No driver of the kernel speaks AFP, so "afpfs" doesn't occur here.
+/// The kernel has no AFP driver, so "afpfs" doesn't occur.
 char const* NameOfType(unsigned long type) {
-  // The type is signed where it is stored, so that magic numbers of 32 bits may come back negative.
+  // The field is signed, so 32-bit magic numbers may be negative.
   switch (type & 0xFFFFFFFFUL) {
     case NFS_SUPER_MAGIC:
       return "nfs";

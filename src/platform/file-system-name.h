@@ -4,10 +4,9 @@
 
 namespace platform {
 
-/// Tells the type of the file system that holds a path, links followed. Of the names "nfs",
-/// "smbfs", "afpfs" and "msdos" `name` gets the fitting one; other types have names of the
-/// system's own, or an empty one. Returns 0, or -1 with `errno` set and `name` untouched. Any
-/// thread.
+/// Gets the name of the file system type that holds a path, following symlinks: "nfs", "smbfs",
+/// "afpfs" or "msdos", or, for any other type, the system's own name or an empty one. Returns 0, or
+/// -1 with `errno` set and `name` unchanged. Any thread.
 int FileSystemName(char const* path, std::string& name);
 
 }  // namespace platform

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// How long a start may take, at the most, from making the lock file to locking it.
+/// The longest time a start may take from creating the lock file to locking it.
 constexpr int kUnlockedMs = 10000;
 
 bool IsPrivateFolder(QByteArray const& path) {
@@ -19,9 +19,9 @@ bool IsPrivateFolder(QByteArray const& path) {
          (info.st_mode & (S_IWGRP | S_IWOTH)) == 0;
 }
 
-/// A folder that no other user can write, or nothing. It must not depend on the environment: a
-/// start from the desktop and one from a terminal have to meet there. Memory-backed folders come
-/// first, since taking the lock flushes it to its medium.
+/// A folder that no other user can write to, or an empty string. It must not depend on the
+/// environment: starts from the desktop and from a terminal must agree. Memory-backed folders come
+/// first, because taking the lock flushes it to disk.
 QByteArray LockFolder() {
   QByteArray const uid = QByteArray::number(geteuid());
   QByteArray runtime = "/run/user/" + uid;
@@ -34,7 +34,7 @@ QByteArray LockFolder() {
   return {};
 }
 
-/// One name for one executable.
+/// The lock file's name for this executable.
 QString LockName() {
   QByteArray const path = QCoreApplication::applicationFilePath().toUtf8();
   QByteArray const id = QCryptographicHash::hash(path, QCryptographicHash::Sha1).toHex();
@@ -43,7 +43,7 @@ QString LockName() {
 
 }  // namespace
 
-// Qt 5 makes every QApplication with a GUI.
+// In Qt 5, every QApplication has a GUI.
 QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool /*GUIenabled*/)
     : QApplication(argc, argv) {}
 
@@ -54,9 +54,9 @@ bool QtSingleApplication::isRunning() {
     QByteArray const folder = LockFolder();
     if (folder.isEmpty()) return false;
     lock_ = std::make_unique<QLockFile>(QString::fromUtf8(folder) + LockName());
-    // A living holder's file is locked and stays its own, however old it gets. The age matters
-    // where the file can't tell that its holder is gone: it was killed before it had written its
-    // number, or another process has that number now.
+    // A running holder's file is locked, however old it is. The age matters only if the file can't
+    // show that its holder has ended: it was killed before writing its pid, or another process has
+    // that pid now.
     lock_->setStaleLockTime(kUnlockedMs);
   }
   return !lock_->isLocked() && !lock_->tryLock(0) && lock_->error() == QLockFile::LockFailedError;

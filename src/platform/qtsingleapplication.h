@@ -10,20 +10,19 @@
 #include <QLockFile>
 #include <memory>
 
-/// Stands in for the Qt Solutions component of this name where it isn't installed: the application
-/// object that knows whether it is the first of its executable and user. Nothing of the component's
-/// messages and window activation is here. Main thread only.
+/// A replacement for the Qt Solutions component of this name where it isn't installed: an
+/// application object that knows whether it is the first of its executable and user. It lacks the
+/// component's messages and window activation. Main thread only.
 class QtSingleApplication : public QApplication {
  public:
-  /// `argc` and `argv` must outlive the object, as QApplication wants it.
+  /// `argc` and `argv` must outlive the object, as for QApplication.
   QtSingleApplication(int& argc, char** argv, bool GUIenabled = true);
   ~QtSingleApplication() override;
 
-  /// False in the one process that holds the guard, which is the first that asked, until it ends by
-  /// whatever cause; true in all others. Doesn't wait. Where no lock can be had, for want of a
-  /// folder or of space, the answer is false: two launchers at once are less likely than a user
-  /// without any. A holder that was killed within its first moments may count as one for ten
-  /// seconds.
+  /// False in the process that holds the guard, which is the first to ask, until it ends, however
+  /// it ends; true in all others. Doesn't wait. If no lock can be made, for lack of a folder or of
+  /// space, returns false: two launchers at once are a smaller risk than no launcher at all. A
+  /// holder that is killed within its first moments may still count for ten seconds.
   bool isRunning();
 
  private:

@@ -27,7 +27,7 @@ bool IsUtf8(std::string const& text) {
   return status != U_INVALID_CHAR_FOUND;
 }
 
-/// Empty for what isn't valid UTF-8.
+/// Empty for invalid UTF-8.
 std::string Normalised(icu::Normalizer2 const* (*form)(UErrorCode&), std::string const& text) {
   std::string result;
   if (!IsUtf8(text)) return result;
@@ -43,8 +43,8 @@ std::string Composed(std::string const& text) {
   return Normalised(icu::Normalizer2::getNFCInstance, text);
 }
 
-/// Whether other names can have the normal form of this one. Three ASCII characters are the normal
-/// form of another character: of the Kelvin sign, the Greek question mark and the Greek varia.
+/// Whether other names can have this one's normal form. Three ASCII characters are the normal form
+/// of others: of the Kelvin sign, the Greek question mark and the Greek varia.
 bool HasTwins(std::string_view name) {
   return std::any_of(name.begin(), name.end(), [](char c) {
     return static_cast<unsigned char>(c) >= 128 || c == 'K' || c == ';' || c == '`';
@@ -56,7 +56,7 @@ bool Exists(std::string const& path, bool follow) {
   return (follow ? stat(path.c_str(), &info) : lstat(path.c_str(), &info)) == 0;
 }
 
-/// The names in a folder, none if it can't be listed. An empty path is the working folder.
+/// The names in a folder; none if it can't be listed. An empty path is the working folder.
 std::vector<std::string> NamesIn(std::string const& folder) {
   std::vector<std::string> names;
   std::error_code error;
@@ -68,7 +68,7 @@ std::vector<std::string> NamesIn(std::string const& folder) {
   return names;
 }
 
-/// The names in a folder that have this normal form, but for `except`.
+/// The names in a folder with this normal form, except `except`.
 std::vector<std::string> NamesOfForm(std::string const& composed, std::string const& folder,
                                      std::vector<std::string> const& except) {
   std::vector<std::string> names;
@@ -80,7 +80,7 @@ std::vector<std::string> NamesOfForm(std::string const& composed, std::string co
   return names;
 }
 
-/// Searches for `rest` below `above`, which exists, and is empty or ends in a slash.
+/// Searches for `rest` below `above`, which exists and is empty or ends in a slash.
 bool Find(std::string const& above, std::string_view rest, bool follow_leaf, std::string& found) {
   std::size_t const begin = std::min(rest.find_first_not_of('/'), rest.size());
   std::size_t const end = std::min(rest.find('/', begin), rest.size());
@@ -100,7 +100,7 @@ bool Find(std::string const& above, std::string_view rest, bool follow_leaf, std
   if (!HasTwins(name)) return false;
   std::string const composed = Composed(name);
   if (composed.empty()) return false;
-  // Nearly every name stands in one of the two forms: they are tried before the folder is listed.
+  // Nearly every name is stored in one of the two forms, so try them before listing the folder.
   std::vector<std::string> tried = {name};
   for (auto* const form : {icu::Normalizer2::getNFCInstance, icu::Normalizer2::getNFDInstance}) {
     std::string const spelling = Normalised(form, name);
@@ -112,14 +112,14 @@ bool Find(std::string const& above, std::string_view rest, bool follow_leaf, std
   return std::any_of(others.begin(), others.end(), leads_on);
 }
 
-/// Whether the volume may take names that differ in case for one. That depends on its type and, for
-/// some types, on a mount option that can't be asked for.
+/// Whether the volume may ignore case. That depends on its type and, for some types, on a mount
+/// option that can't be queried.
 bool MayBeBlindToCase(char const* path) {
   constexpr unsigned long kTypes[] = {
       MSDOS_SUPER_MAGIC,
       EXFAT_SUPER_MAGIC,
       0x5346544E,  // NTFS
-      0x7366746E,  // the same, another driver
+      0x7366746E,  // the same, by another driver
       SMB_SUPER_MAGIC,
       SMB2_SUPER_MAGIC,
       CIFS_SUPER_MAGIC,
@@ -129,7 +129,7 @@ bool MayBeBlindToCase(char const* path) {
   };
   struct statfs info;
   if (statfs(path, &info) != 0) return false;
-  // Signed in some libraries, and sign-extended then.
+  // Signed in some C libraries, and then sign-extended.
   auto const type = static_cast<std::uint32_t>(info.f_type);
   return std::find(std::begin(kTypes), std::end(kTypes), type) != std::end(kTypes);
 }
@@ -138,7 +138,7 @@ icu::UnicodeString Folded(std::string const& name) {
   return icu::UnicodeString::fromUTF8(Composed(name)).foldCase();
 }
 
-/// The name in the other case, or the name itself if it has none.
+/// The name in the opposite case, or unchanged if it has no case.
 std::string InOtherCase(std::string const& name) {
   icu::UnicodeString const text = icu::UnicodeString::fromUTF8(name);
   icu::UnicodeString other = icu::UnicodeString(text).toUpper(icu::Locale::getRoot());
@@ -154,7 +154,7 @@ bool IsSameObject(std::string const& a, std::string const& b) {
          first.st_ino == second.st_ino && first.st_dev == second.st_dev;
 }
 
-/// How a folder, whose path ends in a slash, stores the name of an object in it.
+/// How a folder stores a name; its path ends in a slash.
 std::string StoredName(std::string const& folder, std::string const& name) {
   std::string const other = IsUtf8(name) ? InOtherCase(name) : name;
   if (other == name || !IsSameObject(folder + name, folder + other)) return name;

@@ -4,18 +4,18 @@
 
 namespace platform {
 
-/// Finds an object whose path is spelled otherwise than `path`, but has the same normal form. A
-/// name that stands as it is given is preferred; a folder that doesn't lead on is left for its
-/// twin, since both forms may stand side by side. Names that aren't valid UTF-8 have no normal form
-/// and no twin. With `follow_leaf` a link in the last component has to lead somewhere. `found` is
-/// set on success alone. Changes `errno`. Any thread.
+/// Finds a file whose path differs from `path` but has the same normal form. Names that exist as
+/// given are preferred; a folder that leads nowhere is left for its twin, since both forms may
+/// exist side by side. Names in invalid UTF-8 have no normal form and no twin. With `follow_leaf`,
+/// a symlink at the end must lead to a file. Sets `found` only on success. Changes `errno`. Any
+/// thread.
 ///
-/// Meant for paths that lead nowhere as they are: lists folders.
+/// For paths at which nothing exists as given: lists folders.
 bool FindByNormalForm(char const* path, bool follow_leaf, std::string& found);
 
-/// How the volume stores an absolute path that leads through no link. Where the volume may be blind
-/// to case (FAT, NTFS, SMB, FUSE and their like) the folders are listed for it; all others have the
-/// path as it is. Changes `errno`. Any thread.
+/// Gets an absolute path without symlinks as the volume stores it. If the volume may ignore case
+/// (FAT, NTFS, SMB, FUSE and the like), lists the folders to find out; otherwise returns the path
+/// unchanged. Changes `errno`. Any thread.
 std::string AsStored(char const* path);
 
 }  // namespace platform

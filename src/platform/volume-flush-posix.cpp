@@ -11,8 +11,8 @@ int FlushVolume(char const* path) {
   int const file = open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
   if (file < 0) return -1;
   int result = syncfs(file);
-  // File systems without a journal (ext2, FAT) write their metadata behind the disk's flush, which
-  // leaves them in its cache. fsync ends with another one.
+  // File systems without a journal (ext2, FAT) write their metadata after syncfs has flushed the
+  // disk, which leaves it in the disk's cache. fsync flushes again.
   if (result == 0) result = fsync(file);
   int const error = errno;
   close(file);

@@ -2,13 +2,11 @@
 
 namespace platform {
 
-/// Makes all that was written so far to the volume of a path durable, links followed: what comes
-/// before the call is on the disk before anything that comes behind it. The path has to exist and
-/// to be readable.
+/// Flushes the volume of a path, following symlinks: all writes before the call are on the disk
+/// before any write after it. The path must exist and be readable.
 ///
-/// Returns 0, or -1 with `errno` set, after which nothing is promised; what was written is there
-/// all the same. Blocks until the disk is done, other programs' writes to that volume included. Any
-/// thread.
+/// Returns 0, or -1 with `errno` set and no guarantee. Blocks until the disk is done, with other
+/// programs' writes to the volume too. Any thread.
 int FlushVolume(char const* path);
 
 }  // namespace platform

@@ -2,6 +2,6 @@
 
 namespace platform {
 
-int LookAt(char const* path, struct stat& info) { return lstat(path, &info); }
+int Lstat(char const* path, struct stat& info) { return lstat(path, &info); }
 
 }  // namespace platform

@@ -8,14 +8,14 @@
 namespace platform {
 namespace {
 
-/// Whether another spelling of the path may lead on: the names are to blame, and no disk.
+/// Whether another spelling may exist: the name is the problem, not the disk.
 bool LeadsNowhere(int error) {
   return error == ENOENT || error == ENOTDIR || error == EACCES || error == ENAMETOOLONG;
 }
 
 }  // namespace
 
-int LookAt(char const* path, struct stat& info) {
+int Lstat(char const* path, struct stat& info) {
   if (lstat(path, &info) == 0) return 0;
   int const error = errno;
   if (!LeadsNowhere(error)) return -1;

@@ -8,7 +8,7 @@ namespace {
 
 enum class Line { kIgnored, kPair, kSyntaxError };
 
-// The characters are told apart here and not by <cctype>, whose answers follow the locale.
+// Not <cctype>, which depends on the locale.
 
 bool IsBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
@@ -24,14 +24,14 @@ char* SkipBlanks(char* c) {
   return c;
 }
 
-/// Behind a value only a comment may follow.
+/// Only a comment may follow a value.
 bool IsTail(char* c) {
   c = SkipBlanks(c);
   return *c == '\0' || *c == '#';
 }
 
-/// Ends the value that begins at `value`, which moves behind its quote if it has one. False when
-/// the line goes on with something that can't follow.
+/// Terminates the value that begins at `value`, and moves `value` past an opening quote. Returns
+/// false if something invalid follows.
 bool CutValue(char*& value) {
   char const quote = *value == '"' || *value == '\'' ? *value : '\0';
   if (quote != '\0') ++value;

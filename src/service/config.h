@@ -4,24 +4,24 @@
 
 #include "foundation/ustring.h"
 
-/// The pairs of a small text file, in the order of their keys.
+/// The key-value pairs of a small text file, sorted by key.
 ///
 ///     # comment
 ///     key = value            # comment
 ///     key = "two words"      or in ' '; there is no escape character
 ///
-/// Keys are made of letters, digits, `_`, `-` and `.` and are case-sensitive; the last of several
-/// equal ones counts. There are no sections.
+/// Keys consist of letters, digits, `_`, `-` and `.` and are case-sensitive. The last of several
+/// equal keys counts. There are no sections.
 class Config : public std::map<ustring, ustring> {
  public:
-  /// Adds the pairs of a file to those already here. Returns 0, or -1 when
-  ///  - the path is empty or the file can't be opened: nothing is changed;
-  ///  - a line isn't understood: all pairs are gone, those of earlier calls too, since a half-read
+  /// Adds the pairs of a file. Returns 0, or -1
+  ///  - with nothing changed, if the path is empty or the file can't be opened;
+  ///  - with all pairs gone, those of earlier calls too, if a line is malformed, since a half-read
   ///    file is worse than none.
   /// Logs nothing.
   int read(ustring const& path);
 
-  /// The number that the value begins with, 0 if it begins with none. Enters an absent key with an
-  /// empty value, as operator[] does.
+  /// The number at the beginning of the value, or 0. Adds an absent key with an empty value, as
+  /// operator[] does.
   int get_int(ustring const& key);
 };

@@ -15,8 +15,8 @@ namespace {
 
 constexpr size_t kBlockSize = 10240;
 
-/// Replace what stands in the way, refuse "..", restore the Mac metadata that an archive carries.
-/// Times, owners and exact modes are left to the system: the tree is the user's own.
+/// Replace what is in the way, reject "..", restore the Mac metadata of the archive. Times, owners
+/// and exact modes are left to the system: the tree is the user's own.
 constexpr int kWriteOptions =
     ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
 static_assert(kWriteOptions == 8720);
@@ -32,13 +32,13 @@ struct WriterDeleter {
 using Reader = std::unique_ptr<archive, ReaderDeleter>;
 using Writer = std::unique_ptr<archive, WriterDeleter>;
 
-/// The reason of the last failure; libarchive has none where it was not the archive's own.
+/// The text of the last error; libarchive has none if the failure wasn't in the archive.
 char const* ErrorOf(archive* a) {
   char const* text = archive_error_string(a);
   return text != nullptr ? text : "(null)";
 }
 
-/// libarchive has renamed "compression" to "filter" and kept the old name; it does the same.
+/// libarchive has renamed "compression" to "filter" and keeps the old name as an alias.
 void SupportAllCompressions(archive* reader) {
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
@@ -46,7 +46,7 @@ void SupportAllCompressions(archive* reader) {
 #pragma GCC diagnostic pop
 }
 
-/// A reader that stands before the first entry, or null after logging why there is none.
+/// A reader positioned before the first entry, or null after logging the reason.
 Reader OpenForListing(ustring const& package_path) {
   Reader reader(archive_read_new());
   if (!reader) {
@@ -83,7 +83,7 @@ int Extractor::Extract() {
             "[ERROR] extractor(%d): Failed to calculate total file numbers, ret: %d\n", total);
     return -1;
   }
-  Writer writer;  // freed after the reader
+  Writer writer;  // must be freed after the reader
   Reader reader(archive_read_new());
   if (!reader) {
     LOG_MSG(LEVEL_ERROR, log_component::extractor(),
@@ -109,8 +109,8 @@ int Extractor::Extract() {
 }
 
 int Extractor::ExtractEntries(archive* reader, archive* writer, int total) {
-  // A result other than ARCHIVE_OK is a failure throughout, warnings included: that is how
-  // libarchive reports a full disk.
+  // Any result but ARCHIVE_OK is a failure, warnings included: libarchive reports a full disk as a
+  // warning.
   for (int count = 1;; ++count) {
     archive_entry* entry = nullptr;
     int const header = archive_read_next_header(reader, &entry);
@@ -126,11 +126,11 @@ int Extractor::ExtractEntries(archive* reader, archive* writer, int total) {
               "[ERROR] extractor(%d): archive_entry_pathname failed");
       return -1;
     }
-    // A hard link's target keeps the archive's own path.
+    // The target of a hard link keeps the path it has in the archive.
     archive_entry_set_pathname(entry, (dest_path + "/" + path).c_str_utf8());
-    // Write-back keeps no order. What the last entry vouches for has to be on the disk before it: a
-    // power cut then leaves a tree without that entry, or a whole one. A failure only means that
-    // there is no such promise.
+    // Write-back reorders writes, so flush everything the last entry vouches for before writing it:
+    // a power loss then leaves a tree without that entry, or a complete one. If the flush fails,
+    // there is just no such guarantee.
     if (count == total) platform::FlushVolume(dest_path.c_str_utf8());
     if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
       LOG_MSG(LEVEL_ERROR, log_component::extractor(),
@@ -164,7 +164,7 @@ int Extractor::Count() {
 
 int Extractor::List() {
   if (dest_path.empty() || package_path.empty()) {
-    // Only told: whether there is something to list is for the opening to find out.
+    // Only logged: opening the archive shows whether there is anything to list.
     LOG_MSG(LEVEL_ERROR, log_component::extractor(), "[ERROR] extractor(%d): Invalid argument\n");
   }
   Reader const reader = OpenForListing(package_path);

@@ -4,30 +4,29 @@
 
 struct archive;
 
-/// Unpacks one archive file into one folder and reports each entry to the Notify_Adapter.
+/// Unpacks an archive into a folder and reports each entry to Notify_Adapter.
 ///
-/// Set both paths, then call. Every call opens and frees archive objects of its own, so nothing is
-/// held in between. One thread at a time; blocks on disk; can't be cancelled. Memory does not grow
+/// Set both paths, then call a function. Each call opens and closes its own archive objects. One
+/// thread at a time may use it. It blocks on disk and can't be cancelled. Memory use doesn't grow
 /// with the size of the archive.
 class Extractor {
  public:
-  /// Folder under which entries are written; it must exist or be creatable.
+  /// The folder that entries are written to. It must exist or be creatable.
   ustring dest_path;
-  /// The archive file, in any format and behind any filter that libarchive detects.
+  /// The archive, in any format and with any compression that libarchive detects.
   ustring package_path;
 
-  /// 0 when all entries were written, else -1. The first failure ends it: what was written until
-  /// then stays, and entries that stood in the way are gone. Reads the archive twice: once to
-  /// count, so that the progress has an end to move towards. Before it writes the last entry, it
-  /// waits until all others are on the disk.
+  /// Returns 0 if all entries were written, else -1. The first failure ends it: what was written
+  /// stays, and what was in an entry's way is gone. Reads the archive twice, first to count the
+  /// entries for the progress. Flushes all other entries to disk before it writes the last one.
   int Extract();
-  /// The number of entries up to the archive's end, or up to where it is damaged. -1 when a path is
-  /// empty or the archive can't be opened.
+  /// The number of entries up to the end of the archive or to where it is damaged. Returns -1 if a
+  /// path is empty or the archive can't be opened.
   int Count();
-  /// Prints the entries' paths to standard output, a line each. 0, or -1 when the archive can't be
-  /// opened. For diagnosis.
+  /// Prints the paths of the entries to standard output, one per line. Returns 0, or -1 if the
+  /// archive can't be opened. For diagnosis.
   int List();
-  /// Copies the data of the reader's current entry to the writer's. 0 or -1.
+  /// Copies the data of the reader's current entry to the writer. Returns 0 or -1.
   int copy_data(archive* reader, archive* writer);
 
  private:

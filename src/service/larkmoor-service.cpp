@@ -14,17 +14,17 @@
 
 namespace {
 
-/// How many backup names are tried before an upgrade gives up.
+/// How many backup names an upgrade tries before it gives up.
 constexpr int kBackupNames = 10;
 
-/// One key of the version file and the field that takes its value.
+/// A key of the INFO file and the field for its value.
 struct VersionField {
   char const* key;
   ustring* field;
 };
 
-/// Copies the values of the group "Version" into the fields; an absent key leaves its field alone.
-/// The file is only read: QSettings never writes what was not set.
+/// Copies the values of the group "Version" into the fields. The field of an absent key stays
+/// unchanged. Nothing is set, so QSettings doesn't write the file.
 template <size_t N>
 void ReadVersions(ustring const& path, VersionField const (&fields)[N]) {
   QSettings settings(QString::fromUtf8(path.c_str_utf8()), QSettings::IniFormat, nullptr);
@@ -37,7 +37,7 @@ void ReadVersions(ustring const& path, VersionField const (&fields)[N]) {
   }
 }
 
-/// The name under which the installed tree waits while a new one is unpacked.
+/// The path of a backup.
 ustring GetAppBackupDir(ustring const& path, int index) {
   ustring first = path + "_tmp";
   if (index == 0) return first;
@@ -88,7 +88,7 @@ int CopyFolder(Service& service, ustring const& source, ustring const& destinati
 
 }  // namespace
 
-// timeout stays unset: only a platform's service knows a value for it.
+// timeout stays uninitialised: only a platform's service knows its value.
 // cppcheck-suppress uninitMemberVar
 Service::Service() {}  // NOLINT(cppcoreguidelines-pro-type-member-init)
 
@@ -109,7 +109,7 @@ ustring Service::GetUserLarkmoorDataInstallPath() {
 }
 
 ustring Service::GetRootLarkmoorInstallPath() {
-  // The executable lies two levels below the bundle root, whatever the bundle is called.
+  // The executable is two levels below the bundle root, whatever the bundle's name.
   QString const root = QDir::cleanPath(QCoreApplication::applicationDirPath() + "/" + "../..");
   return root.toUtf8().constData();
 }
@@ -135,8 +135,8 @@ void Service::LoadSourceVersion() {
           source_icon_overlay_version.c_str());
 }
 
-// Unlike the user's file the bundle's own is not looked for first: a bundle without one is broken,
-// and its four empty values belong in the log.
+// Unlike the user's file, the bundle's own isn't checked for existence: a bundle without it is
+// broken, and its four empty values belong in the log.
 void Service::LoadTargetVersion() {
   ReadVersions(GetRootLarkmoorResourceInstallPath() + "/" + "INFO",
                {{"major_version", &target_major_version},
@@ -185,13 +185,13 @@ int Service::PrepareUserEnv() {
     return -1;
   }
 
-  // The removal of the old tree mustn't reach the disk before the new one has: a power cut would
-  // leave neither. This also saves a bundle that was copied to this volume just before. A failure
-  // leaves the new tree as good as it was, so the upgrade goes on.
+  // The removal of the backup must not reach the disk before the new tree does: a power loss would
+  // leave neither. The flush also covers a bundle that was just copied to this volume. If it fails,
+  // the new tree is no worse, so the upgrade goes on.
   platform::FlushVolume(GetUserLarkmoorInstallPath().c_str_utf8());
   LOG_MSG(LEVEL_INFO, log_component::service(),
           "[INFO] larkmoor-service(%d): user installation is ready, removing backup app\n");
-  // The lower names are what made the numbers climb: trees of crashed runs that nobody wants back.
+  // Lower numbers are leftovers of crashed runs, which made this one climb.
   for (int j = 0; j <= index; ++j) FSRemove(GetAppBackupDir(app, j), false);
   return 0;
 }

@@ -2,14 +2,14 @@
 
 #include "foundation/ustring.h"
 
-/// The steps of an upgrade, and where everything lives on disk.
+/// The steps of an upgrade, and all paths on disk.
 ///
-/// "Root" is the bundle that the user started; it carries the package and is only read. "User" is
-/// the per-user installation under the home directory; it is what gets upgraded and launched.
-/// "Source" is what is installed for the user now, "target" what the started bundle carries.
+/// "Root" is the bundle that the user started; it holds the package and is only read. "User" is the
+/// installation in the user's home, which is upgraded and started. "Source" is what is installed
+/// now, "target" what the started bundle carries.
 ///
-/// An object belongs to one thread at a time (the worker thread, once the run has begun) and holds
-/// no lock. The static path operations share nothing and may be called from any thread.
+/// One thread at a time may use an object (the worker thread, once it runs); there is no lock. Any
+/// thread may call the static functions.
 class Service {
  public:
   Service();
@@ -17,40 +17,40 @@ class Service {
   Service(Service const&) = delete;
   Service& operator=(Service const&) = delete;
 
-  /// Ends the running sync client, so that its files may be replaced. Blocks for up to five
-  /// seconds; reports nothing, because the upgrade goes on whatever came of it.
+  /// Ends the running client, so that its files may be replaced. Blocks for up to five seconds.
+  /// Reports nothing, because the upgrade goes on in any case.
   virtual void StopService() = 0;
-  /// Stores a time limit in milliseconds. No step has one: the value is kept, never read.
+  /// Stores a timeout in milliseconds. No step has one: the value is never read.
   virtual void SetTimeout(int value);
-  /// Stops the sync client and installs the carried package. 0 when the new tree stands, anything
-  /// else on failure; see PrepareUserEnv for what is left behind.
+  /// Stops the client and installs the package. Returns 0 if the new tree is in place, anything
+  /// else on failure; PrepareUserEnv says what is then left behind.
   virtual int HandlePackageUpgrade() = 0;
-  /// Starts the per-user installation, whatever tree stands there.
+  /// Starts the user's installation, whatever is there.
   virtual void PostUpgrade() = 0;
   /// Reads the two versions that IsNeedUpgrade compares.
   virtual void PreUpgrade() = 0;
-  /// Whether the carried package is to be installed.
+  /// Whether the package is to be installed.
   virtual bool IsNeedUpgrade() = 0;
-  /// Unpacks the carried package into the user application folder, which is made when it is
-  /// missing. 0 or -1; after a failure, what was written so far stays.
+  /// Unpacks the package into the user's application folder, creating it if it is missing. Returns
+  /// 0 or -1; after a failure, what was written stays.
   virtual int ExtractPackage();
   /// Fills the source_ (target_) fields from the "INFO" file of the user (root) installation. A
   /// field whose key is absent, or whose file can't be read, keeps its value.
   virtual void LoadSourceVersion();
   virtual void LoadTargetVersion();
-  /// Moves the installed tree aside, unpacks the carried package in its place and puts the old tree
-  /// back if that fails. Returns 0 when the new tree stands, -1 otherwise. Blocks on disk. Not
-  /// atomic: a crash leaves one of the states listed in docs/upgrade-transaction.md.
+  /// Renames the installed tree aside, unpacks the package in its place and rolls back if that
+  /// fails. Returns 0 if the new tree is in place, else -1. Blocks on disk. Not atomic: a crash
+  /// leaves one of the states listed in docs/upgrade-transaction.md.
   virtual int PrepareUserEnv();
 
-  /// Removes the folder "app" of old installations, if there is one. Never fails visibly.
+  /// Removes the folder "app" that old versions left, if it exists. Reports no failure.
   void RemoveAgedFolders();
-  /// Copies a file, or a folder with everything in it, without times, modes or owners. 0, or -1
-  /// with what was copied so far left behind. A single file that can't be copied counts as copied.
+  /// Copies a file, or a folder with everything in it, without times, modes or owners. Returns 0,
+  /// or -1 with what was copied so far left behind. A single file that can't be copied counts as
+  /// copied.
   int FSCopyPath(ustring const& source, ustring const& destination);
 
-  /// All paths are plain text: nothing says that something exists there. The root family needs the
-  /// application object.
+  /// Paths, whether or not anything exists there. The root paths need the application object.
   static ustring GetUserInstallPath();
   static ustring GetUserLarkmoorInstallPath();
   static ustring GetUserLarkmoorAppInstallPath();

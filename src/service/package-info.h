@@ -2,11 +2,11 @@
 
 #include "foundation/ustring.h"
 
-/// The five places of an installation as seen from the running executable, written down as a plain
-/// record. Nothing in the launcher reads it, and its bases differ from those of the path operations
-/// of Service on purpose: use those to find a place.
+/// Five paths of an installation, relative to the running executable. Nothing in the launcher reads
+/// them, and their bases deliberately differ from those of Service's paths: use those to find a
+/// file.
 ///
-/// Making one touches no file and can't fail; the application object must exist.
+/// The constructor accesses no file and can't fail; the application object must exist.
 class PackageInfo {
  public:
   PackageInfo();
