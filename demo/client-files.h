@@ -1,30 +1,29 @@
-// The files that the sample client reads and writes: its version inside its bundle, and its pid
-// file under the user's home.
+// The files of the sample client: the version in its bundle and the pid file in the user's home.
 #pragma once
 
 #include <QString>
 
-/// The bundle that the running program is part of: two folders above the executable's.
+/// The bundle of the running program: two folders above the executable's.
 QString BundlePath();
 
-/// ".Larkmoor" in the user's home, where the launcher looks for the pid file.
+/// ".Larkmoor" in the user's home, where the launcher expects the pid file.
 QString UserRoot();
 
-/// The "build_version" of the bundle's INFO; "unknown" where there is none.
+/// The "build_version" in the bundle's INFO file; "unknown" if there is none.
 QString BuildVersion();
 
-/// Whether a file named "ignore-sigterm" in the bundle's resources or in the user's data folder
-/// asks the client to outlive SIGTERM. The launcher starts the client without arguments, so a
-/// command-line switch alone couldn't reach it.
+/// Whether a file named "ignore-sigterm" in the bundle's resources or the user's data folder tells
+/// the client to ignore SIGTERM. The launcher starts the client without arguments, so a
+/// command-line option couldn't.
 bool IsToldToIgnoreTermination();
 
-/// The pid file while the client runs. Readers see the whole file or none.
+/// The pid file, for as long as the client runs. Readers see a complete file or none.
 class PidFile {
  public:
-  /// Writes the pid of this process. A failure is told on standard error and is no reason to end.
+  /// Writes this process's pid. A failure is reported on standard error only.
   PidFile();
 
-  /// Removes the file unless another process has put its own pid there since.
+  /// Removes the file unless another process has written its own pid since.
   ~PidFile();
 
   PidFile(PidFile const&) = delete;

@@ -4,7 +4,7 @@
 
 class QLabel;
 
-/// The client's one window: its build number and what it is doing.
+/// The client's only window: its build number and what it is doing.
 class ClientWindow : public QWidget {
   Q_OBJECT
 

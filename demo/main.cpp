@@ -1,5 +1,5 @@
-// A stand-in for the sync client: it shows a window, keeps its pid file and ends on SIGTERM, which
-// is all that the launcher knows of the client.
+// A fake sync client: it shows a window, keeps its pid file and ends on SIGTERM. The launcher knows
+// no more of a client.
 #include <QApplication>
 #include <QDir>
 #include <QLockFile>
@@ -12,7 +12,7 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   bool const ignore = app.arguments().contains("--ignore-sigterm") || IsToldToIgnoreTermination();
 
-  // A bundle that is opened while its program runs gets no second program.
+  // Opening a bundle whose program already runs starts no second one.
   QDir().mkpath(UserRoot() + "/data");
   QLockFile running(UserRoot() + "/data/ui.lock");
   running.setStaleLockTime(0);

@@ -11,8 +11,8 @@ namespace {
 
 int write_end = -1;
 
-// Hardly anything may be called in a signal handler; write is one of the calls that may. When the
-// pipe is full, enough bytes are under way already.
+// write is one of the few calls that are safe in a signal handler. If the pipe is full, it holds
+// enough bytes already.
 void HandleTermination(int) {
   int const saved = errno;
   char const byte = 1;
@@ -24,7 +24,7 @@ void SetHandler(void (*handler)(int)) {
   struct sigaction action = {};
   action.sa_handler = handler;
   action.sa_flags = SA_RESTART;
-  // No "::" before it: on a Mac it is a macro.
+  // Without "::": it is a macro on macOS.
   sigemptyset(&action.sa_mask);
   ::sigaction(SIGTERM, &action, nullptr);
 }

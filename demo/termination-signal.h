@@ -2,8 +2,8 @@
 
 #include <QObject>
 
-/// Turns SIGTERM into a Qt signal on the event loop. At most one object at a time; create it on the
-/// main thread, behind the application object.
+/// Turns SIGTERM into a Qt signal on the event loop. One object at a time; create it on the main
+/// thread, after the application object.
 class TerminationSignal : public QObject {
   Q_OBJECT
 
@@ -19,5 +19,5 @@ class TerminationSignal : public QObject {
   int read_end_ = -1;
 };
 
-/// From here on SIGTERM has no effect on this process.
+/// From now on, this process ignores SIGTERM.
 void IgnoreTermination();

@@ -1,4 +1,5 @@
-// The level file against QSettings in its INI format. The argument is the number of lines.
+// Reading the level file, compared with QSettings and its INI format. The argument is the number of
+// lines.
 
 #include "service/config.h"
 
@@ -12,8 +13,8 @@
 
 namespace {
 
-/// A file of that many components, which moves to a new name before each reading: QSettings keeps
-/// what it has read of a path and would have nothing to do the second time.
+/// A level file with this many components. It is renamed before each reading, because QSettings
+/// caches what it has read from a path.
 class LevelFile {
  public:
   explicit LevelFile(long lines) : path_(Folder() + "/levels-0.ini") {

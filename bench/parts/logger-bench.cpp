@@ -1,6 +1,6 @@
-// Log records against spdlog: to a file that is rotated by size, flushed after each record. spdlog
-// is asked in two ways: through a logger that the caller holds, and by the component's name, which
-// is what a call here does.
+// Writing log records, compared with spdlog: to a file that rotates by size, with a flush after
+// each record. spdlog is used in two ways: through a logger that the caller keeps, and by the
+// component's name, as LOG_MSG does.
 
 #include "foundation/logger.h"
 
@@ -29,7 +29,7 @@ bool StartLogger() {
          0;
 }
 
-/// The logger of the component, one of five as in the launcher, all on one file.
+/// The logger of the component, one of five as in the launcher, all with the same file.
 std::shared_ptr<spdlog::logger> StartSpdlog() {
   auto const file = std::make_shared<spdlog::sinks::rotating_file_sink_mt>(
       Folder() + "/spdlog.log", kRotateAt, kGenerations - 1);
@@ -80,7 +80,7 @@ void SpdlogByName(benchmark::State& state, bool written) {
   }
 }
 
-// The argument of the series is the number of threads.
+// The argument is the number of threads.
 #define RECORD(kind, written)                               \
   BENCHMARK_CAPTURE(Ours, kind, written)                    \
       ->Name("log " #kind "/record/Logger")                 \

@@ -1,5 +1,5 @@
-// ustring against std::string, QString and icu::UnicodeString. The argument is the length of the
-// text, in characters; the texts look like paths.
+// ustring compared with std::string, QString and icu::UnicodeString. The argument is the length of
+// the string in characters; the strings look like paths.
 
 #include "foundation/ustring.h"
 
@@ -19,7 +19,7 @@ std::string Text(long length) {
   return text;
 }
 
-/// Letters with their accents apart, which composing has to join.
+/// Decomposed letters, for composing.
 std::string Decomposed(long length) {
   std::string text;
   for (long i = 0; i < length; i += 4) text += "abe\xCC\x81";
@@ -76,7 +76,7 @@ void Copy(benchmark::State& state) {
   }
 }
 
-/// A path grows by its components.
+/// A path grows by one component after another.
 template <class String>
 void Append(benchmark::State& state) {
   String const piece = Make<String>("/lib.so.");
@@ -94,7 +94,7 @@ void FindAtEnd(benchmark::State& state) {
   for (auto _ : state) benchmark::DoNotOptimize(Find(text, pattern));
 }
 
-/// Two texts that differ in nothing.
+/// Two equal strings.
 template <class String>
 void Compare(benchmark::State& state) {
   String const a = Make<String>(Text(state.range(0)));

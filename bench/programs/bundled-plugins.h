@@ -5,8 +5,8 @@
 #include <QString>
 #include <QStringList>
 
-/// The peers stand beside the launcher in a bundle and look for plug-ins where it does, so that
-/// what is compared is the work and not the folders.
+/// The peers are in a bundle next to the launcher and load plug-ins from the same folder, so that
+/// the comparison measures the work and not the folders.
 inline void UseBundledPlugins(char const* executable) {
   QString const beside = QString::fromLocal8Bit(executable) + "/../../Frameworks/plugins";
   QCoreApplication::setLibraryPaths(QStringList{QDir::cleanPath(beside)});

@@ -1,4 +1,4 @@
-// The calls of a copy and nothing else: pieces of 32 MiB, read and written, then a sync.
+// Only the system calls of a copy: read and write blocks of 32 MiB, then flush.
 //
 // usage: copy-floor SOURCE DESTINATION
 

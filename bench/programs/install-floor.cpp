@@ -1,5 +1,5 @@
-// The calls of an installation and nothing else: one pass that counts the entries, one that writes
-// them, with the launcher's options. No window, no notification, no log.
+// Only the libarchive calls of an installation: one pass counts the entries, another writes them,
+// with the launcher's options. No window, no notifications, no log.
 //
 // usage: install-floor PACKAGE FOLDER
 
@@ -56,7 +56,7 @@ int Write(char const* package, std::string const& folder) {
 
 int main(int argc, char** argv) {
   if (argc != 3) return 2;
-  setlocale(LC_ALL, "");  // libarchive converts names
+  setlocale(LC_ALL, "");  // for libarchive, which converts names
   int const total = Count(argv[1]);
   return total > 0 && Write(argv[1], argv[2]) == total ? 0 : 1;
 }

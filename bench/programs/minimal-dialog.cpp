@@ -1,5 +1,5 @@
-// What the launcher can't do without, and nothing else: an application object, a progress dialog
-// that is never shown, a thread started and joined, one catalogue.
+// The minimum that the launcher needs: an application object, a progress dialog that is never
+// shown, a thread that is started and joined, one catalogue.
 
 #include <QApplication>
 #include <QProgressDialog>

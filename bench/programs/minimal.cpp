@@ -1,5 +1,5 @@
-// The least that a program with Qt's widgets does: an application object that enters its loop and
-// leaves it.
+// The minimum of a Qt Widgets program: an application object that enters its event loop and leaves
+// it.
 
 #include <QApplication>
 #include <QTimer>

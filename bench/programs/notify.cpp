@@ -1,5 +1,5 @@
-// Sends progress notifications from a second thread to the launcher's own window, which keeps pace:
-// a new batch starts when the window has handled the last one.
+// Sends progress notifications from a second thread to the launcher's own window, at the window's
+// pace: the next batch starts once the window has handled the last.
 //
 // usage: notify COUNT
 
@@ -25,7 +25,7 @@ void SendAll(int count, Launcher* window) {
     for (int const end = std::min(count, sent + kBatch); sent < end;) {
       Notify_Adapter::GetInstance()->UpdateProgress(count, ++sent);
     }
-    // Queued behind the batch.
+    // Queued after the batch.
     QMetaObject::invokeMethod(
         window, [&handled] { handled.release(); }, Qt::QueuedConnection);
     handled.acquire();

@@ -1,4 +1,4 @@
-// The calls of a removal that looks at each object before it removes it, by full path.
+// Only the system calls of a removal that stats each file, by its full path, before unlinking it.
 //
 // usage: remove-floor PATH
 

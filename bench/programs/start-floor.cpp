@@ -1,6 +1,6 @@
-// What a plain start can't do without, and nothing else: the minimal program with the dialog as the
-// launcher's user sees it, a lock, a log file, both versions read, and the client started by the
-// thread. No check, no log record, no signal between the threads but the last one.
+// The minimum of a plain start: the minimal program with the dialog as the user sees it, a lock, a
+// log file, both versions read and the client started by the thread. No checks, no log records, and
+// no signal between the threads except the last.
 
 #include <fcntl.h>
 

@@ -1,10 +1,10 @@
-// Runs a command with its standard output thrown away and prints what it took, children included:
+// Runs a command with its standard output discarded and prints what it used, children included:
 // wall time, user time and system time in microseconds, peak memory in KiB.
 //
 // usage: timed-run COMMAND ARGUMENT...
 //
-// A program of its own, because a child's peak memory starts with that of the process that forked
-// it, and this one is smaller than anything worth measuring.
+// A separate program, because a child's peak memory starts at that of the process that forked it,
+// and this one is smaller than anything worth measuring.
 
 #include <fcntl.h>
 #include <sys/resource.h>

@@ -1,6 +1,6 @@
-// Takes memory, touches it and gives it back, so that the program that runs next finds pages that
-// the machine holds. A virtual machine may have given its free memory to the host, and then whoever
-// takes a page first waits for it: up to three times the time of a copy into memory.
+// Allocates memory, touches it and frees it, so that the next program gets pages that the machine
+// already has. A virtual machine may have returned free memory to the host; touching it first then
+// takes up to three times as long as copying into it.
 //
 // usage: warm-memory BYTES
 
