@@ -1,4 +1,4 @@
-// A window that gets far more notifications than it can paint.
+// A window that receives far more notifications than it can paint.
 #include <gmock/gmock.h>
 
 #include "support/sandbox.h"
@@ -13,10 +13,10 @@
 namespace {
 
 constexpr int kFlood = 100000;
-/// What one queued call with its two numbers takes in Qt's queue, generously.
+/// A generous bound for one queued call with two numbers.
 constexpr long kQueuedCallBytes = 400;
 
-/// An installation of so many entries, on a stack that would not hold a nesting per notification.
+/// Installs this many entries on a stack too small for one nested call per notification.
 test::Outcome Install(int files, std::map<std::string, std::string> const& environment) {
   test::PreferMemory();
   test::Sandbox box;

@@ -1,4 +1,4 @@
-// What a run leaves on disk, and what it starts, with sound input and with bad.
+// What a run leaves on disk and what it starts, with valid and with bad input.
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <gmock/gmock.h>
@@ -26,14 +26,14 @@ using testing::Not;
 
 constexpr char kFailed[] = "[ERROR] launcher(0): Failed to upgrade package";
 
-/// What a package of this build unpacks to.
+/// The tree that a package of this build unpacks to.
 test::Tree ClientTree(int build) {
   Sandbox box;
   box.Install(build);
   return ReadTree(box.App());
 }
 
-/// What stands in a folder; nothing where there is none.
+/// The names in a folder; none if it doesn't exist.
 std::vector<std::string> Names(std::string const& folder) {
   std::vector<std::string> names;
   if (!fs::exists(folder)) return names;
@@ -96,7 +96,7 @@ TEST_F(Install, NeverDowngrades) {
   EXPECT_THAT(box.AwaitStarts(1), ElementsAre("100"));
 }
 
-TEST_F(Install, ReplacesAnOlderTreeWithoutARest) {
+TEST_F(Install, ReplacesAnOlderTreeCompletely) {
   box.Carry(200);
   box.Install(100);
   test::WriteFile(box.App() + "/Contents/gone", "with the old tree");
@@ -153,7 +153,7 @@ TEST_F(Install, RunsInEnglishWhenTheCataloguesAreMissing) {
   EXPECT_EQ(ReadTree(without.App()), ClientTree(100));
 }
 
-TEST_F(Install, TakesThePluginPathFromABareName) {
+TEST_F(Install, DerivesThePluginPathFromABareName) {
   box.Carry(100);
   test::Process::Options start = box.Start();
   start.program = start.arguments[0];
@@ -172,12 +172,12 @@ TEST_F(Install, WritesNothingOutsideTheUsersRoot) {
   EXPECT_THAT(Names(box.Home()),
               testing::UnorderedElementsAre(".Larkmoor", "starts", "client-descriptors",
                                             "client-session", "client-folder", "client-arguments"));
-  // The window's fonts are fontconfig's business; nothing else is to be cached.
+  // fontconfig may cache the window's fonts; nothing else is cached.
   EXPECT_THAT(Names(box.Caches()), testing::AnyOf(IsEmpty(), ElementsAre("fontconfig")));
   EXPECT_THAT(Names(box.Runtime()), IsEmpty());
 }
 
-TEST_F(Install, StartsTheClientFreeOfTheLauncher) {
+TEST_F(Install, StartsTheClientIndependentOfTheLauncher) {
   box.Carry(100);
   box.Launch();
   std::string const descriptors = test::ReadFile(box.Home() + "/client-descriptors");
@@ -185,13 +185,13 @@ TEST_F(Install, StartsTheClientFreeOfTheLauncher) {
   EXPECT_THAT(descriptors, Not(HasSubstr("launcher.log")));
   EXPECT_THAT(descriptors, Not(HasSubstr("socket:")));
   EXPECT_EQ(test::ReadFile(box.Home() + "/client-arguments"), "0\n");
-  // Group and session are its own, so they are the same number.
+  // It leads its own group and session, so both have the same number.
   std::string const session = test::ReadFile(box.Home() + "/client-session");
   EXPECT_EQ(session.substr(0, session.find(' ')),
             session.substr(session.find(' ') + 1, session.size() - session.find(' ') - 2));
 }
 
-TEST_F(Install, InstallsNamesOutsideAsciiInTheCLocale) {
+TEST_F(Install, InstallsNonAsciiNamesInTheCLocale) {
   std::vector<Entry> entries = Sandbox::Client(100);
   std::string const name = "Contents/Resources/\xE6\x97\xA5\xE6\x9C\xAC e\xCC\x81";
   entries.insert(entries.begin(), Entry::File(name, "1"));
@@ -203,7 +203,7 @@ TEST_F(Install, InstallsNamesOutsideAsciiInTheCLocale) {
   EXPECT_EQ(test::ReadFile(box.App() + "/" + name), "1");
 }
 
-TEST_F(Install, LandsAnAbsoluteNameInsideTheAppFolder) {
+TEST_F(Install, UnpacksAnAbsolutePathInsideTheAppFolder) {
   std::vector<Entry> entries = Sandbox::Client(100);
   entries.insert(entries.begin(), Entry::File(box.folder() / "absolute", "1"));
   box.CarryVersion(100);
@@ -213,7 +213,7 @@ TEST_F(Install, LandsAnAbsoluteNameInsideTheAppFolder) {
   EXPECT_EQ(test::ReadFile(box.App() + (box.folder() / "absolute")), "1");
 }
 
-/// A package that can't be installed, and what the log says of it.
+/// A package that can't be installed, and part of the log line about it.
 struct BadPackage {
   char const* name;
   std::function<void(Sandbox&)> carry;
@@ -296,7 +296,7 @@ INSTANTIATE_TEST_SUITE_P(Install, BadPackages, testing::ValuesIn(kBadPackages),
 
 using BadInput = Install;
 
-TEST_F(BadInput, CountsABundleWithoutVersionFileAsBuildZero) {
+TEST_F(BadInput, TreatsABundleWithoutVersionFileAsBuildZero) {
   box.CarryPackage(SoundPackage());
   box.Install(100);
   EXPECT_EQ(box.Launch().status, 0);
@@ -304,7 +304,7 @@ TEST_F(BadInput, CountsABundleWithoutVersionFileAsBuildZero) {
   EXPECT_THAT(box.Log(), Contains("[INFO] larkmoor-service(0): target_version = (, , , )"));
 }
 
-TEST_F(BadInput, CountsAnInstallationWithoutVersionFileAsBuildZero) {
+TEST_F(BadInput, TreatsAnInstallationWithoutVersionFileAsBuildZero) {
   box.Carry(1);
   box.Install(100);
   fs::remove(box.App() + "/Contents/Resources/INFO");
@@ -312,7 +312,7 @@ TEST_F(BadInput, CountsAnInstallationWithoutVersionFileAsBuildZero) {
   EXPECT_THAT(box.AwaitStarts(1), ElementsAre("1"));
 }
 
-TEST_F(BadInput, CountsAMalformedOrTextualBuildAsItsLeadingNumber) {
+TEST_F(BadInput, UsesTheLeadingNumberOfAMalformedBuild) {
   box.Carry(200);
   box.Install(100);
   for (char const* info : {"\x01\x02[[[\n=", "build_version=300\n",
@@ -328,7 +328,7 @@ TEST_F(BadInput, InstallsOverAnUnreadableVersionFileOfTheUsers) {
   box.Install(100);
   std::string const info = box.App() + "/Contents/Resources/INFO";
   fs::remove(info);
-  fs::create_directory(info);  // even root can't read it as a file
+  fs::create_directory(info);  // not even root can read it as a file
   EXPECT_EQ(box.Launch().status, 0);
   EXPECT_THAT(box.AwaitStarts(1), ElementsAre("200"));
 }
@@ -342,14 +342,14 @@ TEST_F(BadInput, KeepsItsThresholdsWhenTheLevelFileIsMalformed) {
   EXPECT_THAT(box.AwaitStarts(1), ElementsAre("200"));
 }
 
-TEST_F(BadInput, GoesOnWithAHomeThatCannotBeWritten) {
+TEST_F(BadInput, ContinuesWithAReadOnlyHome) {
   box.Carry(100);
   test::WriteFile(box.folder() / "file", "");
   test::Process::Options start = box.Start();
   start.environment["HOME"] = box.folder() / "file/home";
   test::Outcome const run = test::Run(start);
   EXPECT_EQ(run.status, 0);
-  // The log stays on standard error, at its first thresholds.
+  // The log stays on standard error, with the default thresholds.
   EXPECT_THAT(run.err, HasSubstr("failed to create folder: '"));
   EXPECT_THAT(run.err, HasSubstr("Failed to upgrade package"));
   EXPECT_THAT(run.err, HasSubstr("Failed to launch Larkmoor UI"));
@@ -373,7 +373,7 @@ TEST_F(BadInput, InstallsWithALogFileThatCannotBeOpened) {
   EXPECT_EQ(ReadTree(box.App()), ClientTree(100));
 }
 
-/// An upgrade is due, and the dynamic linker finds another libarchive than the system's.
+/// An upgrade is due, and the dynamic linker finds another libarchive.
 class OtherLibarchive : public Install {
  protected:
   OtherLibarchive() {
@@ -381,7 +381,7 @@ class OtherLibarchive : public Install {
     box.Install(100);
     box.ForgetLog();
   }
-  /// The system's own.
+  /// The system's own libarchive.
   static std::string Path() {
     Dl_info found = {};
     if (dladdr(dlsym(RTLD_DEFAULT, "archive_read_new"), &found) == 0) {
@@ -400,107 +400,18 @@ class OtherLibarchive : public Install {
   }
 };
 
-TEST_F(OtherLibarchive, ThatCannotBeLoadedEndsTheStartWithNothingTouched) {
+TEST_F(OtherLibarchive, ThatCannotBeLoadedEndsTheStartBeforeAnyChange) {
   ExpectNothingTouched("no library", Path().substr(Path().rfind('/')));
 }
 
-TEST_F(OtherLibarchive, ThatLacksAFunctionEndsTheStartWithNothingTouched) {
-  // Called when the old tree has been moved aside already, and not by the library itself.
+TEST_F(OtherLibarchive, ThatLacksAFunctionEndsTheStartBeforeAnyChange) {
+  // Not called until the old tree has been renamed aside, and not used by libarchive itself.
   std::string const wanted = "archive_read_support_compression_all";
   std::string library = test::ReadFile(Path());
   size_t const at = library.find(wanted);
   ASSERT_NE(at, std::string::npos);
   library[at + wanted.size() - 1] = '_';
   ExpectNothingTouched(library, "undefined symbol: " + wanted);
-}
-
-/// Cases around the sync client that has to be stopped.
-class RunningClient : public Install {
- protected:
-  RunningClient() {
-    box.Carry(200);
-    box.Install(100);
-  }
-  std::string PidFile() const { return box.UserRoot() + "/ui.pid"; }
-  test::Process::Options Client(char const* manner) const {
-    return {{LARKMOOR_TEST_CLIENT, PidFile(), manner}, {}, "", "", false};
-  }
-  void AwaitPidFile() const {
-    ASSERT_TRUE(
-        test::WaitUntil([this] { return fs::exists(PidFile()) && fs::file_size(PidFile()) > 0; }));
-  }
-  void ExpectUpgraded() { EXPECT_THAT(box.AwaitStarts(1), ElementsAre("200")); }
-};
-
-TEST_F(RunningClient, IsAskedToEndBeforeItsFilesGo) {
-  test::Process client(Client("obey"));
-  AwaitPidFile();
-  test::Process launcher(box.Start());
-  // Its end is seen by the launcher only once nobody holds its entry any more.
-  test::Outcome const ended = client.Wait();
-  EXPECT_EQ(ended.status, 0);
-  EXPECT_EQ(launcher.Wait().status, 0);
-  ExpectUpgraded();
-  EXPECT_THAT(box.Log(), Not(Contains(HasSubstr("[ERROR]"))));
-}
-
-TEST_F(RunningClient, IsKilledWhenItIgnoresTheRequest) {
-  test::Process client(Client("ignore"));
-  AwaitPidFile();
-  test::Process launcher(box.Start());
-  EXPECT_EQ(client.Wait().signal, SIGKILL);
-  EXPECT_EQ(launcher.Wait().status, 0);
-  ExpectUpgraded();
-}
-
-TEST_F(RunningClient, IsNotLookedForWithoutAPidFile) {
-  EXPECT_EQ(box.Launch().status, 0);
-  ExpectUpgraded();
-  EXPECT_THAT(box.Log(), Contains("[DEBUG] mac/mac-service(0): pid file '" + PidFile() +
-                                  "' does not exist, no need to terminate"));
-}
-
-TEST_F(RunningClient, IsLeftAloneWhenThePidFileIsMalformed) {
-  test::WriteFile(PidFile(), "[pid]\n");
-  EXPECT_EQ(box.Launch().status, 0);
-  ExpectUpgraded();
-  EXPECT_THAT(box.Log(), Contains("[NOTE] mac/mac-service(0): Failed to read pid file '" +
-                                  PidFile() + "', not exist ?"));
-}
-
-TEST_F(RunningClient, IsLeftAloneWhenThePidFileCannotBeRead) {
-  // It exists, yet nobody can open it, root included.
-  fs::create_symlink("nowhere", PidFile());
-  EXPECT_EQ(box.Launch().status, 0);
-  ExpectUpgraded();
-  EXPECT_THAT(box.Log(), Contains("[NOTE] mac/mac-service(0): Failed to read pid file '" +
-                                  PidFile() + "', not exist ?"));
-}
-
-TEST_F(RunningClient, IsNotLookedForWhenThePidFileHoldsNoPid) {
-  test::WriteFile(PidFile(), "name=value\n");
-  EXPECT_EQ(box.Launch().status, 0);
-  ExpectUpgraded();
-  EXPECT_THAT(box.Log(), Contains("[DEBUG] mac/mac-service(0): pid file '" + PidFile() +
-                                  "' holds no pid, no need to terminate"));
-}
-
-TEST_F(RunningClient, IsNotWaitedForWhenItsPidIsStale) {
-  test::Process gone({{"true"}, {}, "", "", false});
-  pid_t const pid = gone.pid();
-  gone.Wait();
-  test::WriteFile(PidFile(), "pid=" + std::to_string(pid) + "\n");
-  EXPECT_EQ(box.Launch().status, 0);
-  ExpectUpgraded();
-  EXPECT_THAT(box.Log(), Not(Contains(HasSubstr("mac/mac-service(0): kill"))));
-}
-
-TEST_F(RunningClient, IsNotTouchedByAPlainStart) {
-  box.Carry(100);
-  test::Process client(Client("obey"));
-  AwaitPidFile();
-  EXPECT_EQ(box.Launch().status, 0);
-  EXPECT_TRUE(client.Running());
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// One launcher at a time.
+// Only one launcher runs at a time.
 #include <gmock/gmock.h>
 #include <signal.h>
 
@@ -44,7 +44,7 @@ TEST_F(Instances, ASecondStartEndsAtOnceAndLeavesOneLine) {
   EXPECT_THAT(box.AwaitStarts(1), testing::ElementsAre("100"));
 }
 
-TEST_F(Instances, ASecondStartLeavesNothingAtTheFirstThresholds) {
+TEST_F(Instances, ASecondStartLogsNothingByDefault) {
   fs::remove(box.Bundle() + "/log/launcher.debug");
   test::FifoPackage package(box);
   test::Process first(box.Start());
@@ -61,7 +61,7 @@ TEST_F(Instances, OneOfFiftySimultaneousStartsInstalls) {
   test::FifoPackage package(box);
   std::vector<std::unique_ptr<test::Process>> starts;
   for (int i = 0; i < 50; ++i) starts.push_back(std::make_unique<test::Process>(box.Start()));
-  // The one that got through waits for its package, so all others meet it at work.
+  // The admitted one waits for its package, so all others find it running.
   ASSERT_TRUE(test::WaitUntil([&] {
     auto const log = box.Log();
     return std::count(log.begin(), log.end(), kAlready) == 49;
@@ -82,7 +82,7 @@ TEST_F(Instances, OneOfFiftySimultaneousStartsInstalls) {
   EXPECT_THAT(box.AwaitStarts(1), testing::ElementsAre("100"));
 }
 
-TEST_F(Instances, AStartAfterAKilledOneGoesThroughAtOnce) {
+TEST_F(Instances, AStartAfterAKilledOneIsAdmittedAtOnce) {
   {
     test::FifoPackage package(box);
     test::Process first(box.Start());

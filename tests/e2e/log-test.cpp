@@ -1,4 +1,4 @@
-// The whole log of each kind of run, line by line.
+// The complete log of each kind of run.
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -23,12 +23,12 @@ class WholeLog : public testing::Test {
   static void Append(Lines& lines, Lines const& more) {
     lines.insert(lines.end(), more.begin(), more.end());
   }
-  /// What looking at an object that exists leaves in the log.
+  /// The log of statting an existing file.
   static Lines Looked(std::string const& path) {
     return {"[DEBUG] file-op(0): Input file path = [" + path + "].",
             "[DEBUG] file-op(0): FSRefMakePath outTargetPath path = [" + path + "]."};
   }
-  /// FSStat looks twice: whether the object exists, and at what it is.
+  /// FSStat stats twice: for existence, and for the metadata.
   static Lines Stated(std::string const& path) {
     Lines lines = Looked(path);
     Append(lines, Looked(path));
@@ -55,7 +55,7 @@ class WholeLog : public testing::Test {
                 box.App() + "'",
             "[DEBUG] extractor(0): decompress from '" + box.Package() + "' to '" + box.App() + "'"};
   }
-  /// Stopping a client whose pid file isn't there, then the renaming of the old tree.
+  /// The log of stopping a client without a pid file, and of renaming the old tree aside.
   Lines MovingAside() const {
     Lines lines = {"[DEBUG] mac/mac-service(0): local appdata exist",
                    "[DEBUG] mac/mac-service(0): pid file '" + box.UserRoot() +
@@ -68,7 +68,7 @@ class WholeLog : public testing::Test {
     return {"[INFO] larkmoor-service(0): removing aged app folder " + box.UserRoot() + "/app",
             "[DEBUG] launcher(0): done"};
   }
-  /// The removal of a tree, whose order is the file system's.
+  /// The log of removing a tree, in the file system's order.
   static Lines RemovalOf(std::string const& root, test::Tree const& tree) {
     Lines lines = Looked(root);
     for (auto const& [path, node] : tree) Append(lines, Looked(root + "/" + path));
@@ -85,7 +85,7 @@ class WholeLog : public testing::Test {
     auto const removed = log.begin() + static_cast<std::ptrdiff_t>(before.size());
     auto const ended = removed + static_cast<std::ptrdiff_t>(removal.size());
     EXPECT_EQ(Lines(log.begin(), removed), before);
-    // Two lines an object; the order of a folder's entries is the file system's business.
+    // Two lines per file; the file system determines the order.
     EXPECT_EQ(*removed, removal.front());
     Lines sorted(removed, ended);
     Lines expected = removal;
@@ -99,11 +99,11 @@ class WholeLog : public testing::Test {
     std::istringstream in(outcome.err);
     std::string records;
     for (std::string line; std::getline(in, line);) {
-      if (line.substr(0, 17).rfind(" [") == 15) records += line + "\n";  // behind a stamp
+      if (line.substr(0, 17).rfind(" [") == 15) records += line + "\n";  // after a time stamp
     }
     return test::NormaliseLog(records);
   }
-  /// Makes what a rotation without a path would rename and remove.
+  /// Creates the files that a rotation without a path would rename and remove.
   void MakeGenerationsOfNothing() const {
     for (char const* name : kGenerations) test::WriteFile(box.Home() + "/" + name, name);
   }
@@ -173,12 +173,12 @@ TEST_F(WholeLog, OfARollback) {
   EXPECT_EQ(box.Log(), expected);
 }
 
-TEST_F(WholeLog, HoldsEachRecordFromTheNumberOfItsTagOn) {
+TEST_F(WholeLog, ContainsEachRecordFromTheLevelOfItsTagOn) {
   box.CarryVersion(200);
   box.CarryPackage(
       test::MakeArchive({test::Entry::File("only", "1"), test::Entry::File("../climbs", "2")}));
   box.Install(100);
-  box.Launch();  // rolls back, and so the next start finds what this one has found
+  box.Launch();  // rolls back, so the next start finds the same state
   Lines const all = box.Log();
   std::vector<std::string> const tags = {"[ERROR] ", "[WARNING] ", "[NOTE] ", "[INFO] ",
                                          "[DEBUG] "};
@@ -202,17 +202,17 @@ TEST_F(WholeLog, HoldsEachRecordFromTheNumberOfItsTagOn) {
   EXPECT_EQ(expected, all);
 }
 
-TEST_F(WholeLog, OfARunWithoutLevelFileHoldsNothing) {
+TEST_F(WholeLog, OfARunWithoutLevelFileIsEmpty) {
   fs::remove(box.Bundle() + "/log/launcher.debug");
   box.Carry(100);
   EXPECT_EQ(box.Launch().status, 0);
   EXPECT_EQ(box.RawLog(), "");
 }
 
-TEST_F(WholeLog, KeepsFortyNineOldFilesBesideTheLiveOne) {
+TEST_F(WholeLog, KeepsFortyNineOldFilesBesidesTheLiveOne) {
   box.Carry(200);
   box.Install(100);
-  // Each object that is removed leaves its path twice: enough of them fill a file.
+  // Each removed file logs its path twice: enough of them fill a log file.
   for (int i = 0; i < 2500; ++i) {
     test::WriteFile(box.App() + "/Contents/" + std::string(200, 'n') + std::to_string(i), "");
   }
@@ -226,7 +226,7 @@ TEST_F(WholeLog, KeepsFortyNineOldFilesBesideTheLiveOne) {
   EXPECT_FALSE(fs::exists(box.LogFile() + "_49"));
 }
 
-TEST_F(WholeLog, GoesToStandardErrorWhereAFolderStandsInItsPlace) {
+TEST_F(WholeLog, GoesToStandardErrorIfAFolderIsInTheWay) {
   box.Carry(200);
   box.Install(100);
   test::Tree const old_tree = test::ReadTree(box.App());
@@ -241,12 +241,12 @@ TEST_F(WholeLog, GoesToStandardErrorWhereAFolderStandsInItsPlace) {
   EXPECT_TRUE(fs::is_empty(box.LogFile()));
 }
 
-TEST_F(WholeLog, GoesToStandardErrorWhereTheFileIsAnotherUsersOwn) {
+TEST_F(WholeLog, GoesToStandardErrorIfAnotherUserOwnsTheFile) {
   box.Carry(200);
   box.Install(100);
   test::Tree const old_tree = test::ReadTree(box.App());
   test::WriteFile(box.LogFile(), "of a start as root\n");
-  // Whoever isn't root can't make a file of root's; one that nobody may open does as well.
+  // Only root can create a file of root's; otherwise, one that nobody may open does.
   chmod(box.LogFile().c_str(), geteuid() == 0 ? 0600 : 0);
   MakeGenerationsOfNothing();
   test::GiveAway(box.folder().path().c_str());

@@ -1,4 +1,4 @@
-// Upgrades of clients, and in homes, whose names aren't in their composed normal form.
+// Upgrades of clients, and in homes, with names that aren't in composed normal form.
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 
@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "support/normal-forms.h"
 #include "support/sandbox.h"
 
 namespace fs = std::filesystem;
@@ -15,6 +16,8 @@ namespace fs = std::filesystem;
 namespace {
 
 using test::Entry;
+using test::kComposed;
+using test::kDecomposed;
 using test::MakeArchive;
 using test::ReadTree;
 using test::Sandbox;
@@ -22,16 +25,13 @@ using testing::ElementsAre;
 
 constexpr int kBuilds = 13;  // more than there are names for backups
 
-constexpr char kDecomposed[] = "cafe\xCC\x81";
-constexpr char kComposed[] = "caf\xC3\xA9";
-
 constexpr size_t kTwins = 2;
 
-/// A client with files, folders and links of such names, and with two twins: a file and a folder.
+/// A client with files, folders and symlinks of such names and two twins: a file and a folder.
 std::vector<Entry> Client(int build) {
   std::vector<Entry> entries = Sandbox::Client(build);
   auto const add = [&entries](Entry entry) { entries.insert(entries.end() - 2, std::move(entry)); };
-  // A word, a syllable, and a letter that has no composed form.
+  // A word, a syllable and a letter without a composed form.
   for (std::string const name :
        {kDecomposed, "\xE1\x84\x80\xE1\x85\xA1\xE1\x86\xA8", "\xE0\xA5\x98"}) {
     add(Entry::File("Contents/Resources/" + name, name + std::to_string(build)));
@@ -46,8 +46,8 @@ std::vector<Entry> Client(int build) {
   return entries;
 }
 
-/// Whether the temporary folder keeps the two forms apart, as volumes of macOS don't. There a twin
-/// takes the place of the file that is like it, and is one with the folder.
+/// Whether the temporary folder distinguishes normal forms, which macOS volumes don't. There, a
+/// twin replaces the equivalent file, and is the same as the equivalent folder.
 bool FormsAreApart() {
   test::TempDir folder;
   test::WriteFile(folder / kDecomposed, "");
@@ -91,7 +91,7 @@ TEST_P(NormalForm, OfNamesInAClientLeavesNoBackupOfBuildAfterBuild) {
   EXPECT_EQ(box.RawLog(), "");
 }
 
-TEST_P(NormalForm, OfNamesInAClientMakesNoOtherUpgradeOfAPlainStart) {
+TEST_P(NormalForm, OfNamesInAClientDoesNotMakeAPlainStartAnUpgrade) {
   box.LogEverything();
   Carry(1);
   ASSERT_EQ(box.Launch().status, 0);
@@ -101,7 +101,7 @@ TEST_P(NormalForm, OfNamesInAClientMakesNoOtherUpgradeOfAPlainStart) {
   EXPECT_THAT(box.AwaitStarts(2), ElementsAre("1", "1"));
 }
 
-TEST_P(NormalForm, OfNamesInADamagedPackageGivesTheOldTreeBack) {
+TEST_P(NormalForm, OfNamesInADamagedPackageAllowsTheRollback) {
   Carry(1);
   ASSERT_EQ(box.Launch().status, 0);
   test::Tree const old = ReadTree(box.App());
@@ -115,7 +115,7 @@ TEST_P(NormalForm, OfNamesInADamagedPackageGivesTheOldTreeBack) {
   EXPECT_THAT(Installed(), ElementsAre("Larkmoor.app", "log"));
 }
 
-// What can't stand on a volume of macOS at all.
+// Impossible on macOS volumes.
 class BytesThatAreNoUtf8 : public testing::Test {
  protected:
   void SetUp() override {
@@ -123,7 +123,7 @@ class BytesThatAreNoUtf8 : public testing::Test {
       GTEST_SKIP() << "the volume takes no such name";
     }
   }
-  /// A client that has such a name, and more behind it.
+  /// A client with such a name and more entries after it.
   static std::vector<Entry> Client(int build) {
     std::vector<Entry> entries = Sandbox::Client(build);
     entries.insert(entries.begin(), Entry::File("Contents/Resources/\xFF", "1"));

@@ -1,4 +1,4 @@
-// What the user gets to see of a run, by the paint events and by the pixels of the screen.
+// What the user sees of a run, by paint events and by the pixels of the screen.
 #include <gmock/gmock.h>
 
 #include <sstream>
@@ -16,7 +16,7 @@ using testing::StartsWith;
 
 constexpr char kReady[] = "paint 100 Larkmoor Drive is ready.";
 
-/// A screen to paint on: none but memory, or an X server.
+/// A screen to paint on: in memory or on an X server.
 class Painting : public testing::TestWithParam<char const*> {
  protected:
   void SetUp() override {
@@ -26,7 +26,7 @@ class Painting : public testing::TestWithParam<char const*> {
     server = std::make_unique<test::XServer>();
   }
 
-  /// What the witness in the launcher saw of one run.
+  /// The records of the witness in the launcher for one run.
   std::vector<std::string> Run(test::Sandbox const& box,
                                std::string const& locale = "en_US.UTF-8") const {
     test::Process::Options start = box.Start();
@@ -48,7 +48,7 @@ class Painting : public testing::TestWithParam<char const*> {
     return seen;
   }
 
-  /// Once for each of these runs, each a first install.
+  /// Runs once on each, always a first installation.
   void ExpectReadyBeforeTheWindowGoes(int files) const {
     char const* const wanted = getenv("LARKMOOR_TEST_PAINT_RUNS");
     int const runs = wanted == nullptr ? kRuns : atoi(wanted);
@@ -70,25 +70,25 @@ class Painting : public testing::TestWithParam<char const*> {
   std::unique_ptr<test::XServer> server;
 };
 
-/// What memory alone can't do: a window that is drawn there always appears.
+/// Needs an X server: in memory, a window always appears.
 class PaintingOnAScreen : public Painting {};
 
-TEST_P(Painting, ShowsThatAllIsReadyBeforeTheWindowOfASmallPackageGoes) {
+TEST_P(Painting, ShowsTheReadyTextBeforeHidingForASmallPackage) {
   ExpectReadyBeforeTheWindowGoes(60);
 }
 
-TEST_P(Painting, ShowsThatAllIsReadyBeforeTheWindowOfALargePackageGoes) {
+TEST_P(Painting, ShowsTheReadyTextBeforeHidingForALargePackage) {
   ExpectReadyBeforeTheWindowGoes(3000);
 }
 
-TEST_P(Painting, ShowsNothingWhenNothingIsToBeDone) {
+TEST_P(Painting, ShowsNothingWhenThereIsNothingToDo) {
   test::Sandbox box(LARKMOOR_TEST_LAUNCHER_WITH_WITNESS);
   box.Carry(100);
   box.Install(100);
   EXPECT_THAT(Run(box), IsEmpty());
 }
 
-TEST_P(Painting, NeverSaysThatAllIsReadyAfterAFailure) {
+TEST_P(Painting, NeverShowsTheReadyTextAfterAFailure) {
   test::Sandbox box(LARKMOOR_TEST_LAUNCHER_WITH_WITNESS);
   box.CarryVersion(100);
   std::vector<test::Entry> entries = test::Sandbox::ClientWithFiles(100, 60);
@@ -109,7 +109,7 @@ TEST_P(Painting, ShowsTheTextsInTheLanguageOfTheSystem) {
   EXPECT_THAT(seen, Contains("hide shown"));
 }
 
-TEST_P(PaintingOnAScreen, EndsThoughTheWindowNeverAppears) {
+TEST_P(PaintingOnAScreen, EndsEvenIfTheWindowNeverAppears) {
   test::Process::Options manager;
   manager.arguments = {LARKMOOR_TEST_HOLD_WINDOWS};
   manager.environment = {{"DISPLAY", server->Display()}};

@@ -1,4 +1,4 @@
-// The dialog on a real X server: what the user sees, and what happens when they act on it.
+// The dialog on a real X server: what the user sees, and how it reacts to the user.
 #include <gmock/gmock.h>
 #include <signal.h>
 #include <unistd.h>
@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Runs a tool of the X window system and gives what it printed.
+/// Runs an X tool and returns its output.
 std::string Tool(std::vector<std::string> const& words, std::string const& display) {
   test::Process::Options options;
   options.arguments = words;
@@ -44,7 +44,7 @@ class Window : public testing::Test {
     options.environment["DISPLAY"] = display;
     return options;
   }
-  /// The number of the dialog's window on the screen, or nothing.
+  /// The number of the dialog's window on the screen; empty if there is none.
   std::string FindDialog() const {
     std::istringstream found(
         Tool({"xdotool", "search", "--onlyvisible", "--name", "^Larkmoor Drive$"}, display));
@@ -63,7 +63,7 @@ class Window : public testing::Test {
   std::string display;
 };
 
-TEST_F(Window, ShowsTheDialogAtWorkAndTakesItAwayAtTheEnd) {
+TEST_F(Window, ShowsTheDialogDuringAnUpgradeAndHidesItAtTheEnd) {
   std::vector<test::Entry> entries = test::Sandbox::Client(100);
   for (int i = 0; i < 60; ++i) {
     entries.push_back(
@@ -77,7 +77,7 @@ TEST_F(Window, ShowsTheDialogAtWorkAndTakesItAwayAtTheEnd) {
 
   EXPECT_THAT(Tool({"xdotool", "getwindowgeometry", "--shell", dialog}, display),
               testing::HasSubstr("WIDTH=400\n"));
-  // The picture has more colours than an empty window has.
+  // The picture has more colours than an empty window.
   std::string const picture = box.folder() / "dialog.png";
   ASSERT_TRUE(test::WaitUntil([&] {
     Tool({"import", "-window", dialog, picture}, display);
@@ -94,13 +94,13 @@ TEST_F(Window, ShowsTheDialogAtWorkAndTakesItAwayAtTheEnd) {
   EXPECT_THAT(box.AwaitStarts(1), testing::ElementsAre("100"));
 }
 
-TEST_F(Window, StaysAwayWhenNothingIsToBeDone) {
+TEST_F(Window, DoesNotAppearWhenThereIsNothingToDo) {
   box.Install(100);
   EXPECT_EQ(test::Run(Start()).status, 0);
   EXPECT_EQ(FindDialog(), "");
 }
 
-TEST_F(Window, GoesOnWorkingAfterTheEscapeKey) {
+TEST_F(Window, KeepsWorkingAfterTheEscapeKey) {
   test::FifoPackage package(box);
   test::Process launcher(Start());
   package.FeedUntilHalfWritten(launcher.pid());
@@ -115,7 +115,7 @@ TEST_F(Window, GoesOnWorkingAfterTheEscapeKey) {
   EXPECT_THAT(box.AwaitStarts(1), testing::ElementsAre("100"));
 }
 
-TEST_F(Window, GoesOnWorkingWhenTheWindowManagerClosesIt) {
+TEST_F(Window, KeepsWorkingWhenTheWindowManagerClosesIt) {
   test::FifoPackage package(box);
   test::Process launcher(Start());
   package.FeedUntilHalfWritten(launcher.pid());
@@ -128,7 +128,7 @@ TEST_F(Window, GoesOnWorkingWhenTheWindowManagerClosesIt) {
   EXPECT_THAT(box.AwaitStarts(1), testing::ElementsAre("100"));
 }
 
-TEST_F(Window, SpeaksTheLanguageOfTheSystem) {
+TEST_F(Window, IsInTheLanguageOfTheSystem) {
   for (auto const& [locale, catalogue] :
        std::map<std::string, std::string>{{"de_AT", "deu"}, {"pt_PT", "ptg"}, {"fi_FI", "enu"}}) {
     test::Process::Options start = Start();

@@ -4,83 +4,31 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cctype>
+#include <cstdio>
 #include <filesystem>
 #include <functional>
-#include <random>
 #include <string>
 #include <vector>
 
+#include "faults/hostile-package.h"
 #include "faults/mount.h"
 #include "faults/nobody.h"
-#include "faults/sweep.h"
-#include "mac/mac-service.h"
-#include "service/extractor.h"
-#include "support/sandbox.h"
+#include "support/tar.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
 using test::Entry;
+using test::HostilePackage;
+using test::LongName;
+using test::Padded;
+using test::PaxName;
 using test::Sandbox;
+using test::TarFile;
+using test::TarHeader;
 using test::Tree;
-
-/// Writes a tar header by hand, for what no library writes.
-std::string TarHeader(std::string const& name, char type, size_t size, std::string const& link = "",
-                      unsigned mode = 0644) {
-  std::string header(512, '\0');
-  auto const put = [&](size_t at, std::string const& text) {
-    header.replace(at, text.size(), text);
-  };
-  char octal[16];
-  auto const number = [&](unsigned long value, int width) {
-    snprintf(octal, sizeof(octal), "%0*lo", width, value);
-    return std::string(octal);
-  };
-  put(0, name.substr(0, 100));
-  put(100, number(mode, 7));
-  put(108, number(0, 7));
-  put(116, number(0, 7));
-  put(124, number(size, 11));
-  put(136, number(0, 11));
-  put(148, "        ");
-  header[156] = type;
-  put(157, link.substr(0, 100));
-  put(257, std::string("ustar\0"
-                       "00",
-                       8));
-  put(329, number(1, 7));
-  put(337, number(3, 7));
-  unsigned sum = 0;
-  for (char byte : header) sum += static_cast<unsigned char>(byte);
-  put(148, number(sum, 6) + std::string("\0 ", 2));
-  return header;
-}
-
-std::string Padded(std::string bytes) {
-  bytes.resize((bytes.size() + 511) / 512 * 512);
-  return bytes;
-}
-
-std::string TarFile(std::string const& name, std::string const& bytes, unsigned mode = 0644) {
-  return TarHeader(name, '0', bytes.size(), "", mode) + Padded(bytes);
-}
-
-/// A name in UTF-8, the way POSIX's newer form stores one.
-std::string PaxName(std::string const& name) {
-  std::string const rest = " path=" + name + "\n";
-  std::string length = std::to_string(rest.size() + 2);
-  if (length.size() + rest.size() != std::stoul(length)) {
-    length = std::to_string(rest.size() + length.size() + 1);
-  }
-  std::string const record = length + rest;
-  return TarHeader("PaxHeaders/x", 'x', record.size()) + Padded(record);
-}
-
-/// A name of any length, the way GNU tar stores one.
-std::string LongName(std::string const& name) {
-  return TarHeader("././@LongLink", 'L', name.size() + 1) + Padded(name + '\0');
-}
 
 enum class Verdict {
   kRefused,    ///< the extraction fails and the old tree is back
@@ -97,13 +45,13 @@ struct Case {
   std::function<void(std::string const& app)> check = [](std::string const&) {};
 };
 
+bool Stands(std::string const& path) { return fs::exists(fs::symlink_status(path)); }
+
 std::string Repeat(std::string const& text, int times) {
   std::string all;
   for (int i = 0; i < times; ++i) all += text;
   return all;
 }
-
-bool Stands(std::string const& path) { return fs::exists(fs::symlink_status(path)); }
 
 std::vector<Case> const& Cases() {
   using S = std::string const&;
@@ -232,51 +180,6 @@ std::vector<Case> const& Cases() {
   };
   return cases;
 }
-
-class HostilePackage : public testing::Test {
- protected:
-  HostilePackage() {
-    sandbox_.Install(100);
-    sandbox_.CarryVersion(200);
-    fs::create_directories(Outside());
-    test::WriteFile(Outside() + "/victim", "mine");
-    fs::create_directories(Outside() + "/closed");
-    fs::permissions(Outside() + "/closed", fs::perms(0700));
-    // Packages are unpacked with the home as the working folder.
-    test::WriteFile(sandbox_.Home() + "/victim", "mine");
-    old_ = test::ReadTree(sandbox_.App());
-  }
-
-  std::string Outside() const { return sandbox_.folder() / "outside"; }
-  static std::string SoundClient() { return test::MakeArchive(Sandbox::Client(200), "gnutar"); }
-
-  /// Everything beside the per-user root, but for what the client itself leaves in its home.
-  Tree Beside() const {
-    Tree all = test::ReadTree(Outside());
-    for (auto const& entry : fs::directory_iterator(sandbox_.folder().path())) {
-      all["/" + entry.path().filename().string()] = {};
-    }
-    return all;
-  }
-  bool IsInstalled() const {
-    std::string const info = sandbox_.App() + "/Contents/Resources/INFO";
-    return fs::exists(info) && test::ReadFile(info).find("=200") != std::string::npos &&
-           !fs::exists(sandbox_.App() + "_tmp");
-  }
-  bool IsRolledBack() const {
-    return test::ReadTree(sandbox_.App()) == old_ && !fs::exists(sandbox_.App() + "_tmp");
-  }
-  bool IsLogged(std::string const& text) const {
-    return sandbox_.RawLog().find(text) != std::string::npos;
-  }
-  void Restore() {
-    fs::remove_all(sandbox_.UserRoot());
-    sandbox_.Install(100);
-  }
-
-  Sandbox sandbox_;
-  Tree old_;
-};
 
 class HostileEntry : public HostilePackage, public testing::WithParamInterface<size_t> {};
 
@@ -442,11 +345,7 @@ std::string SparseFile() {
   put(386, kSize - 512);
   put(398, 512);
   put(483, kSize);
-  header.replace(148, 8, "        ");
-  unsigned sum = 0;
-  for (char byte : header) sum += static_cast<unsigned char>(byte);
-  snprintf(number, sizeof(number), "%06o", sum);
-  header.replace(148, 8, std::string(number) + std::string("\0 ", 2));
+  test::SealTarHeader(header);
   return header + std::string(512, 's');
 }
 
@@ -474,134 +373,6 @@ TEST_F(HostilePackage, AGzipBombFillsASmallDiskAndTheOldTreeComesBack) {
   EXPECT_EQ(outcome.status, 0);
   EXPECT_TRUE(IsRolledBack()) << sandbox_.RawLog();
   EXPECT_EQ(sandbox_.AwaitStarts(1).back(), "100");
-}
-
-/// The transaction on a sandbox, in this process: a hundred times faster than a start.
-class Transaction : public MacService {
- public:
-  explicit Transaction(Sandbox const& sandbox) : package_(sandbox.Package()) {
-    app_path = ustring(sandbox.App());
-  }
-  /// As in the program, which asks for the two paths where this one knows them.
-  int ExtractPackage() override {
-    fs::create_directories(app_path.c_str());
-    Extractor extractor;
-    extractor.package_path = ustring(package_);
-    extractor.dest_path = app_path;
-    return extractor.Extract();
-  }
-
- private:
-  std::string package_;
-};
-
-class DamagedPackage : public HostilePackage {
- protected:
-  /// Upgrades from the old tree with these bytes as the package. Whatever is refused has to leave
-  /// the old tree.
-  int Extract(std::string const& bytes) {
-    sandbox_.CarryPackage(bytes);
-    Restore();
-    int const result = Transaction(sandbox_).PrepareUserEnv();
-    EXPECT_TRUE(result == 0 || IsRolledBack());
-    EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp"));
-    return result;
-  }
-  Tree Extracted() const { return test::ReadTree(sandbox_.App()); }
-};
-
-TEST_F(DamagedPackage, CompressedAndCutAtAnyBlockIsRefused) {
-  std::mt19937 random(1);
-  std::vector<Entry> entries = Sandbox::Client(200);
-  for (char& byte : entries[3].content) byte = static_cast<char>(random());
-  std::string const whole = test::MakeArchive(entries, "gnutar", "gzip");
-  for (size_t size = 0; size < whole.size(); size += 512) {
-    EXPECT_EQ(Extract(whole.substr(0, size)), -1) << "cut at " << size;
-  }
-  EXPECT_EQ(Extract(whole), 0);
-}
-
-TEST_F(DamagedPackage, PlainTarCutBetweenTwoEntriesPassesForWhole) {
-  std::string const whole = SoundClient();
-  size_t passed = 0;
-  size_t refused = 0;
-  Extract(whole);
-  Tree const tree = Extracted();
-  for (size_t size = 0; size < whole.size(); size += 512) {
-    int const result = Extract(whole.substr(0, size));
-    (result == 0 ? passed : refused)++;
-    // Whatever passes is made of whole entries, the last ones are missing: INFO among them, so
-    // that the next start unpacks again.
-    Tree const part = Extracted();
-    if (result != 0 || part == tree) continue;
-    EXPECT_EQ(part.count("Contents/Resources/INFO"), 0U) << "cut at " << size;
-  }
-  EXPECT_GT(passed, 0U);
-  EXPECT_GT(refused, 0U);
-}
-
-/// What became of a thousand packages with one flipped bit each.
-struct Flips {
-  int refused = 0;
-  int same = 0;   ///< the whole tree, byte for byte
-  int other = 0;  ///< accepted, and something differs
-};
-
-class FlippedBit : public DamagedPackage, public testing::WithParamInterface<char const*> {
- protected:
-  Flips FlipAThousand(std::string const& whole) {
-    std::mt19937 random(20);
-    EXPECT_EQ(Extract(whole), 0);
-    Tree const tree = Extracted();
-    Flips flips;
-    for (int i = 0; i < 1000; ++i) {
-      std::string bytes = whole;
-      size_t const at = random() % bytes.size();
-      bytes[at] = static_cast<char>(bytes[at] ^ (1 << random() % 8));
-      if (Extract(bytes) != 0) {
-        ++flips.refused;
-      } else {
-        (Extracted() == tree ? flips.same : flips.other)++;
-      }
-    }
-    return flips;
-  }
-};
-
-/// A sound client, packed as scripts/make-package does: zstd's own program adds a checksum, which
-/// libarchive leaves out.
-std::string Packed(std::string const& filter) {
-  if (filter != "zstd") return test::MakeArchive(Sandbox::Client(200), "gnutar", filter);
-  test::TempDir const folder;
-  std::string const tar = folder / "client.tar";
-  test::WriteFile(tar, test::MakeArchive(Sandbox::Client(200), "gnutar"));
-  EXPECT_EQ(test::Run({{"/usr/bin/env", "zstd", "-q", tar}, {}, "", "", false}).status, 0);
-  return test::ReadFile(tar + ".zst");
-}
-
-TEST_P(FlippedBit, NeverWritesOutsideAndPassesUnnoticedOnlyWhereNoChecksumIsLookedAt) {
-  Tree const beside = Beside();
-  std::string const filter = GetParam();
-  Flips const flips = FlipAThousand(Packed(filter));
-  EXPECT_EQ(Beside(), beside);
-  EXPECT_GT(flips.refused, 0);
-  // libarchive doesn't look at gzip's checksum; plain tar has one for headers alone.
-  EXPECT_EQ(flips.other != 0, filter == "none" || filter == "gzip");
-  test::Report("a flipped bit at 1,000 places, filter " + filter + ": " +
-               std::to_string(flips.refused) + " refused, " + std::to_string(flips.same) +
-               " whole, " + std::to_string(flips.other) + " with other bytes");
-}
-
-INSTANTIATE_TEST_SUITE_P(Filters, FlippedBit, testing::Values("none", "gzip", "zstd", "xz"),
-                         [](auto const& parameter) { return std::string(parameter.param); });
-
-TEST_F(HostilePackage, AnyDamageGivesTheOldTreeBack) {
-  std::string const whole = test::MakeArchive(Sandbox::Client(200), "gnutar", "gzip");
-  for (size_t size : {size_t{0}, size_t{1}, size_t{17}, whole.size() / 2, whole.size() - 1}) {
-    sandbox_.CarryPackage(whole.substr(0, size));
-    ASSERT_EQ(sandbox_.Launch().status, 0);
-    EXPECT_TRUE(IsRolledBack()) << "cut at " << size << ": " << sandbox_.RawLog();
-  }
 }
 
 }  // namespace

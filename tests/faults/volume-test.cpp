@@ -1,4 +1,4 @@
-// Upgrades on real file systems: full, read-only, limited by quota, split in two, like a Mac's.
+// Upgrades on real file systems: full, read-only, limited by quota, split in two.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <linux/quota.h>
@@ -16,6 +16,7 @@
 
 #include "faults/mount.h"
 #include "faults/nobody.h"
+#include "faults/volume-fixture.h"
 #include "foundation/file-op.h"
 #include "support/sandbox.h"
 
@@ -27,6 +28,7 @@ using test::Entry;
 using test::Mount;
 using test::Sandbox;
 using test::Tree;
+using test::Volume;
 
 constexpr size_t kPayload = 200000;
 
@@ -45,38 +47,6 @@ std::vector<Entry> HugeClient(int build) {
   entries.insert(entries.end() - 2, Entry::File("Contents/Resources/huge", bytes));
   return entries;
 }
-
-class Volume : public testing::Test {
- protected:
-  void Carry(std::vector<Entry> const& entries) {
-    sandbox_.CarryVersion(200);
-    sandbox_.CarryPackage(test::MakeArchive(entries, "gnutar", "gzip"));
-  }
-  bool LogHas(std::string const& text) const {
-    return sandbox_.RawLog().find(text) != std::string::npos;
-  }
-  static std::string Size(size_t kib) { return "size=" + std::to_string(kib) + "k"; }
-  /// Fills the home with one file until that fails, gives so much of it back and returns the error.
-  int LeaveRoom(off_t bytes) const {
-    std::string const ballast = sandbox_.Home() + "/ballast";
-    int const file = open(ballast.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
-    std::string const block(1 << 16, 'b');
-    off_t size = 0;
-    for (ssize_t count; (count = write(file, block.data(), block.size())) > 0;) size += count;
-    int const error = errno;
-    EXPECT_EQ(bytes > 0 ? ftruncate(file, size - bytes) : 0, 0);
-    fsync(file);
-    close(file);
-    return error;
-  }
-  bool HasBuild(int build) const {
-    std::string const info = sandbox_.App() + "/Contents/Resources/INFO";
-    return fs::exists(info) &&
-           test::ReadFile(info).find("build_version=" + std::to_string(build)) != std::string::npos;
-  }
-
-  Sandbox sandbox_;
-};
 
 TEST_F(Volume, FullInTheMiddleOfAnUpgradeGivesTheOldTreeBack) {
   Mount home("none", sandbox_.Home(), "tmpfs", Size(256));
@@ -363,191 +333,5 @@ TEST_F(CrossDevice, FSRenameOntoAFullVolumeFailsAndKeepsTheSource) {
   EXPECT_EQ(Move(), -3);
   EXPECT_EQ(test::ReadFile(folder_ / "app/big"), bytes);
 }
-
-#ifdef LARKMOOR_TEST_MAC_VOLUME_FS
-class MacVolume : public Volume {
- protected:
-  void SetUp() override {
-    fs::create_directories(Behind());
-    test::Process::Options options;
-    options.arguments = {LARKMOOR_TEST_MAC_VOLUME_FS, Behind(), sandbox_.Home()};
-    server_ = std::make_unique<test::Process>(options);
-    struct stat behind;
-    ASSERT_EQ(stat(Behind().c_str(), &behind), 0);
-    bool const up = test::WaitUntil([&] {
-      struct stat shown;
-      return !server_->Running() ||
-             (stat(sandbox_.Home().c_str(), &shown) == 0 && shown.st_dev != behind.st_dev);
-    });
-    if (!up || !server_->Running()) {
-      GTEST_SKIP() << "no FUSE here: " << server_->Wait(std::chrono::seconds(5)).err;
-    }
-  }
-  void TearDown() override { umount2(sandbox_.Home().c_str(), MNT_DETACH); }
-  /// What the volume keeps.
-  std::string Behind() const { return sandbox_.folder() / "behind"; }
-
-  std::unique_ptr<test::Process> server_;
-};
-
-TEST_F(MacVolume, IsUpgradedLikeAnyOther) {
-  sandbox_.Install(100);
-  sandbox_.Carry(200);
-  ASSERT_EQ(sandbox_.Launch().status, 0);
-  EXPECT_TRUE(HasBuild(200)) << sandbox_.RawLog();
-  EXPECT_EQ(test::ReadTree(sandbox_.App()).size(), Sandbox::Client(200).size());
-  EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp"));
-}
-
-TEST_F(MacVolume, AnOldTreeInAnotherSpellingIsReplacedByOneInOurs) {
-  sandbox_.Install(100);
-  fs::rename(Behind() + "/.Larkmoor/Larkmoor.app", Behind() + "/.Larkmoor/LARKMOOR.APP");
-  sandbox_.Carry(200);
-  ASSERT_EQ(sandbox_.Launch().status, 0);
-  EXPECT_TRUE(HasBuild(200)) << sandbox_.RawLog();
-  EXPECT_TRUE(fs::exists(Behind() + "/.Larkmoor/Larkmoor.app"));
-  EXPECT_FALSE(fs::exists(Behind() + "/.Larkmoor/LARKMOOR.APP"));
-}
-
-TEST_F(MacVolume, ADamagedPackageGivesTheOldTreeBack) {
-  sandbox_.Install(100);
-  Tree const old = test::ReadTree(sandbox_.App());
-  sandbox_.Carry(200);
-  std::string const package = test::ReadFile(sandbox_.Package());
-  sandbox_.CarryPackage(package.substr(0, package.size() / 2));
-  ASSERT_EQ(sandbox_.Launch().status, 0);
-  EXPECT_EQ(test::ReadTree(sandbox_.App()), old) << sandbox_.RawLog();
-}
-
-TEST_F(MacVolume, OfTwoEntriesThatDifferInCaseTheLaterOneStays) {
-  std::vector<Entry> entries = Sandbox::Client(200);
-  entries.insert(entries.begin() + 3, {Entry::File("Contents/Resources/TWIN", "first"),
-                                       Entry::File("Contents/Resources/twin", "second")});
-  Carry(entries);
-  ASSERT_EQ(sandbox_.Launch().status, 0);
-  EXPECT_EQ(test::ReadFile(sandbox_.App() + "/Contents/Resources/TWIN"), "second");
-  EXPECT_TRUE(fs::exists(Behind() + "/.Larkmoor/Larkmoor.app/Contents/Resources/twin"));
-  EXPECT_FALSE(fs::exists(Behind() + "/.Larkmoor/Larkmoor.app/Contents/Resources/TWIN"));
-}
-
-TEST_F(MacVolume, FSRenameChangesNothingButTheCase) {
-  test::WriteFile(sandbox_.Home() + "/name", "bytes");
-  std::string const home = sandbox_.Home();
-  EXPECT_EQ(FSRename(ustring(home + "/name"), ustring(home + "/NAME"), false), 0);
-  EXPECT_TRUE(fs::exists(Behind() + "/NAME"));
-  EXPECT_FALSE(fs::exists(Behind() + "/name"));
-}
-
-TEST_F(MacVolume, IsItselfBlindToCaseAndNormalFormAndKeepsBoth) {
-  test::WriteFile(sandbox_.Home() +
-                      "/Stra\xC3\x9F"
-                      "e cafe\xCC\x81",
-                  "bytes");
-  EXPECT_EQ(test::ReadFile(sandbox_.Home() + "/STRASSE CAF\xC3\x89"), "bytes");
-  EXPECT_TRUE(fs::exists(Behind() + "/Stra\xC3\x9F"
-                                    "e cafe\xCC\x81"));
-}
-
-TEST_F(MacVolume, TakesNoNameThatIsNotUtf8) {
-  std::string const home = sandbox_.Home();
-  EXPECT_NE(mkdir((home + "/\xFF").c_str(), 0700), 0);
-  EXPECT_EQ(errno, EILSEQ);
-  EXPECT_LT(open((home + "/\xFF").c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600), 0);
-  EXPECT_EQ(errno, EILSEQ);
-  test::WriteFile(home + "/name", "bytes");
-  EXPECT_NE(rename((home + "/name").c_str(), (home + "/\xFF").c_str()), 0);
-  EXPECT_EQ(errno, EILSEQ);
-  EXPECT_EQ(FSRename(ustring(home + "/name"), ustring(home + "/\xFF"), false), -3);
-}
-
-TEST_F(MacVolume, APackageWithANameThatIsNotUtf8GivesTheOldTreeBack) {
-  sandbox_.Install(100);
-  Tree const old = test::ReadTree(sandbox_.App());
-  std::vector<Entry> entries = Sandbox::Client(200);
-  entries.insert(entries.begin() + 3, Entry::File("Contents/Resources/\xFF", "bytes"));
-  Carry(entries);
-  ASSERT_EQ(sandbox_.Launch().status, 0);
-  EXPECT_EQ(test::ReadTree(sandbox_.App()), old) << sandbox_.RawLog();
-  EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp"));
-}
-
-/// How a path below the home is stored, and other spellings that lead to it.
-constexpr char kStored[] = "/Users/\u00C9mile/Stra\u00DFe/Foo";
-constexpr char kDecomposed[] = "/Users/E\u0301mile/Stra\u00DFe/Foo";
-char const* const kInAnotherCase[] = {
-    "/Users/\u00C9mile/Stra\u00DFe/foo", "/users/\u00C9mile/Stra\u00DFe/Foo",
-    "/Users/\u00E9mile/Stra\u00DFe/Foo", "/Users/e\u0301mile/Stra\u00DFe/Foo",
-    "/Users/\u00C9mile/STRASSE/Foo",
-};
-
-TEST_F(MacVolume, IsFileExistWithStrictWantsTheCaseThatTheVolumeKeeps) {
-  std::string const home = sandbox_.Home();
-  test::WriteFile(home + kStored, "bytes");
-  for (char const* const name : {kStored, kDecomposed}) {
-    EXPECT_TRUE(IsFileExist(ustring(home + name), false)) << name;
-    EXPECT_TRUE(IsFileExist(ustring(home + name), true)) << name;
-  }
-  for (char const* const name : kInAnotherCase) {
-    EXPECT_TRUE(IsFileExist(ustring(home + name), false)) << name;
-    EXPECT_FALSE(IsFileExist(ustring(home + name), true)) << name;
-  }
-  EXPECT_FALSE(IsFileExist(ustring(home + "/Users/none"), false));
-}
-
-TEST_F(MacVolume, FSStatWithStrictWantsTheCaseThatTheVolumeKeeps) {
-  std::string const home = sandbox_.Home();
-  test::WriteFile(home + kStored, "bytes");
-  for (char const* const name : kInAnotherCase) {
-    _FILE_INFO_tag info;
-    EXPECT_EQ(FSStat(ustring(home + name), info, true), 0);
-    EXPECT_FALSE(info.exists) << name;
-    EXPECT_EQ(FSStat(ustring(home + name), info, false), 0);
-    EXPECT_TRUE(info.exists) << name;
-  }
-}
-
-TEST_F(MacVolume, PathsAreReportedInTheCaseThatTheVolumeKeeps) {
-  std::string const home = sandbox_.Home();
-  test::WriteFile(home + kStored, "bytes");
-  for (char const* const name : kInAnotherCase) {
-    _FILE_INFO_tag info;
-    EXPECT_EQ(GetFileInfo(ustring(home + name), info), 0);
-    EXPECT_EQ(info.path, ustring(home + kStored));
-    ustring real(home + name);
-    EXPECT_EQ(FSGetRealPath(real), 0);
-    EXPECT_EQ(real, ustring(home + kStored));
-  }
-}
-
-TEST_F(MacVolume, FSRenameWithStrictMissesASourceInAnotherCase) {
-  std::string const home = sandbox_.Home();
-  for (char const* const name : kInAnotherCase) {
-    test::WriteFile(home + kStored, "bytes");
-    EXPECT_EQ(FSRename(ustring(home + name), ustring(home + "/other"), true), -2) << name;
-    EXPECT_TRUE(fs::exists(Behind() + kStored)) << name;
-    EXPECT_EQ(FSRename(ustring(home + name), ustring(home + "/other"), false), 0) << name;
-    EXPECT_FALSE(fs::exists(Behind() + kStored)) << name;
-  }
-}
-
-TEST_F(MacVolume, FSRenameWithStrictMovesWhatIsSpelledAsTheVolumeKeepsIt) {
-  std::string const home = sandbox_.Home();
-  test::WriteFile(home + "/Foo/cafe\xCC\x81", "bytes");
-  EXPECT_EQ(FSRename(ustring(home + "/Foo/caf\xC3\xA9"), ustring(home + "/Foo/Bar"), true), 0);
-  EXPECT_EQ(FSRename(ustring(home + "/Foo"), ustring(home + "/foo"), true), 0);
-  EXPECT_EQ(test::ReadFile(Behind() + "/foo/Bar"), "bytes");
-}
-
-TEST_F(MacVolume, FSRemoveTakesATreeInAnySpelling) {
-  std::string const home = sandbox_.Home();
-  for (char const* const name : {"/Tree/cafe\xCC\x81/file", "/Tree/B/C", "/Tree/\xE0\xA5\x98"}) {
-    test::WriteFile(home + name, "bytes");
-  }
-  EXPECT_EQ(FSRemove(ustring(home + "/TREE/CAF\xC3\x89"), false), 0);
-  EXPECT_FALSE(fs::exists(Behind() + "/Tree/cafe\xCC\x81"));
-  EXPECT_EQ(FSRemove(ustring(home + "/tree"), false), 0);
-  EXPECT_FALSE(fs::exists(Behind() + "/Tree"));
-}
-#endif
 
 }  // namespace

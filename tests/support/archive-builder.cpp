@@ -71,7 +71,7 @@ std::string MakeArchive(std::vector<Entry> const& entries, std::string const& fo
   if (filter != "none") {
     Check(archive_write_add_filter_by_name(writer.get(), filter.c_str()), writer.get());
   }
-  // Padding behind a compressed stream is taken for a damaged one by some filters.
+  // Some filters treat padding after a compressed stream as damage.
   archive_write_set_bytes_in_last_block(writer.get(), 1);
   Check(archive_write_open(writer.get(), &bytes, nullptr, Append, nullptr), writer.get());
   for (Entry const& entry : entries) {

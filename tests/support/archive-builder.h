@@ -5,18 +5,19 @@
 #include <string>
 #include <vector>
 
-/// Packages for tests, made in memory.
+/// Packages for tests, built in memory.
 namespace test {
 
-/// One entry of an archive. Modes are permission bits; 0 takes 0755 for folders, 0644 for the rest.
+/// An entry of an archive. Modes are permission bits; 0 means 0755 for folders and 0644 for the
+/// rest.
 struct Entry {
   enum class Kind { kFile, kFolder, kLink, kHardLink };
 
   static Entry File(std::string path, std::string bytes, mode_t mode = 0644);
   static Entry Folder(std::string path, mode_t mode = 0755);
-  /// A symbolic link that says `target`.
+  /// A symlink to `target`.
   static Entry Link(std::string path, std::string target);
-  /// A hard link to the place that the archive calls `target`.
+  /// A hard link to the entry named `target`.
   static Entry HardLink(std::string path, std::string target);
 
   Kind kind = Kind::kFile;

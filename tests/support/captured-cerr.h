@@ -7,7 +7,7 @@
 
 namespace test {
 
-/// Keeps what is written to std::cerr in this scope.
+/// Captures std::cerr until the end of the scope.
 class CapturedCerr {
  public:
   CapturedCerr() : former_(std::cerr.rdbuf(text_.rdbuf())) {}

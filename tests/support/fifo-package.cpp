@@ -26,7 +26,7 @@ FifoPackage::~FifoPackage() {
 }
 
 int FifoPackage::OpenForWriting() const {
-  // Without a reader an opening that doesn't block fails, so it can be given up in time.
+  // Without a reader, a non-blocking open fails, so the loop can give up in time.
   int fd = -1;
   bool const open_now = WaitUntil([&] {
     fd = open(path_.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
@@ -58,8 +58,8 @@ bool FifoPackage::IsOpenIn(pid_t process) const {
 void FifoPackage::FeedUntilHalfWritten(pid_t launcher) {
   int const counting = OpenForWriting();
   Write(counting, bytes_);
-  // The next writer must not meet the reader of this pass, which reads on until we close. A reader
-  // lets a writer in while its own opening is still under way: only then does it show up.
+  // The next writer must not meet this pass's reader, which reads on until we close. A reader lets
+  // a writer in while its own open is still in progress: only then does it show up.
   bool const began = WaitUntil([&] { return IsOpenIn(launcher); });
   close(counting);
   if (!began || !WaitUntil([&] { return !IsOpenIn(launcher); })) {

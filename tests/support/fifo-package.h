@@ -8,19 +8,19 @@
 
 namespace test {
 
-/// Puts a named pipe in the place of a sandbox's package, so that a test decides how far the
-/// launcher gets: it reads the package once to count, then again to unpack.
+/// Replaces a sandbox's package with a FIFO, so that the test controls how far the launcher gets:
+/// it reads the package once to count, then again to unpack.
 class FifoPackage {
  public:
-  /// Takes over the package that the sandbox carries; it must not be compressed beyond "none" or
-  /// "gzip" of small size.
+  /// Uses the package that the sandbox carries; it must be uncompressed, or compressed with gzip
+  /// and small.
   explicit FifoPackage(Sandbox& box);
   ~FifoPackage();
   FifoPackage(FifoPackage const&) = delete;
   FifoPackage& operator=(FifoPackage const&) = delete;
 
-  /// Feeds the counting pass in full and half of the unpacking pass to this process, which then
-  /// waits in the middle of its work.
+  /// Feeds this process the whole counting pass and half of the unpacking pass. It then blocks in
+  /// the middle of its work.
   void FeedUntilHalfWritten(pid_t launcher);
   void FeedTheRest();
 

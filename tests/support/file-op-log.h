@@ -10,8 +10,8 @@
 
 namespace test {
 
-/// Collects what the file operations log, all levels, for as long as it lives. Each record has to
-/// be logged with the level of its tag.
+/// Captures the log of the file operations, at all levels, until the end of the scope. The level of
+/// each record must match its tag.
 class FileOpLog {
  public:
   FileOpLog() {
@@ -24,7 +24,7 @@ class FileOpLog {
   FileOpLog(FileOpLog const&) = delete;
   FileOpLog& operator=(FileOpLog const&) = delete;
 
-  /// The lines without stamp, and with # for the source line's number.
+  /// The lines without time stamp, with # for the line number.
   std::vector<std::string> Lines() const {
     std::vector<std::string> lines;
     std::istringstream text(ReadFile(folder_ / "log"));
@@ -38,7 +38,7 @@ class FileOpLog {
     return lines;
   }
 
-  /// The same without the debug lines, which accompany every look at a file.
+  /// The same without debug lines, which every stat of a file writes.
   std::vector<std::string> Messages() const {
     std::vector<std::string> messages;
     for (std::string const& line : Lines()) {

@@ -1,12 +1,15 @@
 #include "support/files.h"
 
 #include <stdlib.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
+#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <ostream>
@@ -45,8 +48,8 @@ TempDir::TempDir() {
 }
 
 TempDir::~TempDir() {
-  // A process that a test has started and not waited for may still add to a folder that has just
-  // been emptied.
+  // A process that a test didn't wait for may still add files to a folder that has just been
+  // emptied.
   auto const end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
   std::error_code error;
   do {
@@ -54,6 +57,31 @@ TempDir::~TempDir() {
     fs::remove_all(path_, error);
   } while (error == std::errc::directory_not_empty && std::chrono::steady_clock::now() < end);
   if (error) std::fprintf(stderr, "%s stays behind: %s\n", path_.c_str(), error.message().c_str());
+}
+
+WorkingFolder::WorkingFolder(fs::path const& path) : former_(fs::current_path()) {
+  fs::current_path(path);
+}
+
+WorkingFolder::~WorkingFolder() { fs::current_path(former_); }
+
+Umask::Umask(mode_t mask) : former_(umask(mask)) {}
+
+Umask::~Umask() { umask(former_); }
+
+unsigned ModeOf(fs::path const& path) {
+  return static_cast<unsigned>(fs::symlink_status(path).permissions() & fs::perms::mask);
+}
+
+void MakeSocket(std::string const& path) {
+  sockaddr_un address = {};
+  address.sun_family = AF_UNIX;
+  if (path.size() >= sizeof(address.sun_path)) throw std::runtime_error("too long: " + path);
+  std::strcpy(address.sun_path, path.c_str());
+  int const number = socket(AF_UNIX, SOCK_STREAM, 0);
+  int const result = bind(number, reinterpret_cast<sockaddr const*>(&address), sizeof(address));
+  close(number);
+  if (result != 0) throw std::runtime_error("cannot make the socket " + path);
 }
 
 void PreferMemory() {

@@ -31,7 +31,7 @@ LevelCheck::~LevelCheck() { --checks_alive; }
 
 }  // namespace test
 
-// The linker (--wrap) sends the calls of Logger::LogMsg here.
+// The linker (--wrap) redirects calls of Logger::LogMsg here.
 extern "C" void __wrap__ZN6Logger6LogMsgENS_5LevelERK7ustringPKcz(Logger::Level level,
                                                                   ustring const& component,
                                                                   char const* format, ...)

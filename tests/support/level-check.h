@@ -2,10 +2,9 @@
 
 namespace test {
 
-/// While one of these lives, a record whose format begins with the tag of another level than the
-/// one that it is logged with fails the test: a captured record passes at its tag's number and not
-/// one below. Belongs to whatever captures records with all thresholds at 7, where any level
-/// passes. Does nothing on macOS, where the linker can't hand the calls over.
+/// While an object exists, a record whose level differs from its tag fails the test. Used wherever
+/// records are captured with all thresholds at 7, where a wrong level would go unnoticed. Does
+/// nothing on macOS, whose linker can't redirect the calls.
 class LevelCheck {
  public:
   LevelCheck();

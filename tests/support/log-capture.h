@@ -8,8 +8,8 @@
 
 namespace test {
 
-/// Sends the log, with every component at 7, to a file of its own for as long as it lives. Each
-/// record has to be logged with the level of its tag.
+/// Captures the log, with every component at 7, until the end of the scope. The level of each
+/// record must match its tag.
 class LogCapture {
  public:
   LogCapture();
@@ -17,9 +17,9 @@ class LogCapture {
   LogCapture(LogCapture const&) = delete;
   LogCapture& operator=(LogCapture const&) = delete;
 
-  /// What was logged so far, normalised as Sandbox::Log() says.
+  /// The log so far, normalised like Sandbox::Log().
   std::vector<std::string> Lines() const;
-  /// The same without the lines of the file operations, which accompany everything.
+  /// The same without the lines of the file operations.
   std::vector<std::string> OwnLines() const;
 
  private:

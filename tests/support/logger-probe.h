@@ -5,9 +5,9 @@
 
 #include "foundation/logger.h"
 
-/// The data of the Logger as the tests see it.
+/// The private data of the Logger, for tests.
 struct LoggerProbe {
-  /// Puts every member back to its value at the start of the process. An open log file is closed.
+  /// Resets every member to its value at process start. Closes an open log file.
   static void Restart() {
     FILE* const stream = Logger::log_fp;
     if (stream != nullptr && stream != stdout && stream != stderr) std::fclose(stream);

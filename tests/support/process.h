@@ -8,18 +8,18 @@
 #include <string>
 #include <vector>
 
-/// Real processes for tests. Nothing here outlives its test: what still runs is killed.
+/// Processes for tests. None outlives its test: those still running are killed.
 namespace test {
 
-/// How long anything may take before a test gives up on it.
+/// The deadline of everything a test waits for.
 constexpr std::chrono::seconds kDeadline{60};
 
-/// Polls until `condition` holds. False when the deadline passed first.
+/// Polls until `condition` holds. Returns false at the deadline.
 bool WaitUntil(std::function<bool()> const& condition, std::chrono::milliseconds limit = kDeadline);
 
-/// What became of a process.
+/// How a process ended.
 struct Outcome {
-  int status = -1;  ///< exit status, or -1 when a signal ended it
+  int status = -1;  ///< exit status, or -1 if a signal ended it
   int signal = 0;   ///< the signal that ended it, or 0
   long peak_kib = 0;
   double cpu_seconds = 0;
@@ -27,15 +27,15 @@ struct Outcome {
   std::string err;
 };
 
-/// A child process with its output captured to files.
+/// A child process with its output captured in files.
 class Process {
  public:
   struct Options {
-    std::vector<std::string> arguments;              ///< argv, the name it is told included
-    std::map<std::string, std::string> environment;  ///< set on top of our own
-    std::string program;                             ///< path to run; arguments[0] when empty
-    std::string folder;                              ///< working folder; ours when empty
-    bool own_group = false;                          ///< leads a process group of its own
+    std::vector<std::string> arguments;              ///< argv, including argv[0]
+    std::map<std::string, std::string> environment;  ///< added to ours
+    std::string program;                             ///< path to run; arguments[0] if empty
+    std::string folder;                              ///< working folder; ours if empty
+    bool own_group = false;                          ///< leads its own process group
   };
 
   explicit Process(Options options);
@@ -45,11 +45,11 @@ class Process {
 
   pid_t pid() const { return pid_; }
   void Signal(int number) const;
-  /// Whether it still runs. A zombie does not.
+  /// Whether it is running. A zombie isn't.
   bool Running();
-  /// What it has written to standard output so far.
+  /// Its standard output so far.
   std::string Output() const;
-  /// Waits for its end and reaps it. Throws, after killing it, when the deadline passes first.
+  /// Waits until it ends and reaps it. At the deadline, kills it and throws.
   Outcome Wait(std::chrono::milliseconds limit = kDeadline);
 
  private:
@@ -62,7 +62,7 @@ class Process {
   std::string err_path_;
 };
 
-/// Runs to the end.
+/// Spawns a process and waits for it.
 Outcome Run(Process::Options options);
 
 }  // namespace test

@@ -20,7 +20,7 @@ std::string VersionFile(int build) {
          "\nicon_overlay_version=12\n";
 }
 
-/// Says which build was started, and how, then ends.
+/// Records which build was started, and how, then ends.
 std::string ClientScript(int build) {
   return "#!/bin/sh\n"
          "# build " +
@@ -85,7 +85,7 @@ Sandbox::Sandbox(std::string launcher, std::string home) : home_(std::move(home)
   fs::create_directories(macos);
   fs::create_directories(Bundle() + "/Contents/Resources");
   fs::copy_file(launcher, macos + "/launcher");
-  // The bundle's own plug-ins are all that the launcher looks at.
+  // The launcher loads plug-ins only from the bundle.
   std::string const platforms = Bundle() + "/Contents/Frameworks/plugins/platforms";
   fs::create_directories(platforms);
   for (char const* plugin : {"libqoffscreen.so", "libqxcb.so", "libqminimal.so"}) {
@@ -126,7 +126,7 @@ void Sandbox::CarryVersion(int build) {
 }
 
 void Sandbox::CarryPackage(std::string const& bytes) {
-  // A new file and not the old one cut and filled again, which ext4 would bring to the disk.
+  // A new file instead of a truncated one, which ext4 would flush to disk.
   fs::remove(Package());
   WriteFile(Package(), bytes);
 }

@@ -1,7 +1,6 @@
 #include "support/ustring-model.h"
 
 #include <cstddef>
-#include <cstdint>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -10,177 +9,23 @@
 
 #include "foundation/ustring.h"
 #include "support/captured-cerr.h"
+#include "support/script.h"
 #include "support/ustring-probe.h"
+#include "support/ustring-reference.h"
 
 namespace test {
 namespace {
 
-constexpr unsigned long kAll = ustring::npos;
-
-using Wide = std::u16string;
-
-std::string UpToNul(std::string const& s) { return s.substr(0, s.find('\0')); }
-Wide UpToNul(Wide const& s) { return s.substr(0, s.find(u'\0')); }
-
-/// The text as ustring takes it, with its end.
+/// UTF-16 as ustring takes it, with a terminator.
 std::vector<unsigned short> Terminated(Wide const& s) {
   return {s.c_str(), s.c_str() + s.size() + 1};
 }
 
-/// Whether a text that ustring gives is this one.
+/// Whether UTF-16 from ustring equals a string.
 bool IsSame(unsigned short const* units, Wide const& s) {
   Wide copy;
   for (; *units != 0; ++units) copy += static_cast<char16_t>(*units);
   return copy == s;
-}
-
-// ---- the two encodings, by the book ----
-
-bool IsContinuation(std::string const& s, size_t at) {
-  return at < s.size() && (static_cast<unsigned char>(s[at]) & 0xC0) == 0x80;
-}
-
-/// One character of UTF-8; false when there is none at that place.
-bool Decode(std::string const& s, size_t& at, uint32_t& c) {
-  auto const lead = static_cast<unsigned char>(s[at]);
-  size_t const more = lead < 0x80 ? 0 : lead < 0xC2 ? 9 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
-  if (more == 9 || lead > 0xF4) return false;
-  c = more == 0 ? lead : lead & (0x3FU >> more);
-  for (size_t i = 1; i <= more; ++i) {
-    if (!IsContinuation(s, at + i)) return false;
-    c = c << 6 | (static_cast<unsigned char>(s[at + i]) & 0x3FU);
-  }
-  constexpr uint32_t kLeast[] = {0, 0x80, 0x800, 0x10000};
-  if (c < kLeast[more] || c > 0x10FFFF || (c >= 0xD800 && c < 0xE000)) return false;
-  at += more + 1;
-  return true;
-}
-
-bool ToWide(std::string const& s, Wide& out) {
-  out.clear();
-  for (size_t at = 0; at < s.size();) {
-    uint32_t c = 0;
-    if (!Decode(s, at, c)) return false;
-    if (c >= 0x10000) {
-      out += static_cast<char16_t>(0xD7C0 + (c >> 10));
-      c = 0xDC00 | (c & 0x3FF);
-    }
-    out += static_cast<char16_t>(c);
-  }
-  return true;
-}
-
-void Encode(uint32_t c, std::string& out) {
-  int const more = c < 0x80 ? 0 : c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
-  constexpr uint32_t kLead[] = {0, 0xC0, 0xE0, 0xF0};
-  out += static_cast<char>(kLead[more] | c >> (6 * more));
-  for (int i = more - 1; i >= 0; --i) out += static_cast<char>(0x80 | ((c >> (6 * i)) & 0x3F));
-}
-
-bool ToNarrow(Wide const& s, std::string& out) {
-  out.clear();
-  for (size_t at = 0; at < s.size(); ++at) {
-    uint32_t c = s[at];
-    if (c >= 0xDC00 && c < 0xE000) return false;
-    if (c >= 0xD800 && c < 0xDC00) {
-      if (++at == s.size() || s[at] < 0xDC00 || s[at] >= 0xE000) return false;
-      c = 0x10000 + ((c - 0xD800) << 10) + (s[at] - 0xDC00U);
-    }
-    Encode(c, out);
-  }
-  return true;
-}
-
-// ---- the model ----
-
-unsigned long Refit(unsigned long capacity, size_t needed) {
-  return capacity < needed || capacity / 2 > needed ? needed : capacity;
-}
-
-struct Model {
-  std::string text;
-  Wide wide;
-  unsigned long capacity = 4;
-  unsigned long wide_capacity = 4;
-  long warnings = 0;
-
-  Model() = default;
-  explicit Model(std::string const& s) { Append(s); }
-
-  void Clear() {
-    text.clear();
-    wide.clear();
-  }
-  void Append(std::string const& s) {
-    text += UpToNul(s);
-    capacity = Refit(capacity, text.size() + 1);
-    wide.clear();
-  }
-  void Assign(std::string const& s) {
-    Clear();
-    Append(s);
-  }
-  void Truncate(unsigned long n) {
-    if (n >= text.size()) return;
-    text.resize(n);
-    wide.clear();
-  }
-  void FillWide() {
-    Wide converted;
-    bool const valid = ToWide(text, converted);
-    if (!valid) ++warnings;
-    wide = valid ? converted : Wide();
-    wide_capacity = Refit(wide_capacity, wide.size() + 1);
-  }
-  void FillWideIfEmpty() {
-    if (wide.empty()) FillWide();
-  }
-  void FillText() {
-    std::string converted;
-    bool const valid = ToNarrow(wide, converted);
-    if (!valid) ++warnings;
-    capacity = Refit(capacity, valid ? converted.size() + 1 : 1);
-    text = valid ? converted : std::string();
-    if (!valid) wide.clear();
-  }
-  void BeginWideAppend() {
-    if (wide.empty() && !text.empty()) FillWide();
-  }
-  void AppendWide(Wide const& s) {
-    BeginWideAppend();
-    AppendUnits(s);
-  }
-  void AppendUnits(Wide const& s) {
-    wide += UpToNul(s);
-    wide_capacity = Refit(wide_capacity, wide.size() + 1);
-    FillText();
-  }
-  void AssignWide(Wide const& s) {
-    Clear();
-    AppendWide(s);
-  }
-};
-
-enum Search { kFind, kFindFirstOf, kFindFirstNotOf, kRfind, kFindLastOf, kFindLastNotOf };
-
-bool Matches(Search search, std::string const& text, size_t at, std::string const& pattern) {
-  if (search == kFind || search == kRfind) return text.substr(at, pattern.size()) == pattern;
-  bool const in_set = pattern.find(text[at]) != std::string::npos;
-  return in_set == (search == kFindFirstOf || search == kFindLastOf);
-}
-
-unsigned long ModelSearch(Search search, std::string const& text, std::string const& pattern,
-                          unsigned long pos) {
-  if (search <= kFindFirstNotOf) {
-    for (size_t at = pos; at < text.size(); ++at) {
-      if (Matches(search, text, at, pattern)) return at;
-    }
-    return kAll;
-  }
-  for (size_t at = text.size(); at-- > 0;) {
-    if (at <= pos && Matches(search, text, at, pattern)) return at;
-  }
-  return kAll;
 }
 
 template <class Pattern>
@@ -200,62 +45,6 @@ unsigned long RealSearch(Search search, ustring const& s, Pattern const& p, unsi
       return s.find_last_not_of(p, pos);
   }
 }
-
-std::string Folded(std::string s) {
-  for (char& c : s) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 32);
-  }
-  return s;
-}
-
-int ModelCompare(std::string const& a, std::string const& b) {
-  for (size_t i = 0; i < a.size() || i < b.size(); ++i) {
-    int const left = i < a.size() ? static_cast<unsigned char>(a[i]) : 0;
-    int const right = i < b.size() ? static_cast<unsigned char>(b[i]) : 0;
-    if (left != right) return left - right;
-  }
-  return 0;
-}
-
-// ---- the script ----
-
-class Script {
- public:
-  explicit Script(std::string const& bytes) : bytes_(bytes) {}
-
-  bool AtEnd() const { return at_ >= bytes_.size(); }
-  unsigned Byte() { return AtEnd() ? 0 : static_cast<unsigned char>(bytes_[at_++]); }
-  char Char() { return static_cast<char>(Byte()); }
-  char CharButNul() {
-    char const c = Char();
-    return c == '\0' ? 'x' : c;
-  }
-  std::string Bytes() {
-    std::string s(Byte() % 24, '\0');
-    for (char& c : s) c = Char();
-    return s;
-  }
-  Wide Units() {
-    Wide s(Byte() % 8, 0);
-    for (char16_t& c : s) c = Unit();
-    return s;
-  }
-  unsigned short Unit() {
-    unsigned const first = Byte();
-    return static_cast<unsigned short>(first < 0xD0 ? first : first << 8 | Byte());
-  }
-  /// A place in, at the end of, or just behind a text.
-  unsigned long Position(size_t length) {
-    unsigned const byte = Byte();
-    return byte == 255 ? kAll : byte % (length + 3);
-  }
-
- private:
-  std::string const& bytes_;
-  size_t at_ = 0;
-};
-
-// ---- the comparison ----
 
 class Comparison {
  public:
@@ -328,7 +117,7 @@ class Comparison {
     Expect(UstringProbe::WideLength(real) == model.wide.size(), "wide length");
   }
 
-  /// Whether the call threw as a position behind the end has to.
+  /// Whether the call threw the documented std::out_of_range.
   template <class Call>
   bool Throws(char const* text, Call const& call) {
     try {
@@ -623,7 +412,7 @@ class Comparison {
   void Normalize() {
     auto const form = script_.Byte() % 2 == 0 ? ustring::NFC : ustring::NFD;
     if (!model_.text.empty()) {
-      // The second pass tries again when the first conversion has left nothing.
+      // normalize() converts again if the first conversion returned nothing.
       model_.FillWideIfEmpty();
       model_.FillWideIfEmpty();
     }

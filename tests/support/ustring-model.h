@@ -4,9 +4,9 @@
 
 namespace test {
 
-/// Carries out a script on a ustring and on a plain model of one, written without a look at speed,
-/// and compares them after each step: text, UTF-16 copy, capacities, results, thrown errors and
-/// the number of warnings. Any bytes make a script. Returns what differed, empty if nothing did.
+/// Runs a script on a ustring and on a simple model of it, and compares them after each step:
+/// bytes, UTF-16 copy, capacities, results, exceptions and the number of warnings. Any bytes are a
+/// valid script. Returns the difference, or an empty string.
 std::string CompareUstringWithModel(std::string const& script);
 
 }  // namespace test

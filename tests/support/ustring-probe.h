@@ -2,12 +2,12 @@
 
 #include "foundation/ustring.h"
 
-/// What a ustring keeps to itself and tests have to see.
+/// The private data of a ustring, for tests.
 struct UstringProbe {
   static unsigned long DataCapacity(ustring const& s) { return s.data_capacity; }
   static unsigned long WideCapacity(ustring const& s) { return s.wdata_capacity; }
   static unsigned long WideLength(ustring const& s) { return s.wdata_length; }
-  /// The UTF-16 copy as it stands; c_str_utf16() would make it.
+  /// The UTF-16 copy as it is; c_str_utf16() would make it.
   static unsigned short const* Wide(ustring const& s) { return s.wdata; }
   static int ConvertFromData(ustring const& s) { return s.convert_from_data(); }
   static int ConvertFromWide(ustring& s) { return s.convert_from_wdata(); }

@@ -17,7 +17,7 @@ VolumeFlushes::~VolumeFlushes() { taken_over = nullptr; }
 
 }  // namespace test
 
-// The program's own comes before that of the library.
+// The program's own definition comes before the library's.
 int platform::FlushVolume(char const* path) {
   if (taken_over == nullptr) return 0;
   if (taken_over->seen) taken_over->seen(path);

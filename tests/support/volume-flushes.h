@@ -5,8 +5,8 @@
 
 namespace test {
 
-/// Stands in for platform::FlushVolume in a program that is linked with volume-flushes.cpp: flushes
-/// nothing and tells a test where it would have. One object at a time.
+/// A stub for platform::FlushVolume in programs that link volume-flushes.cpp: doesn't flush, but
+/// reports each call to the test. One object at a time.
 struct VolumeFlushes {
   VolumeFlushes();
   ~VolumeFlushes();

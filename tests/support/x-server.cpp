@@ -8,8 +8,8 @@ bool XServer::IsInstalled() {
   return Run({{"sh", "-c", "command -v Xvfb"}, {}, "", "", false}).status == 0;
 }
 
-// The server picks a free number and says it once it is ready. An abstract socket does, and leaves
-// no folder in /tmp.
+// The server picks a free number and prints it once it is ready. An abstract socket leaves no
+// folder in /tmp.
 XServer::XServer()
     : process_(
           {{"sh", "-c", "exec Xvfb -displayfd 1 -screen 0 800x600x24 -nolisten tcp -nolisten unix"},

@@ -6,14 +6,14 @@
 
 namespace test {
 
-/// An X server of a test's own, with nobody else on it.
+/// A private X server.
 class XServer {
  public:
   static bool IsInstalled();
-  /// Starts it and waits until it takes connections.
+  /// Starts it and waits until it accepts connections.
   XServer();
 
-  /// What DISPLAY has to say.
+  /// The value for DISPLAY.
   std::string const& Display() const { return display_; }
 
  private:

@@ -1,4 +1,4 @@
-// Sends a window what a window manager sends when the user presses its close button.
+// Sends a window the message of its close button.
 //
 //     close-window WINDOW_NUMBER
 #include <X11/Xlib.h>

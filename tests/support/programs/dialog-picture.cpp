@@ -1,7 +1,7 @@
-// dialog-picture FOLDER: shows the launcher's dialog in the language of the locale, halfway through
-// an installation, and writes FOLDER/NAME.png, NAME being the catalogue's. The picture has the
-// window with its frame below the language's own name for itself. Needs a display with a window
-// manager and nothing else on it.
+// dialog-picture FOLDER: shows the launcher's dialog in the language of the locale, in the middle
+// of an installation, and writes FOLDER/NAME.png, where NAME is the catalogue's. The picture shows
+// the language's own name above the window and its frame. Needs a display with a window manager and
+// nothing else on it.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QPainter>
@@ -22,8 +22,8 @@ constexpr int kDeadline = 30000;   // milliseconds
 constexpr int kSteadyPause = 200;  // milliseconds
 constexpr int kMissesToShowAnew = 10;
 
-/// The window as it stands on the screen, once the manager has framed it and both have stopped
-/// painting. Null at the deadline, naming what was missing.
+/// The window on the screen, once the window manager has framed it and neither of them paints any
+/// more. Null at the deadline, after printing what was missing.
 QPixmap GrabFramed(QWidget& window) {
   QElapsedTimer clock;
   clock.start();
@@ -34,8 +34,8 @@ QPixmap GrabFramed(QWidget& window) {
     QThread::msleep(kSteadyPause);
     QRect const frame = window.frameGeometry();
     if (frame == window.geometry() || !window.isActiveWindow()) {
-      // Windows that come right one after another can go without the focus, and the toolkit can
-      // miss the news of the frame: both are settled anew for a window that is shown anew.
+      // Windows that follow each other quickly may not get the focus, and Qt may miss the event of
+      // the frame: showing the window again fixes both.
       if (++misses % kMissesToShowAnew == 0) {
         window.hide();
         window.show();

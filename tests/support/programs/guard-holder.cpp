@@ -1,5 +1,5 @@
-// Asks the guard twice, or once when there is an argument, and says the answer. The first instance
-// then holds it until its input ends or it is killed.
+// Queries the guard twice, or once with an argument, and prints the answer. The first instance then
+// holds it until its input ends or it is killed.
 #include <cstdio>
 
 #include "platform/qtsingleapplication.h"

@@ -1,4 +1,4 @@
-// A window manager that lets no window appear. Prints a line once it manages the display.
+// A window manager that maps no window. Prints a line once it manages the display.
 #include <X11/Xlib.h>
 
 #include <cstdio>

@@ -1,5 +1,5 @@
-// Logs before the first constructor of a static object and after the last destructor. This file
-// knows nothing of the logger's header, which would bring its own order of construction.
+// Logs before the first static constructor and after the last static destructor. This file must not
+// include the logger's header, which would change the order of construction.
 
 #include "support/programs/log-outside-main.h"
 

@@ -1,3 +1,3 @@
-// Takes the place of the compiled-in resource "texts": there is none.
+// Replaces the compiled-in resource "texts" with an empty one.
 int qInitResources_texts();
 int qInitResources_texts() { return 1; }

@@ -1,12 +1,12 @@
-// Linked into a launcher: writes what its dialog really does on the screen, a line for each event,
-// to the file that LARKMOOR_TEST_WITNESS names.
+// Linked into a launcher: records what its dialog does on the screen, one line per event, in the
+// file that LARKMOOR_TEST_WITNESS names.
 //
 //   show          the dialog is about to be shown
-//   paint V T     its label gets a paint event, with the text T, while the bar stands at V
-//   hide S        it is about to be hidden; S says what the screen has in its place: "shown" when
-//                 that is the dialog as it would paint itself now, "stale" when it isn't
+//   paint V T     its label, with text T, gets a paint event while the progress is V
+//   hide S        it is about to be hidden; S tells what the screen shows: "shown" if it is the
+//                 dialog as it would paint itself now, "stale" if it isn't
 //
-// Where LARKMOOR_TEST_WITNESS_PICTURE names a file, the screen at that last moment goes there.
+// If LARKMOOR_TEST_WITNESS_PICTURE names a file, the screen at the last event is saved there.
 #include <dlfcn.h>
 
 #include <QApplication>
@@ -30,7 +30,7 @@ void Write(std::string const& line) {
   fclose(file);
 }
 
-/// Sees every event of the main thread before its receiver does.
+/// Sees every event of the main thread before its receiver.
 class Witness : public QObject {
  public:
   bool eventFilter(QObject* object, QEvent* event) override {
@@ -42,7 +42,7 @@ class Witness : public QObject {
     return false;
   }
 
-  /// What the screen has where the dialog stands, against the dialog painted anew.
+  /// Compares the screen with the dialog as it would paint itself now.
   bool ShowsOnScreen(QWidget& dialog) {
     QRect const place = dialog.geometry();
     QPixmap const screen =
@@ -69,7 +69,7 @@ Q_COREAPP_STARTUP_FUNCTION(Begin)
 
 }  // namespace
 
-// Takes the place of the toolkit's own, which it calls: hide() has no event that comes before it.
+// Replaces Qt's own, and calls it: no event precedes hide().
 void QDialog::setVisible(bool visible) {
   using Original = void (*)(QDialog*, bool);
   static auto const original =

@@ -1,4 +1,4 @@
-// A sync client without a window: writes its pid file, then waits to be told to end.
+// A fake client without a window: writes its pid file, then waits for SIGTERM.
 //
 //     test-client PID_FILE obey|ignore
 #include <signal.h>

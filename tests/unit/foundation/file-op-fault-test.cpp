@@ -1,19 +1,12 @@
-// The branches that a healthy file system doesn't take.
+// Branches that a healthy file system doesn't reach.
 
 #include <gmock/gmock.h>
 #include <linux/magic.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
-#include <cstdlib>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <string>
-#include <vector>
 
 #include "foundation/file-op.h"
 #include "support/file-op-log.h"
@@ -21,6 +14,7 @@
 #include "system-calls.h"
 
 namespace fs = std::filesystem;
+using test::FailWith;
 using test::FileOpLog;
 using test::ReadFile;
 using test::ReadTree;
@@ -32,39 +26,32 @@ using ::testing::IsEmpty;
 
 namespace {
 
-constexpr std::size_t kCopyBlock = 33554432;
-
-int FailWith(int code) {
-  errno = code;
-  return -1;
-}
-
-/// Makes every rename one across volumes.
-void TakeVolumesForDifferent(SystemCalls& calls) {
+/// Makes every rename cross volumes.
+void MakeRenamesCrossVolumes(SystemCalls& calls) {
   calls.rename = [](char const*, char const*) { return FailWith(EXDEV); };
 }
 
-/// Lets a listing fail in place of its entry number `at`.
+/// Makes reading a folder fail at entry number `at`.
 void BreakListing(SystemCalls& calls, int at) {
   calls.readdir_r = [at, count = 0](DIR* dir, dirent* buffer, dirent** entry) mutable {
     return count++ == at ? EIO : test::LibraryReadDir(dir, buffer, entry);
   };
 }
 
-/// The result of `look` on a volume of a given type.
-bool OnVolume(unsigned long type, bool (*look)(ustring const&)) {
+/// The result of `query` on a volume of a given type.
+bool OnVolume(unsigned long type, bool (*query)(ustring const&)) {
   SystemCalls calls;
   calls.statfs = [type](char const*, struct statfs* info) {
     *info = {};
     info->f_type = static_cast<decltype(info->f_type)>(type);
     return 0;
   };
-  return look("/any");
+  return query("/any");
 }
 
 }  // namespace
 
-TEST(GetFileInfoFault, FailsForAnObjectOfNoKnownType) {
+TEST(GetFileInfoFault, FailsForAFileOfUnknownType) {
   TempDir folder;
   WriteFile(folder / "file", "12345");
   SystemCalls calls;
@@ -91,23 +78,23 @@ TEST(GetFileInfoFault, SignExtendsTheDeviceNumberFrom32Bits) {
   EXPECT_EQ(info.dev, -2);
 }
 
-TEST(IsFileExistFault, AsksTheSystemNothingForAnEmptyPath) {
+TEST(IsFileExistFault, MakesNoSystemCallForAnEmptyPath) {
   SystemCalls calls;
-  int looks = 0;
-  calls.lstat = [&looks](char const* path, struct stat* info) {
-    ++looks;
+  int stats = 0;
+  calls.lstat = [&stats](char const* path, struct stat* info) {
+    ++stats;
     return test::LibraryLstat(path, info);
   };
   EXPECT_FALSE(IsFileExist("", false));
   EXPECT_FALSE(IsFileExist("", true));
-  EXPECT_EQ(looks, 0);
+  EXPECT_EQ(stats, 0);
   EXPECT_TRUE(IsFileExist("/", false));
-  EXPECT_EQ(looks, 1);
+  EXPECT_EQ(stats, 1);
 }
 
-TEST(FSStatFault, TellsALookThatFailsTheSecondTime) {
+TEST(FSStatFault, ReportsAnErrorOfTheSecondStat) {
   TempDir folder;
-  WriteFile(folder / "Kelvin", "");  // a name that has other spellings, which are no way around
+  WriteFile(folder / "Kelvin", "");  // has other spellings, which must not hide the error
   SystemCalls calls;
   calls.lstat = [count = 0](char const* path, struct stat* info) mutable {
     return count++ == 1 ? FailWith(EIO) : test::LibraryLstat(path, info);
@@ -116,7 +103,7 @@ TEST(FSStatFault, TellsALookThatFailsTheSecondTime) {
   EXPECT_EQ(FSStat(folder / "Kelvin", info, false), -2);
 }
 
-TEST(FSReadDirFault, LogsAListingThatBreaksOff) {
+TEST(FSReadDirFault, LogsAReadError) {
   TempDir folder;
   FileOpLog const log;
   DIR_HANDLE handle;
@@ -132,7 +119,7 @@ TEST(FSReadDirFault, LogsAListingThatBreaksOff) {
                                        folder.path().string() + "'. " + strerror(EIO)));
 }
 
-TEST(FSReadDirFault, LogsAnEntryWhoseDetailsCannotBeHad) {
+TEST(FSReadDirFault, LogsAnEntryThatCannotBeStatted) {
   TempDir folder;
   WriteFile(folder / "file", "");
   FileOpLog const log;
@@ -160,7 +147,7 @@ TEST(FSReadDirFault, LogsAnEntryWhoseDetailsCannotBeHad) {
                           folder / "file" + "'"));
 }
 
-TEST(FSReadDirFault, GivesNoTypeForAnEntryOfAnotherKind) {
+TEST(FSReadDirFault, ReturnsNoTypeForAnEntryOfAnotherKind) {
   TempDir folder;
   DIR_HANDLE handle;
   ASSERT_EQ(FSOpenDir(folder.path().c_str(), 0, handle), 0);
@@ -183,7 +170,7 @@ TEST(FSReadDirFault, GivesNoTypeForAnEntryOfAnotherKind) {
   FSCloseDir(handle);
 }
 
-TEST(IsMountPointFault, IsTrueForNetworkVolumesAlone) {
+TEST(IsMountPointFault, IsTrueOnlyForNetworkVolumes) {
   EXPECT_TRUE(OnVolume(NFS_SUPER_MAGIC, isMountPoint));
   EXPECT_TRUE(OnVolume(SMB_SUPER_MAGIC, isMountPoint));
   EXPECT_TRUE(OnVolume(CIFS_SUPER_MAGIC, isMountPoint));
@@ -195,7 +182,7 @@ TEST(IsMountPointFault, IsTrueForNetworkVolumesAlone) {
 
 TEST(IsMountPointFault, IsFalseForALocalMountPoint) { EXPECT_FALSE(isMountPoint("/proc")); }
 
-TEST(IsMountPointFault, IsFalseAndLoggedWhenTheVolumeCannotBeAsked) {
+TEST(IsMountPointFault, IsFalseAndLoggedWhenStatfsFails) {
   TempDir folder;
   FileOpLog const log;
   EXPECT_FALSE(isMountPoint(folder / "none"));
@@ -218,7 +205,7 @@ TEST(IsMSDOSFault, IsFalseForOtherVolumes) {
   EXPECT_THAT(log.Lines(), IsEmpty());
 }
 
-TEST(IsMSDOSFault, IsFalseAndLoggedUnderAnotherNameWhenTheVolumeCannotBeAsked) {
+TEST(IsMSDOSFault, IsFalseAndLoggedUnderAnotherNameWhenStatfsFails) {
   TempDir folder;
   FileOpLog const log;
   EXPECT_FALSE(IsMSDOS(folder / "none"));
@@ -228,192 +215,24 @@ TEST(IsMSDOSFault, IsFalseAndLoggedUnderAnotherNameWhenTheVolumeCannotBeAsked) {
                   folder / "none" + "'. " + strerror(ENOENT)));
 }
 
-TEST(FSCopyFault, ReadsAFileOfExactlyOneBlockInTwoCalls) {
-  TempDir folder;
-  WriteFile(folder / "source", std::string(kCopyBlock, 'x'));
-  SystemCalls calls;
-  std::vector<std::size_t> asked;
-  std::vector<ssize_t> got;
-  calls.read = [&](int file, void* bytes, std::size_t count) {
-    asked.push_back(count);
-    got.push_back(test::LibraryRead(file, bytes, count));
-    return got.back();
-  };
-  EXPECT_EQ(FSCopy(folder / "source", folder / "target", false), 0);
-  calls.read = nullptr;
-  EXPECT_THAT(asked, ElementsAre(kCopyBlock, kCopyBlock));
-  EXPECT_THAT(got, ElementsAre(static_cast<ssize_t>(kCopyBlock), 0));
-  EXPECT_EQ(fs::file_size(folder / "target"), kCopyBlock);
-}
-
-TEST(FSCopyFault, ReadsAnEmptyFileOnceAndMakesAnEmptyTarget) {
-  TempDir folder;
-  WriteFile(folder / "source", "");
-  SystemCalls calls;
-  int reads = 0;
-  calls.read = [&](int file, void* bytes, std::size_t count) {
-    ++reads;
-    return test::LibraryRead(file, bytes, count);
-  };
-  EXPECT_EQ(FSCopy(folder / "source", folder / "target", false), 0);
-  calls.read = nullptr;
-  EXPECT_EQ(reads, 1);
-  EXPECT_EQ(fs::file_size(folder / "target"), 0U);
-}
-
-TEST(FSCopyFault, ClosesTheSourceThenSyncsAndClosesTheTargetThenFreesTheBuffer) {
-  TempDir folder;
-  for (bool const is_refused : {false, true}) {
-    for (bool const remove_source : {false, true}) {
-      WriteFile(folder / "source", "bytes");
-      std::vector<std::string> steps;
-      int source = -1;
-      int target = -1;
-      void* buffer = nullptr;
-      {
-        SystemCalls calls;
-        calls.read = [&](int file, void* bytes, std::size_t count) {
-          source = file;
-          buffer = bytes;
-          return test::LibraryRead(file, bytes, count);
-        };
-        calls.write = [&](int file, void const* bytes, std::size_t count) -> ssize_t {
-          target = file;
-          return is_refused ? FailWith(ENOSPC) : test::LibraryWrite(file, bytes, count);
-        };
-        calls.fsync = [&](int file) {
-          if (file == target) steps.push_back("sync the target");
-          return 0;
-        };
-        calls.close = [&](int file) {
-          if (file == source) steps.push_back("close the source");
-          if (file == target) steps.push_back("close the target");
-        };
-        calls.free = [&](void* block) {
-          if (block == buffer && block != nullptr) steps.push_back("free the buffer");
-        };
-        EXPECT_EQ(FSCopy(folder / "source", folder / "target", remove_source), is_refused ? -2 : 0);
-      }
-      EXPECT_THAT(steps, ElementsAre("close the source", "sync the target", "close the target",
-                                     "free the buffer"));
-    }
-  }
-}
-
-TEST(FSCopyFault, GoesOnAfterShortReadsAndWrites) {
-  TempDir folder;
-  std::string bytes;
-  for (int i = 0; i < 5000; ++i) bytes += std::to_string(i);
-  WriteFile(folder / "source", bytes);
-  SystemCalls calls;
-  calls.read = [](int file, void* to, std::size_t count) {
-    return test::LibraryRead(file, to, std::min(count, std::size_t{1000}));
-  };
-  calls.write = [](int file, void const* from, std::size_t count) {
-    return test::LibraryWrite(file, from, std::min(count, std::size_t{7}));
-  };
-  EXPECT_EQ(FSCopy(folder / "source", folder / "target", false), 0);
-  calls.read = nullptr;
-  calls.write = nullptr;
-  EXPECT_EQ(ReadFile(folder / "target"), bytes);
-}
-
-TEST(FSCopyFault, TellsFullDiskAndQuotaFromOtherFailedWrites) {
-  TempDir folder;
-  WriteFile(folder / "source", "bytes");
-  auto const result_of = [&folder](ssize_t written, int code) {
-    SystemCalls calls;
-    calls.write = [written, code](int, void const*, std::size_t) {
-      errno = code;
-      return written;
-    };
-    return FSCopy(folder / "source", folder / "target", true);
-  };
-  EXPECT_EQ(result_of(-1, ENOSPC), -2);
-  EXPECT_EQ(result_of(-1, EDQUOT), -2);
-  EXPECT_EQ(result_of(-1, EIO), -1);
-  EXPECT_EQ(result_of(0, 0), -1);
-  EXPECT_TRUE(fs::exists(folder / "source"));
-}
-
-TEST(FSCopyFault, LogsTheReasonThatTheResultIsMadeOf) {
-  TempDir folder;
-  WriteFile(folder / "source", "bytes");
-  FileOpLog const log;
-  SystemCalls calls;
-  bool is_first = true;
-  calls.write = [&is_first](int file, void const* bytes, std::size_t count) {
-    bool const fails = is_first;
-    is_first = false;  // the log's own writes come next
-    return fails ? FailWith(EDQUOT) : test::LibraryWrite(file, bytes, count);
-  };
-  EXPECT_EQ(FSCopy(folder / "source", folder / "target", false), -2);
-  EXPECT_THAT(log.Lines(), ElementsAre(std::string("[ERROR] file-op(#): CopyFile: write: ") +
-                                       strerror(EDQUOT) + " (" + std::to_string(EDQUOT) + ")"));
-}
-
-TEST(FSCopyFault, SyncsTheTargetOnSuccessAndOnFailureAndIgnoresTheResult) {
-  TempDir folder;
-  WriteFile(folder / "source", "bytes");
-  SystemCalls calls;
-  int syncs = 0;
-  calls.fsync = [&syncs](int) {
-    ++syncs;
-    return FailWith(EIO);
-  };
-  EXPECT_EQ(FSCopy(folder / "source", folder / "target", false), 0);
-  EXPECT_EQ(syncs, 1);
-  calls.read = [](int, void*, std::size_t) { return FailWith(EIO); };
-  EXPECT_EQ(FSCopy(folder / "source", folder / "target", false), -1);
-  EXPECT_EQ(syncs, 2);
-  EXPECT_EQ(FSCopy(folder / "none", folder / "target", false), -1);
-  EXPECT_EQ(syncs, 2);
-}
-
-TEST(FSCopyFault, FailsWithoutMemoryForItsBuffer) {
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-  GTEST_SKIP() << "a sanitizer needs more address space than the test leaves";
-#endif
-  TempDir folder;
-  WriteFile(folder / "source", "bytes");
-  FileOpLog const log;
-  pid_t const child = fork();
-  if (child == 0) {
-    std::ifstream sizes("/proc/self/statm");
-    rlim_t pages = 0;
-    sizes >> pages;
-    rlim_t const limit = pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE)) + (8U << 20);
-    rlimit const space = {limit, limit};
-    if (setrlimit(RLIMIT_AS, &space) != 0) _exit(2);
-    _exit(FSCopy(folder / "source", folder / "target", true) == -1 ? 0 : 1);
-  }
-  int status = -1;
-  ASSERT_EQ(waitpid(child, &status, 0), child);
-  EXPECT_EQ(status, 0);
-  EXPECT_TRUE(fs::exists(folder / "source"));
-  EXPECT_THAT(log.Lines(),
-              ElementsAre(std::string("[ERROR] file-op(#): FSCopy: malloc(33554432): ") +
-                          strerror(ENOMEM) + " (" + std::to_string(ENOMEM) + ")"));
-}
-
-TEST(FSRenameFault, MovesAcrossVolumesWithAllThatIsInAFolder) {
+TEST(FSRenameFault, MovesAFolderWithItsContentAcrossVolumes) {
   TempDir folder;
   WriteFile(folder / "source/file", "one");
   WriteFile(folder / "source/sub/deep/file", "two");
   auto const tree = ReadTree(folder / "source");
   SystemCalls calls;
-  TakeVolumesForDifferent(calls);
+  MakeRenamesCrossVolumes(calls);
   EXPECT_EQ(FSRename(folder / "source", folder / "made/target", true), 0);
   EXPECT_EQ(ReadTree(folder / "made/target"), tree);
   EXPECT_FALSE(fs::exists(folder / "source"));
 }
 
-TEST(FSRenameFault, SaysThatObjectsOfOtherKindsAreMovedAcrossVolumes) {
+TEST(FSRenameFault, ReportsSuccessForOtherKindsAcrossVolumesWithoutMovingThem) {
   TempDir folder;
   fs::create_symlink("text", folder / "link");
   ASSERT_EQ(mkfifo((folder / "fifo").c_str(), 0600), 0);
   SystemCalls calls;
-  TakeVolumesForDifferent(calls);
+  MakeRenamesCrossVolumes(calls);
   for (char const* const name : {"link", "fifo"}) {
     EXPECT_EQ(FSRename(folder / name, folder / "target", false), 0) << name;
     EXPECT_TRUE(fs::exists(fs::symlink_status(folder / name))) << name;
@@ -421,23 +240,23 @@ TEST(FSRenameFault, SaysThatObjectsOfOtherKindsAreMovedAcrossVolumes) {
   }
 }
 
-TEST(FSRenameFault, FailsInTheEndForATreeWithALinkAndLeavesTheRestMoved) {
+TEST(FSRenameFault, FailsAtTheEndForATreeWithASymlinkAndLeavesTheRestMoved) {
   TempDir folder;
   WriteFile(folder / "source/file", "bytes");
   fs::create_symlink("file", folder / "source/link");
   SystemCalls calls;
-  TakeVolumesForDifferent(calls);
+  MakeRenamesCrossVolumes(calls);
   EXPECT_EQ(FSRename(folder / "source", folder / "target", false), -3);
   EXPECT_EQ(ReadFile(folder / "target/file"), "bytes");
   EXPECT_TRUE(fs::is_symlink(folder / "source/link"));
   EXPECT_FALSE(fs::exists(folder / "source/file"));
 }
 
-TEST(FSRenameFault, FoldsAFullDiskIntoItsFailure) {
+TEST(FSRenameFault, DoesNotDistinguishAFullDisk) {
   TempDir folder;
   WriteFile(folder / "file", "bytes");
   SystemCalls calls;
-  TakeVolumesForDifferent(calls);
+  MakeRenamesCrossVolumes(calls);
   calls.write = [](int, void const*, std::size_t) { return FailWith(ENOSPC); };
   EXPECT_EQ(FSRename(folder / "file", folder / "target", false), -3);
   EXPECT_TRUE(fs::exists(folder / "file"));
@@ -448,7 +267,7 @@ TEST(FSRenameFault, StopsAtTheFirstEntryThatFails) {
   WriteFile(folder / "source/one", "bytes");
   WriteFile(folder / "source/two", "bytes");
   SystemCalls calls;
-  TakeVolumesForDifferent(calls);
+  MakeRenamesCrossVolumes(calls);
   int reads = 0;
   calls.read = [&reads](int, void*, std::size_t) {
     ++reads;
@@ -458,11 +277,11 @@ TEST(FSRenameFault, StopsAtTheFirstEntryThatFails) {
   EXPECT_EQ(reads, 1);
 }
 
-TEST(FSRenameFault, TakesAListingThatBreaksOffForEnded) {
+TEST(FSRenameFault, TreatsAReadErrorAsTheEndOfTheListing) {
   TempDir folder;
   WriteFile(folder / "source/file", "bytes");
   SystemCalls calls;
-  TakeVolumesForDifferent(calls);
+  MakeRenamesCrossVolumes(calls);
   BreakListing(calls, 0);
   EXPECT_EQ(FSRename(folder / "source", folder / "target", false), -3);
   EXPECT_TRUE(fs::is_empty(folder / "target"));
@@ -475,7 +294,7 @@ TEST(FSRenameFault, TakesAListingThatBreaksOffForEnded) {
   EXPECT_FALSE(fs::exists(folder / "empty"));
 }
 
-TEST(FSRenameFault, TellsTheReasonsOfRenameApart) {
+TEST(FSRenameFault, DistinguishesTheErrorsOfRename) {
   TempDir folder;
   WriteFile(folder / "file", "");
   auto const result_of = [&folder](int code) {
@@ -488,7 +307,7 @@ TEST(FSRenameFault, TellsTheReasonsOfRenameApart) {
   EXPECT_EQ(result_of(ENOSPC), -3);
 }
 
-TEST(FSRemoveFault, TakesAListingThatBreaksOffForEnded) {
+TEST(FSRemoveFault, TreatsAReadErrorAsTheEndOfTheListing) {
   TempDir folder;
   WriteFile(folder / "tree/file", "");
   fs::create_directory(folder / "empty");

@@ -1,4 +1,4 @@
-// FSRemove against its steps written down plainly, each object by its path from the start.
+// FSRemove compared with a simple version that removes each file by its full path.
 #include <dirent.h>
 #include <gmock/gmock.h>
 
@@ -40,7 +40,7 @@ int PlainRemove(std::string const& path) {
 
 int OwnRemove(std::string const& path) { return FSRemove(path, false); }
 
-/// One object of a tree: a folder if its name ends in a slash, a link if it has a target.
+/// A file of a tree: a folder if its name ends in a slash, a symlink if it has a target.
 struct Object {
   std::string path;
   std::string target = {};
@@ -62,7 +62,7 @@ void PrintTo(Trace const& trace, std::ostream* out) {
   for (auto const& node : trace.left) *out << "  " << node.first << "\n";
 }
 
-/// Where the trees are made, far enough from everything else for a path to climb out of them.
+/// Where trees are made, deep enough for a path to climb out of them safely.
 class RemovalSteps : public testing::Test {
  protected:
   std::string Box() const { return folder_ / "some/way/down/box"; }
@@ -80,7 +80,7 @@ class RemovalSteps : public testing::Test {
       }
     }
   }
-  /// Whether a path leads to something in the box, so that it may be removed.
+  /// Whether a path leads into the box, so that it may be removed.
   bool LeadsInside(std::string const& path) const {
     std::error_code error;
     std::string const resolved = fs::canonical(Box() + "/" + path, error).string();
@@ -104,7 +104,7 @@ class RemovalSteps : public testing::Test {
   TempDir folder_;
 };
 
-TEST_F(RemovalSteps, AreTheSameThroughALinkInTheTreeThatIsRemoved) {
+TEST_F(RemovalSteps, AreTheSameThroughASymlinkInTheRemovedTree) {
   std::vector<Object> const tree = {{"up/t/a/file"},    {"up/t/b/file"},           {"up/t/l", ".."},
                                     {"up/t/self", "."}, {"up/t/b/back", "../a"},   {"up/t/z"},
                                     {"up/beside/file"}, {"up/t/a/over", "../../t"}};
@@ -126,7 +126,7 @@ TEST_F(RemovalSteps, AreTheSameForPathsThatEndInSlashesAndDots) {
   }
 }
 
-// Trees and paths by chance, among them paths that the removal itself cuts off.
+// Random trees and paths, including paths that the removal itself invalidates.
 TEST_F(RemovalSteps, AreTheSameForAnyTreeAndPath) {
   constexpr int kTrees = 200;
   std::mt19937 dice(1);

@@ -3,13 +3,14 @@
 #include <dlfcn.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 
 namespace {
 
 test::SystemCalls* taken_over = nullptr;
 
-/// The library's function that this program's one hides.
+/// The library's function that this program's own hides.
 template <class Function>
 Function* Library(char const* name) {
   return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
@@ -21,6 +22,11 @@ namespace test {
 
 SystemCalls::SystemCalls() { taken_over = this; }
 SystemCalls::~SystemCalls() { taken_over = nullptr; }
+
+int FailWith(int code) {
+  errno = code;
+  return -1;
+}
 
 int LibraryReadDir(DIR* dir, dirent* buffer, dirent** entry) {
   static auto* const call = Library<int(DIR*, dirent*, dirent**)>("readdir_r");
@@ -96,7 +102,7 @@ int close(int file) {
   return call(file);
 }
 
-// By the linker's --wrap: a sanitizer brings a free() of its own.
+// Through --wrap, because a sanitizer has its own free().
 void __real_free(void* block);
 void __wrap_free(void* block);
 void __wrap_free(void* block) {

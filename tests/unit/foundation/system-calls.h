@@ -9,9 +9,9 @@
 
 namespace test {
 
-/// Calls of the C library that a test can take over: the program's own functions come before the
-/// library's. A call whose function is empty goes to the library. Everything is back to that at the
-/// end of the scope; one object at a time.
+/// Replaces functions of the C library: the program's own definitions come before the library's. A
+/// call without a replacement goes to the library. The end of the scope removes all replacements;
+/// one object at a time.
 struct SystemCalls {
   SystemCalls();
   ~SystemCalls();
@@ -26,12 +26,15 @@ struct SystemCalls {
   std::function<ssize_t(int file, void const* bytes, std::size_t count)> write;
   std::function<int(int file)> fsync;
 
-  // These are only watched: the library's function follows. Of free(), the calls of this program.
+  // Only observed: the library's function runs as well. free() only as called from this program.
   std::function<void(int file)> close;
   std::function<void(void* block)> free;
 };
 
-/// The library's own.
+/// Sets `errno` and returns -1, like a failing call.
+int FailWith(int code);
+
+/// The library's functions.
 int LibraryReadDir(DIR* dir, dirent* buffer, dirent** entry);
 int LibraryLstat(char const* path, struct stat* info);
 int LibraryStatfs(char const* path, struct statfs* info);

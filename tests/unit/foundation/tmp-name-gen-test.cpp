@@ -44,14 +44,14 @@ TEST(TmpNameGen, NamesUseTheWholeAlphabet) {
   EXPECT_EQ(seen, std::set<char>(kAlphabet, kAlphabet + 64));
 }
 
-TEST(TmpNameGen, NamesInARowDiffer) {
+TEST(TmpNameGen, ConsecutiveNamesDiffer) {
   TmpNameGen names;
   std::set<std::string> seen;
   for (int i = 0; i < 10000; ++i) seen.insert(names.getTmpName().c_str());
   EXPECT_EQ(seen.size(), 10000U);
 }
 
-TEST(TmpNameGen, InstanceIsTheSameForAll) {
+TEST(TmpNameGen, InstanceIsShared) {
   TmpNameGen* seen[4] = {};
   std::vector<std::thread> threads;
   for (TmpNameGen*& one : seen) {
@@ -61,7 +61,7 @@ TEST(TmpNameGen, InstanceIsTheSameForAll) {
   for (TmpNameGen const* const one : seen) EXPECT_EQ(one, TmpNameGen::getInstance());
 }
 
-TEST(TmpNameGen, ThreadsGetNamesOfTheirOwn) {
+TEST(TmpNameGen, ThreadsGetDifferentNames) {
   std::mutex lock;
   std::set<std::string> seen;
   std::vector<std::thread> threads;
@@ -90,8 +90,8 @@ TEST(TmpNameGen, PathIsFolderSlashName) {
   EXPECT_TRUE(IsName(path_in("").substr(1)));
 }
 
-TEST(TmpNameGen, KeyIsTheClockAsText) {
-  // The same clock: that of time() may be a tick behind.
+TEST(TmpNameGen, KeyIsTheTimeAsAString) {
+  // The same clock: time() may be a tick behind.
   timeval before;
   timeval after;
   gettimeofday(&before, nullptr);
@@ -109,7 +109,7 @@ TEST(TmpNameGen, KeyIsTheClockAsText) {
   EXPECT_LT(microseconds, 1000000U);
 }
 
-TEST(TmpNameGen, KeyStaysInItsBounds) {
+TEST(TmpNameGen, KeyStaysWithinItsBuffer) {
   unsigned char key[8];
   std::fill(std::begin(key), std::end(key), static_cast<unsigned char>('#'));
   TmpNameGen::get_key(key, 5);
@@ -117,12 +117,12 @@ TEST(TmpNameGen, KeyStaysInItsBounds) {
   EXPECT_EQ(key[5], '#');
 }
 
-TEST(TmpNameGen, EmptyKeyIsFilledFromTheLibrarysGenerator) {
+TEST(TmpNameGen, EmptyKeyIsFilledFromRand) {
   Bytes sbox;
   Bytes key;
   Bytes expected;
   time_t seed;
-  do {  // until the clock's second is the same before and after
+  do {  // until the second is the same before and after
     seed = std::time(nullptr);
     key.fill(0);
     TmpNameGen::rc4_init(sbox.data(), key.data());
@@ -132,16 +132,16 @@ TEST(TmpNameGen, EmptyKeyIsFilledFromTheLibrarysGenerator) {
   EXPECT_EQ(key, expected);
 }
 
-TEST(TmpNameGen, KeyThatIsNotEmptyStaysAsItIs) {
+TEST(TmpNameGen, NonemptyKeyIsUnchanged) {
   Bytes sbox;
   Bytes key = {'k'};
   TmpNameGen::rc4_init(sbox.data(), key.data());
   EXPECT_EQ(key, Bytes{'k'});
 }
 
-// With a key of 256 bytes the set-up is that of the standard cipher, and so is the first call's
-// stream. The vector is of RFC 6229: the 40-bit key, repeated as the cipher does.
-TEST(TmpNameGen, FirstCallGivesTheStandardCiphersStream) {
+// With a key of 256 bytes, the initialisation is that of the standard cipher, and so is the stream
+// of the first call. Test vector: RFC 6229, the 40-bit key, repeated as the cipher does.
+TEST(TmpNameGen, FirstCallReturnsTheStreamOfTheStandardCipher) {
   Bytes sbox;
   Bytes key;
   for (std::size_t i = 0; i < key.size(); ++i) key[i] = static_cast<unsigned char>(i % 5 + 1);
@@ -153,7 +153,7 @@ TEST(TmpNameGen, FirstCallGivesTheStandardCiphersStream) {
   EXPECT_EQ(output, expected);
 }
 
-TEST(TmpNameGen, BytesBehindTheKeysTextCount) {
+TEST(TmpNameGen, BytesAfterTheKeysTerminatorCount) {
   Bytes short_sbox;
   Bytes long_sbox;
   Bytes short_key = {'k'};
@@ -163,13 +163,13 @@ TEST(TmpNameGen, BytesBehindTheKeysTextCount) {
   EXPECT_NE(short_sbox, long_sbox);
 }
 
-TEST(TmpNameGen, EachCallStartsOverOnThePermutationAsItStands) {
+TEST(TmpNameGen, EachCallRestartsAtTheBeginningOfTheCurrentPermutation) {
   Bytes key = {'k'};
   Bytes sbox;
   TmpNameGen::rc4_init(sbox.data(), key.data());
   Bytes const start = sbox;
 
-  // The cipher by its definition, with both counters at 0 for each call.
+  // The cipher by definition, with both counters at 0 for each call.
   auto const stream = [](Bytes& s, int count) {
     std::vector<unsigned char> bytes;
     unsigned i = 0;
@@ -217,7 +217,7 @@ TEST(TmpNameGen, CountOfZeroOrLessDoesNothing) {
   EXPECT_EQ(sbox, before);
 }
 
-TEST(TmpNameGen, NamesAreTheStreamOfTheClocksKeyInSixBitSteps) {
+TEST(TmpNameGen, NamesEncodeTheStreamOfTheTimesKeyInSixBitSteps) {
   timeval before;
   timeval after;
   gettimeofday(&before, nullptr);
@@ -236,7 +236,7 @@ TEST(TmpNameGen, NamesAreTheStreamOfTheClocksKeyInSixBitSteps) {
   auto const microseconds = [](timeval const& time) {
     return time.tv_sec * 1000000L + time.tv_usec;
   };
-  // Times whose digits differ little may share their first names: one match or more.
+  // Times with similar digits may share their first names, so count one match or more.
   int matches = 0;
   for (long time = microseconds(before); time <= microseconds(after); ++time) {
     Bytes key = {};

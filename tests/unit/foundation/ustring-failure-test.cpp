@@ -13,8 +13,8 @@
 #include "support/captured-cerr.h"
 #include "support/ustring-probe.h"
 
-// What ustring does when memory or ICU fail. This program answers the calls itself: the linker
-// sends the allocations here (--wrap), and ICU's functions are defined a second time.
+// Tests ustring when memory or ICU fail. The program replaces allocation through --wrap, and
+// redefines ICU's functions.
 
 namespace {
 
@@ -113,18 +113,18 @@ void ExpectBadAlloc(int successes, Call const& call) {
   EXPECT_TRUE(threw);
 }
 
-TEST_F(UstringFailure, ConstructionWithoutMemoryThrowsAndLosesNothing) {
+TEST_F(UstringFailure, ConstructionWithoutMemoryThrowsAndLeaksNothing) {
   for (int successes = 0; successes < 2; ++successes) {
     ExpectBadAlloc(successes, [] { ustring const s; });
     ExpectBadAlloc(successes, [] { ustring const s("abc"); });
   }
   std::u16string const wide(20, u'x');
-  ExpectBadAlloc(2, [&] {  // the buffers are there, growing them fails
+  ExpectBadAlloc(2, [&] {  // the buffers exist, but can't grow
     ustring const s(reinterpret_cast<unsigned short const*>(wide.c_str()));
   });
 }
 
-TEST_F(UstringFailure, AppendWithoutMemoryThrowsAndKeepsTheText) {
+TEST_F(UstringFailure, AppendWithoutMemoryThrowsAndKeepsTheString) {
   ustring s("abc");
   char const* const buffer = s.c_str();
   ExpectBadAlloc(0, [&] { s.append("defgh"); });
@@ -143,10 +143,10 @@ TEST_F(UstringFailure, AssignWithoutMemoryThrowsAndLeavesTheTargetEmpty) {
   EXPECT_EQ(s.assign("longer than that"), "longer than that");
 }
 
-/// One way to change a text, and what the text is afterwards.
+/// A way to change a string, and the result.
 struct Change {
   char const* name;
-  bool keeps;  ///< whether the former text stands when memory runs out; else there is none
+  bool keeps;  ///< whether the old string stays when memory runs out; else it is empty
   void (*apply)(ustring& s);
   std::string (*outcome)(std::string const& former);
 };
@@ -158,7 +158,7 @@ unsigned short const* Own16(ustring const& s, unsigned long at) {
   return UstringProbe::Wide(s) + std::min(at, UstringProbe::WideLength(s));
 }
 
-// Each text has five bytes at least, all of them ASCII.
+// Each string has at least five bytes, all ASCII.
 Change const kChanges[] = {
     {"append", true, [](ustring& s) { s.append(kLong); },
      [](std::string const& t) { return t + kLong; }},
@@ -220,7 +220,7 @@ Change const kChanges[] = {
      [](std::string const& t) { return t.substr(1, t.size() - 2); }},
 };
 
-// These need the UTF-16 copy to stand before memory runs out: c_str_utf16() may throw by itself.
+// These need an existing UTF-16 copy: c_str_utf16() may itself throw.
 Change const kChangesOfTheCopy[] = {
     {"wide assign(own)", false, [](ustring& s) { s.assign(Own16(s, 0), 3); },
      [](std::string const& t) { return t.substr(0, 3); }},
@@ -231,7 +231,7 @@ Change const kChangesOfTheCopy[] = {
 std::string const kTexts[] = {"abcyz", "a text of middling length, z",
                               "a" + std::string(300, 'b') + "z"};
 
-/// The copy holds the text, or nothing.
+/// The UTF-16 copy equals the string or is empty.
 void ExpectCopyOfTheText(ustring const& s) {
   if (UstringProbe::WideLength(s) == 0) {
     EXPECT_EQ(*UstringProbe::Wide(s), 0);
@@ -242,7 +242,7 @@ void ExpectCopyOfTheText(ustring const& s) {
   EXPECT_EQ(std::string(wide, wide + UstringProbe::WideLength(s)), text);
 }
 
-/// Refuses each allocation of the change in turn, until it needs no more than it is given.
+/// Fails each allocation of the change in turn, until none is left to fail.
 void RefuseEachAllocation(Change const& change, std::string const& text, bool with_copy) {
   SCOPED_TRACE(std::string(change.name) + " of '" + text + (with_copy ? "' with its copy" : "'"));
   for (int successes = 0;; ++successes) {
@@ -275,7 +275,7 @@ void RefuseEachAllocation(Change const& change, std::string const& text, bool wi
   }
 }
 
-TEST_F(UstringFailure, ChangeWithoutMemoryLeavesTheFormerTextOrNoneAndNoOtherCopy) {
+TEST_F(UstringFailure, ChangeWithoutMemoryLeavesTheOldStringOrNoneAndNoOtherCopy) {
   for (std::string const& text : kTexts) {
     for (Change const& change : kChanges) {
       RefuseEachAllocation(change, text, false);
@@ -285,7 +285,7 @@ TEST_F(UstringFailure, ChangeWithoutMemoryLeavesTheFormerTextOrNoneAndNoOtherCop
   }
 }
 
-TEST_F(UstringFailure, AssigningAPartOfItselfWithoutMemoryLeavesNoCopyOfTheFormerText) {
+TEST_F(UstringFailure, AssigningAPartOfItselfWithoutMemoryLeavesNoCopyOfTheOldString) {
   ustring s("abcdefghijklmnop");
   s.c_str_utf16();
   ExpectBadAlloc(0, [&] { s.assign(s, 3, 4); });
@@ -293,7 +293,7 @@ TEST_F(UstringFailure, AssigningAPartOfItselfWithoutMemoryLeavesNoCopyOfTheForme
   EXPECT_EQ(s.assign("abcdefghijklmnop").assign(s, 3, 4), "defg");
 }
 
-TEST_F(UstringFailure, ConversionWithoutMemoryThrowsAndKeepsTheText) {
+TEST_F(UstringFailure, ConversionWithoutMemoryThrowsAndKeepsTheString) {
   ustring s("longer than four");
   ExpectBadAlloc(0, [&] { s.c_str_utf16(); });
   EXPECT_EQ(s, "longer than four");
@@ -301,7 +301,7 @@ TEST_F(UstringFailure, ConversionWithoutMemoryThrowsAndKeepsTheText) {
   EXPECT_EQ(s.c_str_utf16()[3], 'g');
 }
 
-TEST_F(UstringFailure, NormalizeWarnsOfAFailedInstanceAndGivesNothing) {
+TEST_F(UstringFailure, NormalizeWarnsOfAFailedInstanceAndReturnsNothing) {
   test::CapturedCerr const cerr;
   instance_status = U_FILE_ACCESS_ERROR;
   EXPECT_TRUE(ustring("abc").normalize(ustring::NFC).empty());
@@ -309,7 +309,7 @@ TEST_F(UstringFailure, NormalizeWarnsOfAFailedInstanceAndGivesNothing) {
               MatchesRegex("Warning: unorm2_getInstance: error code 4 at line [0-9]+\n"));
 }
 
-TEST_F(UstringFailure, NormalizeWarnsOfAMissingInstanceAndGivesNothing) {
+TEST_F(UstringFailure, NormalizeWarnsOfAMissingInstanceAndReturnsNothing) {
   test::CapturedCerr const cerr;
   no_instance = true;
   EXPECT_TRUE(ustring("abc").normalize(ustring::NFD).empty());
@@ -317,7 +317,7 @@ TEST_F(UstringFailure, NormalizeWarnsOfAMissingInstanceAndGivesNothing) {
               MatchesRegex("Warning: unorm2_getInstance: error code 0 at line [0-9]+\n"));
 }
 
-TEST_F(UstringFailure, NormalizeWarnsOfAFailedPassAndGivesNothing) {
+TEST_F(UstringFailure, NormalizeWarnsOfAFailedPassAndReturnsNothing) {
   test::CapturedCerr const cerr;
   normalize_status = U_MEMORY_ALLOCATION_ERROR;
   ustring const result = ustring("abc").normalize(ustring::NFC);
@@ -327,7 +327,7 @@ TEST_F(UstringFailure, NormalizeWarnsOfAFailedPassAndGivesNothing) {
               MatchesRegex("Warning: unorm2_normalize: error code 7 at line [0-9]+\n"));
 }
 
-TEST_F(UstringFailure, NormalizeOfNothingAsksNoInstance) {
+TEST_F(UstringFailure, NormalizeOfAnEmptyStringNeedsNoInstance) {
   test::CapturedCerr const cerr;
   no_instance = true;
   EXPECT_TRUE(ustring().normalize(ustring::NFC).empty());

@@ -21,7 +21,7 @@ struct Language {
 
 void PrintTo(Language const& language, std::ostream* out) { *out << language.name; }
 
-// Each label the launcher shows, in the toolkit's layout and with the fonts of this system.
+// Every label the launcher shows, in Qt's layout and with this system's fonts.
 class DialogLanguages : public testing::TestWithParam<Language> {
  protected:
   void SetUp() override {
@@ -53,9 +53,9 @@ class DialogLanguages : public testing::TestWithParam<Language> {
   QTranslator translator_;
 };
 
-TEST_P(DialogLanguages, ShowTheWholeTextOfTheWorkAtHand) { ExpectWhole(kPreparing); }
+TEST_P(DialogLanguages, ShowTheCompletePreparingText) { ExpectWhole(kPreparing); }
 
-TEST_P(DialogLanguages, ShowTheWholeTextOfTheWorkDone) { ExpectWhole(kReady); }
+TEST_P(DialogLanguages, ShowTheCompleteReadyText) { ExpectWhole(kReady); }
 
 INSTANTIATE_TEST_SUITE_P(
     All, DialogLanguages,

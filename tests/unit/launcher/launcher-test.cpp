@@ -40,7 +40,7 @@ class Home : public test::TempDir {
   Home() { setenv("HOME", path().c_str(), 1); }
 };
 
-/// Notes what the dialog goes through.
+/// Records the states of the dialog.
 class Watch : public QObject {
  public:
   explicit Watch(QProgressDialog* dialog) : dialog_(dialog) {
@@ -82,7 +82,7 @@ class LauncherTest : public testing::Test {
     test::WriteFile(App() + "/Contents/MacOS/larkmoor-drive-ui", Client().content);
     chmod((App() + "/Contents/MacOS/larkmoor-drive-ui").c_str(), 0755);
   }
-  /// The dialog of the one launcher.
+  /// The launcher's dialog.
   static ProcessingProgressDialog* Dialog() {
     for (QWidget* widget : QApplication::topLevelWidgets()) {
       if (auto* dialog = qobject_cast<ProcessingProgressDialog*>(widget)) return dialog;
@@ -92,7 +92,7 @@ class LauncherTest : public testing::Test {
   static void UpdateProgress(Launcher* launcher, int total, int steps) {
     QMetaObject::invokeMethod(launcher, "UpdateProgress", Q_ARG(int, total), Q_ARG(int, steps));
   }
-  /// A package that leaves time to do something while it is unpacked.
+  /// A package that takes long enough to unpack for a test to act meanwhile.
   static void CarryTwoHundredFiles() {
     std::vector<Entry> entries;
     for (int i = 0; i < 200; ++i) {
@@ -101,7 +101,7 @@ class LauncherTest : public testing::Test {
     entries.push_back(Client());
     Carry(entries);
   }
-  /// Runs as main does. False when the sequence did not end in time.
+  /// Runs like main. Returns false if the sequence doesn't end in time.
   static bool RunToTheEnd(Launcher* launcher) {
     QTimer guard;
     bool ended = true;
@@ -119,7 +119,7 @@ class LauncherTest : public testing::Test {
   test::LogCapture log;
 };
 
-/// What a class itself declares to the meta-object system, in its order.
+/// The class's own signals and slots, in order.
 std::vector<std::string> Members(QMetaObject const& meta) {
   std::vector<std::string> members;
   for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
@@ -132,7 +132,7 @@ std::vector<std::string> Members(QMetaObject const& meta) {
   return members;
 }
 
-TEST(MetaObjects, DeclarePublicSignalsAndPrivateSlotsInTheirOrder) {
+TEST(MetaObjects, DeclarePublicSignalsAndPrivateSlotsInOrder) {
   EXPECT_THAT(Members(Launcher::staticMetaObject),
               ElementsAre("signal sigStart()", "slot LaunchDone()", "slot UpdateProgress(int,int)",
                           "slot SetLabelText(QString)", "slot ShowMsgBox()"));
@@ -164,14 +164,14 @@ TEST_F(LauncherTest, RunsTheUpgradeOnTheHandlerThreadAndItsOwnSlotsOnTheMainThre
   EXPECT_EQ(painting, QCoreApplication::instance()->thread());
 }
 
-TEST_F(LauncherTest, TakesCancelButtonAndResetFromItsDialog) {
+TEST_F(LauncherTest, RemovesCancelButtonAndResetFromItsDialog) {
   Launcher launcher;
   EXPECT_FALSE(Dialog()->autoReset());
   EXPECT_EQ(Dialog()->findChild<QPushButton*>(), nullptr);
   EXPECT_FALSE(Dialog()->isVisible());
 }
 
-TEST_F(LauncherTest, GivesTheApplicationTheFamilyOfTheDialogAndLeavesItsSize) {
+TEST_F(LauncherTest, SetsTheFontFamilyOfTheApplicationButNotItsSize) {
   QFont const former = QApplication::font();
   QFont other(QStringLiteral("Another"));
   other.setPointSize(17);
@@ -185,7 +185,7 @@ TEST_F(LauncherTest, GivesTheApplicationTheFamilyOfTheDialogAndLeavesItsSize) {
   QApplication::setFont(former);
 }
 
-TEST_F(LauncherTest, MakesAPercentageOfStepsTruncating) {
+TEST_F(LauncherTest, TruncatesThePercentage) {
   Launcher launcher;
   UpdateProgress(&launcher, 100, 100);
   EXPECT_EQ(Dialog()->value(), 100);
@@ -204,7 +204,7 @@ TEST_F(LauncherTest, SetsTheLabelAndShowsTheDialogOnRequest) {
   EXPECT_TRUE(Dialog()->isVisible());
 }
 
-TEST_F(LauncherTest, ListensToTheAdapterAsToItsWorker) {
+TEST_F(LauncherTest, HandlesSignalsOfTheAdapterLikeThoseOfItsWorker) {
   Launcher launcher;
   Notify_Adapter::GetInstance()->UpdateProgress(4, 1);
   Notify_Adapter::GetInstance()->UpdateDialogText(QStringLiteral("from below"));
@@ -212,7 +212,7 @@ TEST_F(LauncherTest, ListensToTheAdapterAsToItsWorker) {
   EXPECT_EQ(Dialog()->labelText(), "from below");
 }
 
-TEST_F(LauncherTest, LetsNotificationsGatherWhileTheWindowIsUpInsteadOfWakingForEach) {
+TEST_F(LauncherTest, BatchesNotificationsWhileTheWindowIsVisible) {
   constexpr int kNotifications = 5000;
   constexpr int kRestMs = 2;
   Launcher launcher;
@@ -239,7 +239,7 @@ TEST_F(LauncherTest, LetsNotificationsGatherWhileTheWindowIsUpInsteadOfWakingFor
   EXPECT_LE(rests, clock.elapsed() / kRestMs + 1);
 }
 
-TEST_F(LauncherTest, ShowsThreeEntriesAsThirdsAndStaysAtTheEndUntilItHides) {
+TEST_F(LauncherTest, ShowsThreeEntriesAsThirdsAndStaysAt100UntilHidden) {
   Carry({Entry::Folder("Contents"), Entry::Folder("Contents/MacOS"), Client()});
   Launcher launcher;
   Watch watch(Dialog());
@@ -248,19 +248,19 @@ TEST_F(LauncherTest, ShowsThreeEntriesAsThirdsAndStaysAtTheEndUntilItHides) {
   EXPECT_EQ(Dialog()->labelText(), "Larkmoor Drive is ready.");
 }
 
-TEST_F(LauncherTest, NeverShowsTheDialogWhenNothingIsToBeDone) {
+TEST_F(LauncherTest, NeverShowsTheDialogWhenThereIsNothingToDo) {
   Install();
   Launcher launcher;
   Watch watch(Dialog());
   auto* const worker = launcher.findChild<Worker*>();
-  EXPECT_EQ(worker, nullptr);  // owned by pointer: a child could not live on another thread
+  EXPECT_EQ(worker, nullptr);  // not a child object: that could not be on another thread
   EXPECT_TRUE(RunToTheEnd(&launcher));
   EXPECT_THAT(watch.events, ElementsAre("100"));
   EXPECT_EQ(Dialog()->labelText(), "Larkmoor Drive is initializing...");
   EXPECT_THAT(log.OwnLines(), Contains("[DEBUG] launcher(0): no need to upgrade"));
 }
 
-TEST_F(LauncherTest, LeavesBarAndLabelAloneAfterAFailureAndGoesOnToTheEnd) {
+TEST_F(LauncherTest, KeepsBarAndLabelAfterAFailureAndFinishes) {
   Carry({Client(), Entry::File("../climbs", "1")});
   Launcher launcher;
   Watch watch(Dialog());
@@ -275,7 +275,7 @@ TEST_F(LauncherTest, LeavesBarAndLabelAloneAfterAFailureAndGoesOnToTheEnd) {
               ElementsAre(HasSubstr("removing aged app folder"), "[DEBUG] launcher(0): done"));
 }
 
-TEST_F(LauncherTest, EndsProperlyWhenTheWorkerIsDoneBeforeTheLoopBegins) {
+TEST_F(LauncherTest, EndsProperlyWhenTheWorkerFinishesBeforeTheLoopStarts) {
   Install();
   Launcher launcher;
   launcher.Run();
@@ -298,7 +298,7 @@ TEST_F(LauncherTest, StartsTheSequenceOnce) {
   EXPECT_EQ(std::count(lines.begin(), lines.end(), "[DEBUG] launcher(0): running"), 1);
 }
 
-/// A user who does something to the dialog as soon as the first entry is in.
+/// A user who acts on the dialog as soon as the first entry is unpacked.
 class ImpatientUser : public LauncherTest {
  protected:
   void RunWith(std::function<void(QWidget*)> const& act) {
@@ -343,11 +343,11 @@ TEST_F(ImpatientUser, ChangesNothingWithReturnSpaceOrAltF4) {
   });
 }
 
-TEST_F(LauncherTest, FinishesTheInstallationWhenTheSystemEndsTheLoopInItsMiddle) {
+TEST_F(LauncherTest, FinishesTheInstallationWhenTheSystemEndsTheLoop) {
   CarryTwoHundredFiles();
   {
     Launcher launcher;
-    // As a session that ends, or the application menu's Quit, does.
+    // Like the end of a session, or Quit in the application menu.
     QObject::connect(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, &launcher,
                      [](int, int) { QCoreApplication::quit(); });
     EXPECT_TRUE(RunToTheEnd(&launcher));

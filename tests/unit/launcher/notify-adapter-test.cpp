@@ -11,7 +11,7 @@
 
 namespace {
 
-TEST(NotifyAdapter, IsOneObjectAlsoForOtherThreads) {
+TEST(NotifyAdapter, IsTheSameObjectOnEveryThread) {
   Notify_Adapter* const first = Notify_Adapter::GetInstance();
   Notify_Adapter* second = nullptr;
   std::unique_ptr<QThread> const thread(
@@ -23,10 +23,10 @@ TEST(NotifyAdapter, IsOneObjectAlsoForOtherThreads) {
   EXPECT_EQ(first->parent(), nullptr);
 }
 
-TEST(NotifyAdapter, DoesNothingWhenNobodyListens) {
+TEST(NotifyAdapter, DoesNothingWithoutAConnection) {
   Notify_Adapter::GetInstance()->UpdateProgress(3, 1);
   Notify_Adapter::GetInstance()->UpdateDialogText(QStringLiteral("nobody reads this"));
-  // Nothing is kept for who comes later.
+  // Nothing is kept for later connections.
   QSignalSpy const progress(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateProgress(int, int)));
   QSignalSpy const text(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateDialogText(QString)));
   QCoreApplication::sendPostedEvents();
@@ -34,7 +34,7 @@ TEST(NotifyAdapter, DoesNothingWhenNobodyListens) {
   EXPECT_TRUE(text.isEmpty());
 }
 
-TEST(NotifyAdapter, HandsOnItsArgumentsInTheirOrder) {
+TEST(NotifyAdapter, PassesItsArgumentsInOrder) {
   QSignalSpy progress(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateProgress(int, int)));
   QSignalSpy text(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateDialogText(QString)));
   Notify_Adapter::GetInstance()->UpdateProgress(7, 2);
@@ -55,7 +55,7 @@ TEST(NotifyAdapter, DeliversInTheOrderOfEmissionAcrossThreads) {
   }));
   thread->start();
   thread->wait();
-  EXPECT_TRUE(seen.empty());  // queued: nothing arrives while this thread is busy
+  EXPECT_TRUE(seen.empty());  // queued: nothing is delivered while this thread is busy
   QCoreApplication::sendPostedEvents(&receiver);
   ASSERT_EQ(seen.size(), 1000U);
   EXPECT_TRUE(std::is_sorted(seen.begin(), seen.end()));

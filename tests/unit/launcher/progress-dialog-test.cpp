@@ -37,20 +37,20 @@ TEST_F(ProgressDialog, HasItsFixedLook) {
   EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST_F(ProgressDialog, OffersNoWayToCloseIt) {
+TEST_F(ProgressDialog, HasNoCloseButton) {
   ProcessingProgressDialog const dialog;
   Qt::WindowFlags const hints = dialog.windowFlags() & ~Qt::WindowType_Mask;
   EXPECT_EQ(static_cast<int>(hints), 0x3000);
 }
 
-TEST_F(ProgressDialog, KeepsTheToolkitsDefaultsOtherwise) {
+TEST_F(ProgressDialog, KeepsQtsDefaultsOtherwise) {
   ProcessingProgressDialog const dialog;
   EXPECT_EQ(dialog.minimumDuration(), 4000);
   EXPECT_TRUE(dialog.autoClose());
   EXPECT_TRUE(dialog.autoReset());
 }
 
-TEST_F(ProgressDialog, TakesItsIconFromTheBundleAndBearsItsAbsence) {
+TEST_F(ProgressDialog, LoadsItsIconFromTheBundleIfItExists) {
   std::string const icon = std::string(Service::GetRootLarkmoorResourceInstallPath().c_str()) +
                            "/images/ico_72_larkmoor.png";
   std::filesystem::remove(icon);
@@ -63,7 +63,7 @@ TEST_F(ProgressDialog, TakesItsIconFromTheBundleAndBearsItsAbsence) {
   std::filesystem::remove(icon);
 }
 
-TEST_F(ProgressDialog, StaysFourHundredPixelsWideInEveryLanguageAndWithAnyLabel) {
+TEST_F(ProgressDialog, IsFourHundredPixelsWideInEveryLanguageAndWithAnyLabel) {
   for (char const* name : {"enu", "cht", "chs", "jpn", "deu", "krn", "fra", "ita", "esn", "ptb",
                            "rus", "dan", "nor", "sve", "nld", "plk", "hun", "ptg", "trk", "csy"}) {
     QTranslator translator;

@@ -22,7 +22,7 @@ std::string ForLocale(char const* name) {
   return TovarelLocale::getLanguageForLocale(name).toStdString();
 }
 
-// What language-probe prints under a locale, line by line; the language is the last.
+// The output of language-probe under a locale, in lines; the language is the last.
 std::vector<std::string> Probe(char const* locale, QStringList const& arguments = {}) {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.remove("LANGUAGE");
@@ -73,18 +73,18 @@ TEST(TovarelLocale, ChoosesNorwegianForItsThreeLanguageNames) {
   for (char const* locale : {"nb_no", "nn_no", "no_no"}) EXPECT_EQ(ForLocale(locale), "nor");
 }
 
-TEST(TovarelLocale, ChoosesEnglishForALanguageItDoesNotSpeak) {
+TEST(TovarelLocale, ChoosesEnglishForAnUnknownLanguage) {
   for (char const* locale : {"fi_fi", "el_gr", "ar_sa", "th_th", "xx", "deu_de", "e_n"}) {
     EXPECT_EQ(ForLocale(locale), "enu") << locale;
   }
 }
 
-TEST(TovarelLocale, ComparesNamesWithCase) {
+TEST(TovarelLocale, ComparesNamesCaseSensitively) {
   EXPECT_EQ(ForLocale("zh_TW"), "chs");
   EXPECT_EQ(ForLocale("DE_de"), "enu");
 }
 
-TEST(TovarelLocale, ReachesEveryCatalogueFromSomeLocaleOfTheSystem) {
+TEST(TovarelLocale, ChoosesEveryCatalogueForSomeLocaleOfTheSystem) {
   QSet<QString> reached;
   for (Choice const choice :
        std::vector<Choice>{{"en_US.UTF-8", "enu"}, {"zh_TW.UTF-8", "cht"}, {"zh_CN.UTF-8", "chs"},
@@ -127,7 +127,7 @@ TEST(TovarelLocale, FallsBackToEnglishWhenACatalogueIsMissing) {
   EXPECT_EQ(Probe("de_DE.UTF-8", {WITHOUT_JPN}).back(), "deu");
 }
 
-TEST(TovarelLocale, TracesTheLocaleTheCatalogueAndTheChoice) {
+TEST(TovarelLocale, LogsTheLocaleTheCatalogueAndTheChoice) {
   EXPECT_THAT(
       Probe("de_DE.UTF-8"),
       ElementsAre("../libcommon/TovarelLocale|64|QString TovarelLocale::getDefaultLanguage()|"
@@ -142,7 +142,7 @@ TEST(TovarelLocale, TracesTheLocaleTheCatalogueAndTheChoice) {
                   "deu"));
 }
 
-TEST(TovarelLocale, TracesNoCatalogueThatIsMissing) {
+TEST(TovarelLocale, LogsNoMissingCatalogue) {
   EXPECT_THAT(Probe("ja_JP.UTF-8", {WITHOUT_JPN}),
               ElementsAre(testing::HasSubstr("|64|"), testing::HasSubstr("|80|"),
                           testing::HasSubstr("|138|"), "enu"));

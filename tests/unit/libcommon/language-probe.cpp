@@ -1,8 +1,8 @@
-// Prints the language chosen for the locale of its environment, and before it each debug message
-// that led there, one a line, as source, line, function, category and text parted by '|', with a
-// line break in the text shown as "\n".
+// Prints the language chosen for the locale of its environment. First prints each debug message of
+// the choice, one per line, as source, line, function, category and text separated by '|'; a line
+// break in the text becomes "\n".
 //
-// usage: language-probe [RESOURCE-FILE]: with one, its catalogues instead of the compiled-in ones
+// usage: language-probe [RESOURCE-FILE]: uses its catalogues instead of the compiled-in ones
 
 #include <QResource>
 #include <QTextStream>

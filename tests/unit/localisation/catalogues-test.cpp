@@ -61,7 +61,7 @@ class WithResource : public testing::Test {
     StrTable::InitStrTable();
   }
 
-  // The text of a row in the language installed, in English before one is.
+  // The text of a row in the installed language, in English before one is installed.
   static std::string Text(int id) { return StrTable::LoadStr(id).toStdString(); }
 
   static std::vector<std::string> AllTexts() {
@@ -84,7 +84,7 @@ class WithResource : public testing::Test {
 
 class TextsResource : public WithResource {};
 
-// Everything that resources hold, files and folders; Qt's libraries bring some of their own.
+// All compiled-in files and folders; Qt's libraries bring some of their own.
 std::set<std::string> EveryResource() {
   std::set<std::string> paths;
   QDirIterator walk(":/", QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
@@ -93,7 +93,7 @@ std::set<std::string> EveryResource() {
   return paths;
 }
 
-TEST_F(TextsResource, HoldsTheTwentyCataloguesUnderItsRootAndNothingElse) {
+TEST_F(TextsResource, ContainsExactlyTheTwentyCatalogues) {
   std::set<std::string> const with = EveryResource();
   qCleanupResources_texts();
   std::set<std::string> const without = EveryResource();
@@ -125,13 +125,13 @@ TEST_F(TextsResource, CompressesSixteenCataloguesWithZlibAndStoresFourPlain) {
   }
 }
 
-TEST_F(TextsResource, IsThereBeforeAnyoneAsksAndAfterASecondRegistration) {
+TEST_F(TextsResource, IsRegisteredAtStartAndMayBeRegisteredAgain) {
   EXPECT_TRUE(QFile::exists(":/enu.qm"));
   EXPECT_EQ(qInitResources_texts(), 1);
   EXPECT_TRUE(QFile::exists(":/enu.qm"));
 }
 
-TEST_F(TextsResource, LeavesTheTableInEnglishWhenItIsGone) {
+TEST_F(TextsResource, LeavesTheTableInEnglishWhenItIsMissing) {
   EXPECT_EQ(qCleanupResources_texts(), 1);
   EXPECT_FALSE(translator_.load(":/enu.qm", QString(), QString(), QString()));
   EXPECT_TRUE(translator_.isEmpty());
@@ -147,7 +147,7 @@ TEST_P(Catalogue, OpensAndLoads) {
   Install(GetParam());
 }
 
-TEST_P(Catalogue, IsTheHashTableAndTheMessagesAndNothingElse) {
+TEST_P(Catalogue, ContainsOnlyTheHashTableAndTheMessages) {
   test::QmFile const file = Read(GetParam());
   EXPECT_EQ(file.magic, "\x3c\xb8\x64\x18\xca\xef\x9c\x95\xcd\x21\x1c\xbf\x60\xa1\xbd\xdd");
   ASSERT_EQ(file.sections.size(), 2U);
@@ -155,7 +155,7 @@ TEST_P(Catalogue, IsTheHashTableAndTheMessagesAndNothingElse) {
   EXPECT_EQ(file.sections[1].tag, 0x69);
 }
 
-TEST_P(Catalogue, SortsItsHashesAndPointsEachAtItsMessage) {
+TEST_P(Catalogue, SortsItsHashesAndMapsEachToItsMessage) {
   test::QmFile const file = Read(GetParam());
   ASSERT_EQ(file.hashes.size(), file.messages.size());
   EXPECT_TRUE(std::is_sorted(file.hashes.begin(), file.hashes.end(), [](auto& a, auto& b) {
@@ -170,7 +170,7 @@ TEST_P(Catalogue, SortsItsHashesAndPointsEachAtItsMessage) {
   }
 }
 
-TEST_P(Catalogue, KeepsTheSameRecordsInEveryMessage) {
+TEST_P(Catalogue, HasTheSameRecordsInEveryMessage) {
   for (auto const& message : Read(GetParam()).messages) {
     EXPECT_THAT(message.tags, ElementsAre(0x03, 0x08, 0x06, 0x07, 0x01)) << message.source;
     EXPECT_FALSE(message.translation.empty()) << message.source;
@@ -184,7 +184,7 @@ TEST_P(Catalogue, KeepsTheNameOfTheProgram) {
   EXPECT_EQ(Text(438), "Larkmoor Drive");
 }
 
-TEST_P(Catalogue, SpeaksInNoOtherContext) {
+TEST_P(Catalogue, HasNoOtherContext) {
   Install(GetParam());
   char const* const source = "Larkmoor Drive is ready.";
   EXPECT_FALSE(translator_.translate("global", source).isEmpty());
@@ -193,7 +193,7 @@ TEST_P(Catalogue, SpeaksInNoOtherContext) {
   EXPECT_TRUE(translator_.translate("", source).isEmpty());
 }
 
-TEST_P(Catalogue, SaysTheSameWhereTwoRowsShareAText) {
+TEST_P(Catalogue, TranslatesRowsThatShareATextAlike) {
   Install(GetParam());
   EXPECT_EQ(Text(18), Text(521));
   EXPECT_EQ(Text(233), Text(344));
@@ -210,7 +210,7 @@ TEST_P(Catalogue, HasOneMessageForEachTextOfTheTable) {
   EXPECT_EQ(sources, texts);
 }
 
-TEST_P(Catalogue, OrdersItsTextsLikeTheEnglishOne) {
+TEST_P(Catalogue, OrdersItsMessagesLikeTheEnglishOne) {
   EXPECT_EQ(Sources(Read(GetParam())), Sources(Read("enu")));
 }
 
@@ -223,14 +223,14 @@ TEST_P(Catalogue, TranslatesEveryRow) {
   }
 }
 
-TEST_P(Catalogue, HoldsNoEscapeThatLoadStrWouldReplace) {
+TEST_P(Catalogue, ContainsNoEscapeThatLoadStrWouldReplace) {
   for (auto const& message : Read(GetParam()).messages) {
     EXPECT_EQ(message.translation.find(u"\\n"), std::u16string::npos) << message.source;
     EXPECT_EQ(message.translation.find(u"\\t"), std::u16string::npos) << message.source;
   }
 }
 
-TEST_P(Catalogue, ReadsLikeItsSourceInAFewTextsOnlyUnlessItIsEnglish) {
+TEST_P(Catalogue, EqualsItsSourceInAFewTextsOnlyUnlessItIsEnglish) {
   auto const messages = Read(GetParam()).messages;
   auto const same = std::count_if(messages.begin(), messages.end(), [](auto const& message) {
     return QString::fromStdU16String(message.translation) == QString::fromStdString(message.source);
@@ -288,13 +288,13 @@ constexpr LauncherTexts kLauncherTexts[] = {
 
 class LauncherCatalogue : public WithResource, public testing::WithParamInterface<LauncherTexts> {};
 
-TEST_P(LauncherCatalogue, SpeaksTheTextsThatTheDialogShows) {
+TEST_P(LauncherCatalogue, HasTheTextsThatTheDialogShows) {
   Install(GetParam().catalogue);
   EXPECT_EQ(Text(371), GetParam().preparing);
   EXPECT_EQ(Text(519), GetParam().ready);
 }
 
-TEST_F(WithResource, SpeaksTheTwoKindsOfPortugueseDifferently) {
+TEST_F(WithResource, HasDifferentTextsForTheTwoKindsOfPortuguese) {
   QTranslator brazilian;
   ASSERT_TRUE(brazilian.load(":/ptb.qm", QString(), QString(), QString()));
   Install("ptg");
@@ -302,8 +302,8 @@ TEST_F(WithResource, SpeaksTheTwoKindsOfPortugueseDifferently) {
             brazilian.translate("global", "Larkmoor Drive is initializing..."));
 }
 
-// Known and kept: these sentences work without the name.
-TEST_F(WithResource, LacksThePlaceholdersThatThreeTranslationsLost) {
+// Known and kept: these sentences make sense without the name.
+TEST_F(WithResource, LacksThePlaceholdersMissingFromThreeTranslations) {
   Install("jpn");
   EXPECT_THAT(Text(53), Not(HasSubstr("%1")));
   EXPECT_THAT(Text(310), Not(HasSubstr("%1")));

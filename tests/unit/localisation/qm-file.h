@@ -6,7 +6,7 @@
 
 namespace test {
 
-/// A compiled catalogue, taken apart byte for byte.
+/// A compiled catalogue, parsed byte by byte.
 struct QmFile {
   struct Section {
     int tag = 0;
@@ -18,7 +18,7 @@ struct QmFile {
   };
   struct Message {
     std::uint32_t offset = 0;  ///< of the first record within the messages section
-    std::vector<int> tags;     ///< of the records in their order, the end included
+    std::vector<int> tags;     ///< of the records in order, including the end
     std::u16string translation;
     std::string comment;
     std::string source;
@@ -31,11 +31,10 @@ struct QmFile {
   std::vector<Message> messages;
 };
 
-/// Throws std::runtime_error for bytes that are not a catalogue, a record of an unknown kind
-/// included.
+/// Throws std::runtime_error for anything that isn't a catalogue, unknown records included.
 QmFile ReadQmFile(std::string const& bytes);
 
-/// The hash under which a catalogue finds a text that has no comment.
+/// The hash under which a catalogue stores a text without comment.
 std::uint32_t QmHash(std::string const& source);
 
 }  // namespace test

@@ -13,7 +13,7 @@
 
 using testing::ElementsAre;
 
-// What GoogleTest prints a QString as.
+// How GoogleTest prints a QString.
 static void PrintTo(QString const& text, std::ostream* out) {
   *out << '"' << text.toStdString() << '"';
 }
@@ -27,7 +27,7 @@ constexpr int kRowCount = static_cast<int>(std::size(kFrozenKeys));
 
 std::string Text(int id) { return StrTable::LoadStr(id).toStdString(); }
 
-// The ids of the rows under each text.
+// The ids of the rows of each text.
 std::map<std::string, std::vector<int>> IdsByText() {
   std::map<std::string, std::vector<int>> ids;
   for (int id = 0; id < kRowCount; ++id) ids[Text(id)].push_back(id);
@@ -39,7 +39,7 @@ class StrTableTest : public testing::Test {
   void SetUp() override { StrTable::InitStrTable(); }
 };
 
-// Translates every text into the one it was made with.
+// Translates every text into a fixed one.
 class FixedTranslator : public QTranslator {
  public:
   explicit FixedTranslator(QString translation) : translation_(std::move(translation)) {
@@ -72,7 +72,7 @@ class TranslatedStrTable : public StrTableTest {
   QCoreApplication app_{argc_, nullptr};
 };
 
-// Each test runs in a process of its own under CTest; run all in one, this one has to come first.
+// CTest runs each test in its own process. If all run in one, this one must come first.
 TEST(StrTable, IsEmptyUntilItIsFilled) {
   EXPECT_TRUE(StrTable::LoadStr(0).isEmpty());
   EXPECT_TRUE(StrTable::LoadStr(438).isEmpty());
@@ -81,7 +81,7 @@ TEST(StrTable, IsEmptyUntilItIsFilled) {
   EXPECT_EQ(StrTable::LookupStrID(QString()), -1);
 }
 
-TEST_F(StrTableTest, SaysTheSameAfterBeingFilledTwice) {
+TEST_F(StrTableTest, IsUnchangedAfterBeingFilledTwice) {
   std::string const first = Text(371);
   StrTable::InitStrTable();
   EXPECT_EQ(Text(371), first);
@@ -95,7 +95,7 @@ TEST_F(StrTableTest, KeepsEveryKeyAtItsFrozenId) {
   }
 }
 
-TEST_F(StrTableTest, HasKeysThatAreUniqueWithoutRegardToCase) {
+TEST_F(StrTableTest, HasKeysThatAreUniqueIgnoringCase) {
   QSet<QString> keys;
   for (char const* key : kFrozenKeys) keys.insert(QString(key).toLower());
   EXPECT_EQ(keys.size(), 524);
@@ -107,7 +107,7 @@ TEST_F(StrTableTest, FindsAKeyInAnyCase) {
   EXPECT_EQ(StrTable::LookupStrID("nsis_not_admin_confirm"), 79);
 }
 
-TEST_F(StrTableTest, FindsNoUnknownOrEmptyOrPartialKey) {
+TEST_F(StrTableTest, FindsNoUnknownEmptyOrPartialKey) {
   EXPECT_EQ(StrTable::LookupStrID(""), -1);
   EXPECT_EQ(StrTable::LookupStrID(QString()), -1);
   EXPECT_EQ(StrTable::LookupStrID("app_nam"), -1);
@@ -188,7 +188,7 @@ TEST_F(StrTableTest, KeepsTheWordingThatIsFixed) {
   for (auto const& [id, text] : fixed) EXPECT_EQ(Text(id), text) << kFrozenKeys[id];
 }
 
-TEST_F(StrTableTest, KeepsTheSlipsThatAreKeysOfTranslations) {
+TEST_F(StrTableTest, KeepsTheTyposThatAreKeysOfTranslations) {
   EXPECT_THAT(Text(240),
               testing::StartsWith("You Larkmoor Server package version is not up-to-date."));
   EXPECT_THAT(Text(67), testing::HasSubstr("permantely"));
@@ -216,7 +216,7 @@ TEST_F(StrTableTest, DoublesTheBlankInTheProgressTextAndNowhereElse) {
   EXPECT_THAT(Text(233), testing::HasSubstr(".  "));
 }
 
-TEST_F(StrTableTest, IsAsciiButForTheZeroWidthSpaceOfOneRow) {
+TEST_F(StrTableTest, IsAsciiExceptForTheZeroWidthSpaceOfOneRow) {
   std::map<int, QString> foreign;
   for (int id = 0; id < kRowCount; ++id) {
     for (QChar const c : StrTable::LoadStr(id)) {
@@ -227,19 +227,19 @@ TEST_F(StrTableTest, IsAsciiButForTheZeroWidthSpaceOfOneRow) {
   EXPECT_TRUE(StrTable::LoadStr(3).endsWith(QString(")\u200b.")));
 }
 
-TEST_F(StrTableTest, HoldsNoEscapeThatLoadStrWouldReplace) {
+TEST_F(StrTableTest, ContainsNoEscapeThatLoadStrWouldReplace) {
   for (int id = 0; id < kRowCount; ++id) {
     EXPECT_THAT(Text(id), testing::Not(testing::ContainsRegex("[\n\t]"))) << kFrozenKeys[id];
   }
 }
 
-TEST_F(StrTableTest, GivesPlaceholdersToTheRowsThatNameSomething) {
+TEST_F(StrTableTest, HasPlaceholdersInTheRowsThatNameSomething) {
   for (int id : {53, 150, 189, 305, 310, 386, 475, 484}) {
     EXPECT_THAT(Text(id), testing::HasSubstr("%1")) << kFrozenKeys[id];
   }
 }
 
-TEST_F(TranslatedStrTable, AsksForItsEnglishTextInTheOneContext) {
+TEST_F(TranslatedStrTable, LooksUpItsEnglishTextInASingleContext) {
   FixedTranslator const translator("Fertig");
   EXPECT_EQ(Text(519), "Fertig");
   EXPECT_EQ(translator.context_, "global");
@@ -248,7 +248,7 @@ TEST_F(TranslatedStrTable, AsksForItsEnglishTextInTheOneContext) {
   EXPECT_EQ(translator.count_, -1);
 }
 
-TEST_F(TranslatedStrTable, FollowsTheTranslatorInstalledAtTheCall) {
+TEST_F(TranslatedStrTable, UsesTheTranslatorInstalledAtTheCall) {
   EXPECT_EQ(Text(519), "Larkmoor Drive is ready.");
   {
     FixedTranslator const translator("Fertig");

@@ -22,7 +22,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;
 
-/// What the service does to processes, and what the system answers. A pass of the wait is a probe
+/// Records the service's system calls and fakes the system's answers. A pass of the wait is a probe
 /// and a sleep; sleeping takes no time here.
 struct System {
   std::vector<std::pair<pid_t, int>> signals;
@@ -33,7 +33,7 @@ struct System {
 
 }  // namespace
 
-// These take the place of the C library's for everything in this program.
+// These replace the C library's in the whole program.
 extern "C" int kill(pid_t pid, int signal) {
   the_system.signals.emplace_back(pid, signal);
   int const error = the_system.answer(signal);
@@ -49,7 +49,7 @@ extern "C" unsigned sleep(unsigned seconds) {
 
 namespace {
 
-/// Opens up what a test needs to set and see.
+/// Makes members accessible to the tests.
 class ProbedService : public MacService {
  public:
   using Service::app_path;
@@ -104,7 +104,7 @@ TEST_F(MacServiceTest, HasOneInstanceForCallersWithoutAnObject) {
   EXPECT_EQ(MacService::GetInstace(), MacService::GetInstace());
 }
 
-TEST_F(MacServiceTest, FindsTheExecutableWhateverItIs) {
+TEST_F(MacServiceTest, FindsTheExecutableWhateverItsKind) {
   EXPECT_FALSE(service.PerUserBinPathExist());
   test::WriteFile(Executable(), "not executable");
   EXPECT_TRUE(service.PerUserBinPathExist());
@@ -126,7 +126,7 @@ TEST_F(PreUpgrade, LoadsTheTargetFirstAndLogsBoth) {
                           "[DEBUG] mac/mac-service(0): Target version: ('', '')"));
 }
 
-TEST_F(PreUpgrade, HasPlainNamesForEachHalf) {
+TEST_F(PreUpgrade, LoadsEachVersionSeparately) {
   service.LoadTargetVerInfo();
   service.LoadSourceVerInfo();
   EXPECT_THAT(log.OwnLines(), ElementsAre("[INFO] larkmoor-service(0): target_version = (, , , )",
@@ -135,14 +135,14 @@ TEST_F(PreUpgrade, HasPlainNamesForEachHalf) {
 
 using IsNeedUpgrade = MacServiceTest;
 
-TEST_F(IsNeedUpgrade, SaysYesOnlyToANewerBuildWhenTheExecutableExists) {
+TEST_F(IsNeedUpgrade, IsTrueOnlyForANewerBuildIfTheExecutableExists) {
   InstallExecutable();
   EXPECT_FALSE(NeedsUpgrade("100", "100"));
   EXPECT_FALSE(NeedsUpgrade("100", "99"));
   EXPECT_TRUE(NeedsUpgrade("99", "100"));
 }
 
-TEST_F(IsNeedUpgrade, SaysYesToAnOlderBuildWhenTheExecutableIsMissing) {
+TEST_F(IsNeedUpgrade, IsTrueForAnOlderBuildIfTheExecutableIsMissing) {
   EXPECT_TRUE(NeedsUpgrade("100", "0"));
   EXPECT_TRUE(NeedsUpgrade("100", ""));
 }
@@ -155,20 +155,20 @@ TEST_F(IsNeedUpgrade, CountsAnEmptyBuildAsZero) {
   EXPECT_FALSE(NeedsUpgrade("1", ""));
 }
 
-TEST_F(IsNeedUpgrade, TakesTheLeadingNumberOfATextThatIsNone) {
+TEST_F(IsNeedUpgrade, UsesTheLeadingNumberOfAMalformedBuild) {
   InstallExecutable();
   EXPECT_FALSE(NeedsUpgrade("100", "one hundred and one"));
   EXPECT_TRUE(NeedsUpgrade("99abc", "100xyz"));
   EXPECT_TRUE(NeedsUpgrade("9", "10"));
 }
 
-TEST_F(IsNeedUpgrade, LogsBothNumbersAlsoWhenTheExecutableDecides) {
+TEST_F(IsNeedUpgrade, LogsBothNumbersEvenIfTheExecutableDecides) {
   EXPECT_TRUE(NeedsUpgrade("100", "7"));
   EXPECT_THAT(log.OwnLines(),
               ElementsAre("[DEBUG] mac/mac-service(0): source version = 100, target version = 7"));
 }
 
-TEST_F(IsNeedUpgrade, TakesTwoEmptyVersionsBeforePreUpgradeHasRun) {
+TEST_F(IsNeedUpgrade, ComparesTwoEmptyVersionsBeforePreUpgrade) {
   InstallExecutable();
   EXPECT_FALSE(service.IsNeedUpgrade());
   EXPECT_THAT(log.OwnLines(),
@@ -203,7 +203,7 @@ TEST_F(StopService, SignalsNobodyWhenThePidFileHoldsNoPid) {
   EXPECT_THAT(log.OwnLines(), ElementsAre(line, line, line));
 }
 
-TEST_F(StopService, EndsAtOnceAndSilentlyForAStalePid) {
+TEST_F(StopService, ReturnsAtOnceAndSilentlyForAStalePid) {
   test::WriteFile(PidFile(), "pid=4711\n");
   the_system.answer = [](int) { return ESRCH; };
   service.StopService();
@@ -212,7 +212,7 @@ TEST_F(StopService, EndsAtOnceAndSilentlyForAStalePid) {
   EXPECT_THAT(log.OwnLines(), IsEmpty());
 }
 
-TEST_F(StopService, EndsWithoutWaitingWhenTheClientObeys) {
+TEST_F(StopService, ReturnsWithoutWaitingWhenTheClientEnds) {
   test::WriteFile(PidFile(), "pid=\"4711\"\n");
   the_system.answer = [](int signal) { return signal == 0 ? ESRCH : 0; };
   service.StopService();
@@ -240,7 +240,7 @@ TEST_F(StopService, KillsAfterFiveOneSecondPasses) {
   EXPECT_THAT(log.OwnLines(), IsEmpty());
 }
 
-TEST_F(StopService, LogsARefusedSignalAndGoesOnToTheEnd) {
+TEST_F(StopService, LogsASignalThatFailsAndContinues) {
   test::WriteFile(PidFile(), "pid=1\n");
   the_system.answer = [](int) { return EPERM; };
   service.StopService();
@@ -250,7 +250,7 @@ TEST_F(StopService, LogsARefusedSignalAndGoesOnToTheEnd) {
               ElementsAre("[ERROR] mac/mac-service(0): kill: Operation not permitted (1)"));
 }
 
-TEST_F(StopService, AddressesItsOwnGroupForATextThatIsNoNumber) {
+TEST_F(StopService, SignalsItsOwnGroupForAPidThatIsNotANumber) {
   test::WriteFile(PidFile(), "pid=\"abc\"\n");
   the_system.answer = [](int) { return ESRCH; };
   service.StopService();
@@ -273,19 +273,16 @@ TEST_F(HandlePackageUpgrade, SignalsNobodyOnAFirstInstallation) {
   EXPECT_THAT(the_system.signals, IsEmpty());
 }
 
-TEST_F(HandlePackageUpgrade, HandsOnTheResultOfThePreparation) {
+TEST_F(HandlePackageUpgrade, ReturnsTheResultOfPrepareUserEnv) {
   for (int result : {0, -1, 7}) {
     service.prepared = result;
     EXPECT_EQ(service.HandlePackageUpgrade(), result);
   }
 }
 
-/// The registration tool that this program is built with stands in the working folder.
+/// This program is built with a registration tool in the working folder.
 class PostUpgrade : public MacServiceTest {
  protected:
-  PostUpgrade() : former_(fs::current_path()) { fs::current_path(home.path()); }
-  ~PostUpgrade() override { fs::current_path(former_); }
-
   void InstallTool(std::string const& script) {
     test::WriteFile(home / "registration-tool", script);
     chmod((home / "registration-tool").c_str(), 0755);
@@ -302,7 +299,7 @@ class PostUpgrade : public MacServiceTest {
   }
 
  private:
-  fs::path former_;
+  test::WorkingFolder const here_{home.path()};
 };
 
 TEST_F(PostUpgrade, OpensTheUsersBundleAndLogsNothing) {
@@ -321,7 +318,7 @@ TEST_F(PostUpgrade, UnregistersTheBundleBeforeItOpensIt) {
   EXPECT_THAT(log.OwnLines(), IsEmpty());
 }
 
-TEST_F(PostUpgrade, OpensTheBundleAlsoWhenTheToolFailsCrashesOrCannotStart) {
+TEST_F(PostUpgrade, OpensTheBundleEvenIfTheToolFailsCrashesOrCannotStart) {
   InstallClient();
   for (char const* tool :
        {"#!/bin/sh\nexit 1\n", "#!/bin/sh\nkill -SEGV $$\n", "#!/no/such/interpreter\n"}) {
@@ -330,7 +327,7 @@ TEST_F(PostUpgrade, OpensTheBundleAlsoWhenTheToolFailsCrashesOrCannotStart) {
     EXPECT_EQ(MacService::LaunchPerUserBin(), 0);
     EXPECT_TRUE(ClientStarts()) << tool;
   }
-  // The line has no end of its own: the next record follows on it.
+  // The format has no line break: the next record follows on the same line.
   EXPECT_THAT(log.OwnLines(), ElementsAre(CannotUnregister() + "<stamp>" + CannotUnregister() +
                                           "<stamp>" + CannotUnregister()));
 }

@@ -1,4 +1,4 @@
-// The macOS side of platform/bundle.h is Qt alone, so it runs here too.
+// The macOS side of platform/bundle.h uses only Qt, so it runs here too.
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 
@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Receives what the desktop is asked to open.
+/// Receives the requests to open a URL.
 class Desktop : public QObject {
   Q_OBJECT
 
@@ -29,20 +29,17 @@ class Desktop : public QObject {
 
 class BundleOnMac : public testing::Test {
  protected:
-  BundleOnMac() : former_(fs::current_path()) { fs::current_path(folder.path()); }
-  ~BundleOnMac() override { fs::current_path(former_); }
-
   test::TempDir folder;
 
  private:
-  fs::path former_;
+  test::WorkingFolder const here_{folder.path()};
 };
 
-TEST_F(BundleOnMac, CannotBeForgottenWithoutTheTool) {
+TEST_F(BundleOnMac, CannotBeUnregisteredWithoutTheTool) {
   EXPECT_NE(platform::ForgetBundle(QStringLiteral("/x/Larkmoor.app")), 0);
 }
 
-TEST_F(BundleOnMac, IsForgottenThroughTheTool) {
+TEST_F(BundleOnMac, IsUnregisteredByTheTool) {
   test::WriteFile(folder / "registration-tool", "#!/bin/sh\necho \"$#:$1:$2\" > told\nexit 4\n");
   chmod("registration-tool", 0755);
   EXPECT_EQ(platform::ForgetBundle(QStringLiteral("/x/Larkmoor.app")), 4);

@@ -17,18 +17,15 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The registration tool that these tests are built with is a file of this name in the working
-/// folder.
+/// The registration tool that this program is built with: a file in the working folder.
 constexpr char kTool[] = "registration-tool";
 
 class Bundle : public testing::Test {
  protected:
-  Bundle() : former_(fs::current_path()) {
-    fs::current_path(folder.path());
-    // What is started is nobody's child once its starter ends; here its end is awaited.
+  Bundle() {
+    // Spawned programs are reparented to this process, so that the test can wait for them.
     prctl(PR_SET_CHILD_SUBREAPER, 1);
   }
-  ~Bundle() override { fs::current_path(former_); }
 
   void InstallTool(std::string const& script) {
     test::WriteFile(folder / kTool, script);
@@ -48,20 +45,20 @@ class Bundle : public testing::Test {
   test::TempDir folder;
 
  private:
-  fs::path former_;
+  test::WorkingFolder const here_{folder.path()};
 };
 
-TEST_F(Bundle, IsForgottenWhereNoRegistrationToolIsInstalled) {
+TEST_F(Bundle, CountsAsUnregisteredWithoutARegistrationTool) {
   EXPECT_EQ(platform::ForgetBundle(App()), 0);
 }
 
-TEST_F(Bundle, IsForgottenThroughTheTool) {
+TEST_F(Bundle, IsUnregisteredByTheTool) {
   InstallTool("#!/bin/sh\necho \"$#:$1:$2\" > told\n");
   EXPECT_EQ(platform::ForgetBundle(App()), 0);
   EXPECT_EQ(test::ReadFile(folder / "told"), "2:-u:" + App().toStdString() + "\n");
 }
 
-TEST_F(Bundle, HandsOnTheToolsFailure) {
+TEST_F(Bundle, ReportsTheToolsFailure) {
   InstallTool("#!/bin/sh\nexit 3\n");
   EXPECT_EQ(platform::ForgetBundle(App()), 3);
 }
@@ -78,13 +75,13 @@ TEST_F(Bundle, ReportsAToolThatCannotBeStarted) {
 
 TEST_F(Bundle, IsNotOpenedWhenItsProgramIsMissing) { EXPECT_FALSE(platform::OpenBundle(App())); }
 
-TEST_F(Bundle, IsNotOpenedWhenItsProgramMayNotRun) {
+TEST_F(Bundle, IsNotOpenedWhenItsProgramIsNotExecutable) {
   InstallClient("");
   chmod((folder / "Some.app/Contents/MacOS/larkmoor-drive-ui").c_str(), 0644);
   EXPECT_FALSE(platform::OpenBundle(App()));
 }
 
-TEST_F(Bundle, StartsItsProgramWithoutArgumentsInASessionOfItsOwn) {
+TEST_F(Bundle, StartsItsProgramWithoutArgumentsInItsOwnSession) {
   InstallClient("echo \"$# $$ $(cut -d' ' -f5,6 /proc/$$/stat) $(pwd)\" > '" + (folder / "part") +
                 "'; mv '" + (folder / "part") + "' '" + (folder / "facts") + "'\n");
   ASSERT_TRUE(platform::OpenBundle(App()));
@@ -94,8 +91,8 @@ TEST_F(Bundle, StartsItsProgramWithoutArgumentsInASessionOfItsOwn) {
   wait(nullptr);
 }
 
-TEST_F(Bundle, HandsNoDescriptorOfOursToItsProgram) {
-  int const leaked = open(".", O_RDONLY);  // without close-on-exec, as a careless library would
+TEST_F(Bundle, PassesNoDescriptorToItsProgram) {
+  int const leaked = open(".", O_RDONLY);  // without close-on-exec, as a careless library may
   InstallClient("cd /proc/$$/fd; for f in *; do readlink $f; done > '" + (folder / "part") +
                 "'; mv '" + (folder / "part") + "' '" + (folder / "open") + "'\n");
   bool const opened = platform::OpenBundle(App());
@@ -116,14 +113,14 @@ TEST_F(Bundle, StartsItsProgramWithEachStandardDescriptorOnTheNullDevice) {
   wait(nullptr);
 }
 
-TEST_F(Bundle, StartsItsProgramHeedingTheSignalsThatWeIgnore) {
+TEST_F(Bundle, StartsItsProgramWithDefaultSignalHandling) {
   auto* const former = signal(SIGTERM, SIG_IGN);
   InstallClient("sed -n 's/^SigIgn:.//p' /proc/$$/status > '" + (folder / "part") + "'; mv '" +
                 (folder / "part") + "' '" + (folder / "ignored") + "'\n");
   bool const opened = platform::OpenBundle(App());
   signal(SIGTERM, former);
   ASSERT_TRUE(opened);
-  // One bit for each signal; those behind the standard ones are the C library's own.
+  // One bit per signal; real-time signals belong to the C library.
   EXPECT_EQ(std::stoull(Await("ignored"), nullptr, 16) & 0x7FFFFFFF, 0U);
   wait(nullptr);
 }
@@ -154,7 +151,7 @@ TEST_F(Bundle, StartsItsProgramWithNoSignalBlocked) {
   wait(nullptr);
 }
 
-TEST_F(Bundle, KeepsItsEnvironment) {
+TEST_F(Bundle, PassesItsEnvironmentOn) {
   setenv("LARKMOOR_TEST_MARK", "inherited", 1);
   InstallClient("echo $LARKMOOR_TEST_MARK > '" + (folder / "part") + "'; mv '" + (folder / "part") +
                 "' '" + (folder / "mark") + "'\n");

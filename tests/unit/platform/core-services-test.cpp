@@ -9,17 +9,21 @@
 #include <string>
 
 #include "support/files.h"
+#include "support/normal-forms.h"
 #include "support/unprivileged.h"
 
 namespace fs = std::filesystem;
+using test::kComposed;
+using test::kDecomposed;
 using test::TempDir;
+using test::WorkingFolder;
 using test::WriteFile;
 
 namespace {
 
 enum class Leaf { kFollowed, kItself };
 
-/// The path by both calls in turn, or "status N".
+/// The path through both calls, or "status N".
 std::string VolumePath(std::string const& path, Leaf leaf) {
   auto const* const text = reinterpret_cast<UInt8 const*>(path.c_str());
   FSRef ref;
@@ -47,26 +51,11 @@ struct Places : TempDir {
   }
 };
 
-constexpr char kComposed[] = "caf\xC3\xA9";
-constexpr char kDecomposed[] = "cafe\xCC\x81";
-// A syllable that is taken apart in part, and a letter that has no composed form of its own.
+// A partly decomposed syllable, and a letter without a composed form.
 constexpr char kHangul[] = "\xEA\xB0\x81";
 constexpr char kHalfHangul[] = "\xEA\xB0\x80\xE1\x86\xA8";
 constexpr char kQa[] = "\xE0\xA4\x95\xE0\xA4\xBC";
 constexpr char kOldQa[] = "\xE0\xA5\x98";
-
-class WorkingFolder {
- public:
-  explicit WorkingFolder(fs::path const& path) : former_(fs::current_path()) {
-    fs::current_path(path);
-  }
-  ~WorkingFolder() { fs::current_path(former_); }
-  WorkingFolder(WorkingFolder const&) = delete;
-  WorkingFolder& operator=(WorkingFolder const&) = delete;
-
- private:
-  fs::path const former_;
-};
 
 }  // namespace
 
@@ -78,14 +67,14 @@ TEST(VolumePath, OfAResolvedPathIsThePathItself) {
   }
 }
 
-TEST(VolumePath, HasNoLinksInTheFoldersAbove) {
+TEST(VolumePath, HasNoSymlinksInTheFoldersAbove) {
   Places const places;
   EXPECT_EQ(Followed(places / "link/file"), places / "real/file");
   EXPECT_EQ(Itself(places / "link/file"), places / "real/file");
   EXPECT_EQ(Itself(places / "link/sub"), places / "real/sub");
 }
 
-TEST(VolumePath, FollowsALastLinkOnlyWhenAsked) {
+TEST(VolumePath, FollowsASymlinkAtTheEndOnlyOnRequest) {
   Places const places;
   EXPECT_EQ(Followed(places / "leaf"), places / "real/file");
   EXPECT_EQ(Itself(places / "leaf"), places / "leaf");
@@ -93,20 +82,20 @@ TEST(VolumePath, FollowsALastLinkOnlyWhenAsked) {
   EXPECT_EQ(Itself(places / "link"), places / "link");
 }
 
-TEST(VolumePath, OfALinkBelowALinkIsInTheRealFolder) {
+TEST(VolumePath, OfASymlinkBelowASymlinkIsInTheRealFolder) {
   Places const places;
   fs::create_symlink("file", places / "real/inner");
   EXPECT_EQ(Itself(places / "link/inner"), places / "real/inner");
   EXPECT_EQ(Followed(places / "link/inner"), places / "real/file");
 }
 
-TEST(VolumePath, OfADanglingLinkExistsUnlessFollowed) {
+TEST(VolumePath, OfADanglingSymlinkExistsUnlessFollowed) {
   Places const places;
   EXPECT_EQ(Itself(places / "dangling"), places / "dangling");
   EXPECT_EQ(Followed(places / "dangling"), "status -43");
 }
 
-TEST(VolumePath, OfAMissingObjectIsNone) {
+TEST(VolumePath, OfAMissingFileDoesNotExist) {
   Places const places;
   for (char const* const name :
        {"none", "none/file", "real/file/below", "link/none", "dangling/a"}) {
@@ -117,7 +106,7 @@ TEST(VolumePath, OfAMissingObjectIsNone) {
   EXPECT_EQ(Followed(""), "status -43");
 }
 
-TEST(VolumePath, DropsDotsAndNeedlessSlashes) {
+TEST(VolumePath, RemovesDotsAndExtraSlashes) {
   Places const places;
   for (auto const& look : {Followed, Itself}) {
     EXPECT_EQ(look(places / "real/./file"), places / "real/file");
@@ -138,16 +127,16 @@ TEST(VolumePath, KeepsNamesThatOnlyBeginWithDots) {
   }
 }
 
-TEST(VolumePath, TakesATrailingSlashForAFolder) {
+TEST(VolumePath, TreatsATrailingSlashAsAFolder) {
   Places const places;
   EXPECT_EQ(Itself(places / "real/"), places / "real");
   EXPECT_EQ(Followed(places / "real//"), places / "real");
-  // As lstat does: what the link leads to is meant.
+  // Like lstat: the target of the symlink is meant.
   EXPECT_EQ(Itself(places / "link/"), places / "real");
   EXPECT_EQ(Itself(places / "real/file/"), "status -43");
 }
 
-TEST(VolumePath, OfTheRootAndOfWhatIsInIt) {
+TEST(VolumePath, OfTheRootAndItsEntries) {
   for (auto const& look : {Followed, Itself}) {
     EXPECT_EQ(look("/"), "/");
     EXPECT_EQ(look("//"), "/");
@@ -167,7 +156,7 @@ TEST(VolumePath, OfARelativePathIsAbsolute) {
   EXPECT_EQ(Itself(".."), places.path().parent_path());
 }
 
-TEST(VolumePath, ChangesWithALinkAboveFromCallToCall) {
+TEST(VolumePath, FollowsAChangedSymlinkAtTheNextCall) {
   Places const places;
   WriteFile(places / "other/file", "");
   EXPECT_EQ(Itself(places / "link/file"), places / "real/file");
@@ -179,7 +168,7 @@ TEST(VolumePath, ChangesWithALinkAboveFromCallToCall) {
   EXPECT_EQ(Itself(places / "real/file"), places / "moved/file");
 }
 
-TEST(VolumePath, IsFoundByTheNormalFormOfANameAndSpelledAsItStands) {
+TEST(VolumePath, IsFoundByNormalFormAndSpelledAsStored) {
   struct Pair {
     std::string stands;
     std::string asked;
@@ -194,7 +183,8 @@ TEST(VolumePath, IsFoundByTheNormalFormOfANameAndSpelledAsItStands) {
     WriteFile(folder / (pair.stands + "/" + pair.stands), "");
     fs::create_symlink(pair.stands, folder / ("link" + pair.stands));
     std::string const spelling = Itself(folder / (pair.asked + "/" + pair.asked));
-    if (fs::exists(folder / (pair.asked + "/" + pair.asked))) continue;  // the volume knows it
+    if (fs::exists(folder / (pair.asked + "/" + pair.asked)))
+      continue;  // the volume finds it itself
     EXPECT_EQ(spelling, folder / (pair.stands + "/" + pair.stands));
     EXPECT_EQ(Followed(folder / pair.asked), folder / pair.stands);
     EXPECT_EQ(Itself(folder / ("link" + pair.asked)), folder / ("link" + pair.stands));
@@ -203,7 +193,7 @@ TEST(VolumePath, IsFoundByTheNormalFormOfANameAndSpelledAsItStands) {
   }
 }
 
-TEST(VolumePath, IsThatOfTheNameAsGivenWhereBothFormsStand) {
+TEST(VolumePath, IsThatOfTheGivenNameIfBothNormalFormsExist) {
   TempDir const folder;
   for (char const* const name : {kComposed, kDecomposed}) WriteFile(folder / name, "");
   for (char const* const name : {kComposed, kDecomposed}) {
@@ -212,7 +202,7 @@ TEST(VolumePath, IsThatOfTheNameAsGivenWhereBothFormsStand) {
   }
 }
 
-TEST(VolumePath, LeadsThroughTheFolderOfEitherFormThatHoldsTheObject) {
+TEST(VolumePath, LeadsThroughTheFolderOfEitherNormalFormThatContainsTheFile) {
   TempDir const folder;
   std::string const composed(kComposed);
   std::string const decomposed(kDecomposed);
@@ -237,7 +227,7 @@ TEST(VolumePath, LeadsThroughTheFolderOfEitherFormThatHoldsTheObject) {
   expect_found();
 }
 
-TEST(VolumePath, KeepsSlashesDotsAndLinksInTheWayOfANormalForm) {
+TEST(VolumePath, ResolvesSlashesDotsAndSymlinksInAMatchByNormalForm) {
   TempDir const folder;
   std::string const decomposed(kDecomposed);
   WriteFile(folder / (decomposed + "/file"), "");
@@ -251,7 +241,7 @@ TEST(VolumePath, KeepsSlashesDotsAndLinksInTheWayOfANormalForm) {
   EXPECT_EQ(Itself(composed + "/file"), folder / (decomposed + "/file"));
 }
 
-TEST(VolumePath, IsFoundByANormalFormThatIsLongerThanTheNameCanBe) {
+TEST(VolumePath, IsFoundByANormalFormLongerThanANameMayBe) {
   TempDir const folder;
   std::string stands;
   std::string asked;
@@ -263,7 +253,7 @@ TEST(VolumePath, IsFoundByANormalFormThatIsLongerThanTheNameCanBe) {
   EXPECT_EQ(Itself(folder / asked), folder / stands);
 }
 
-TEST(VolumePath, IsNotFoundByBytesThatAreNoUtf8) {
+TEST(VolumePath, IsNotFoundByInvalidUtf8) {
   TempDir const folder;
   std::string const decomposed(kDecomposed);
   if (mkdir((folder / "\xFF").c_str(), 0700) != 0) GTEST_SKIP() << "the volume takes no such name";
@@ -271,11 +261,11 @@ TEST(VolumePath, IsNotFoundByBytesThatAreNoUtf8) {
   EXPECT_EQ(Itself(folder / "\xFF"), folder / "\xFF");
   EXPECT_EQ(Itself(folder / "\xFE"), "status -43");
   EXPECT_EQ(Itself(folder / "\xEF\xBF\xBD"), "status -43");
-  // What stands behind it is found nevertheless.
+  // Entries below it are found nevertheless.
   EXPECT_EQ(Itself(folder / (std::string("\xFF/") + kComposed)), folder / ("\xFF/" + decomposed));
 }
 
-TEST(VolumePath, TellsWhetherTheObjectIsAFolder) {
+TEST(VolumePath, ReportsWhetherTheFileIsAFolder) {
   Places const places;
   auto const is_folder = [&places](char const* name, OptionBits options) {
     FSRef ref;
@@ -309,12 +299,12 @@ TEST(VolumePath, DoesNotFitIntoABufferThatIsTooSmall) {
 
 #ifndef __APPLE__
 
-TEST(VolumePath, ThatIsTooLongIsRefused) {
+TEST(VolumePath, ThatIsTooLongIsRejected) {
   Places const places;
   EXPECT_EQ(Itself("/" + std::string(4096, 'x')), "status -2110");
   EXPECT_EQ(Itself(places / std::string(300, 'x')), "status -2110");
 
-  // The text fits, its resolution doesn't.
+  // The path fits, but its resolution doesn't.
   std::string deep = places / "real";
   std::string const part = "/" + std::string(200, 'd');
   WorkingFolder const here(places / "real");
@@ -330,7 +320,7 @@ TEST(VolumePath, ThatIsTooLongIsRefused) {
   EXPECT_EQ(Itself(link + "/" + std::string(250, 'e')), "status -2110");
 }
 
-TEST(VolumePath, LeadsPastAnUnreadableFolderOfTheOtherForm) {
+TEST(VolumePath, SkipsAnUnreadableFolderOfTheOtherNormalForm) {
   Places const places;
   test::GiveAway(places.path().c_str());
   test::RunUnprivileged([&places] {
@@ -343,7 +333,7 @@ TEST(VolumePath, LeadsPastAnUnreadableFolderOfTheOtherForm) {
   });
 }
 
-TEST(VolumePath, OfALinkWhoseNameEndsInADotIsItsOwn) {
+TEST(VolumePath, OfASymlinkWhoseNameEndsInADotIsItsOwn) {
   Places const places;
   fs::create_symlink("real", places / "a.");
   EXPECT_EQ(Itself(places / "a."), places / "a.");
@@ -372,7 +362,7 @@ TEST(VolumePath, IsFoundInAFolderThatCannotBeListed) {
   });
 }
 
-TEST(VolumePath, FailsWhereTheFolderMayNotBeSearched) {
+TEST(VolumePath, FailsInAFolderWithoutSearchPermission) {
   Places const places;
   test::GiveAway(places.path().c_str());
   test::RunUnprivileged([&places] {
@@ -394,7 +384,7 @@ TEST(VolumePath, LeavesNoDescriptorOpen) {
   EXPECT_EQ(count(), before);
 }
 
-TEST(VolumePath, IsFoundWithoutADescriptorToSpare) {
+TEST(VolumePath, IsFoundWithoutAFreeDescriptor) {
   Places const places;
   rlimit former;
   getrlimit(RLIMIT_NOFILE, &former);

@@ -19,7 +19,7 @@ bool Succeeds(std::string const& command) {
   return std::system((command + " >/dev/null 2>&1").c_str()) == 0;
 }
 
-/// A volume in a file, mounted for the scope where the system lets us.
+/// A volume in a file, mounted until the end of the scope if the system permits.
 class FatVolume {
  public:
   FatVolume() {
@@ -46,13 +46,13 @@ class FatVolume {
 
 }  // namespace
 
-TEST(FileSystemName, IsNoneOfTheKnownOnesForALocalVolume) {
+TEST(FileSystemName, IsNoneOfTheDocumentedNamesForALocalVolume) {
   std::string name = "before";
   EXPECT_EQ(platform::FileSystemName("/", name), 0);
   EXPECT_TRUE(name != "before" && name != "nfs" && name != "smbfs" && name != "msdos") << name;
 }
 
-TEST(FileSystemName, FailsForAMissingPathAndLeavesTheName) {
+TEST(FileSystemName, FailsForAMissingPathAndLeavesTheNameUnchanged) {
   test::TempDir folder;
   std::string name = "before";
   errno = 0;
@@ -68,7 +68,7 @@ TEST(FileSystemName, IsMsdosForAMountedFatVolume) {
   EXPECT_EQ(platform::FileSystemName(volume.path().c_str(), name), 0);
   EXPECT_EQ(name, "msdos");
   EXPECT_FALSE(isMountPoint(volume.path()));
-  testing::internal::CaptureStderr();  // of the warning
+  testing::internal::CaptureStderr();  // for the warning
   EXPECT_TRUE(IsMSDOS(volume.path()));
   testing::internal::GetCapturedStderr();
 }

@@ -27,8 +27,8 @@ struct Pipe {
   int ends[2] = {};
 };
 
-/// A process that asks the guard; see guard-holder.cpp. Its executable is what it shares a guard
-/// with, so each test takes a copy of its own.
+/// A process that queries the guard; see guard-holder.cpp. Instances of the same executable share a
+/// guard, so each test uses its own copy.
 class Asker {
  public:
   explicit Asker(std::string const& program) {
@@ -55,7 +55,7 @@ class Asker {
   Asker(Asker const&) = delete;
   Asker& operator=(Asker const&) = delete;
 
-  /// What it said; waits for it.
+  /// Its output; waits for it.
   std::string Answer() {
     std::string answer;
     for (char c = 0; read(output_, &c, 1) == 1 && c != '\n';) answer += c;
@@ -68,7 +68,7 @@ class Asker {
     waitpid(pid_, nullptr, 0);
     pid_ = -1;
   }
-  /// Lets it end by itself.
+  /// Lets it exit.
   void Release() {
     close(input_);
     input_ = -1;
@@ -76,7 +76,7 @@ class Asker {
     pid_ = -1;
   }
   pid_t pid() const { return pid_; }
-  /// The lock that it holds open.
+  /// The lock file that it has open.
   fs::path Lock() const {
     for (auto const& entry : fs::directory_iterator("/proc/" + std::to_string(pid_) + "/fd")) {
       fs::path const file = fs::read_symlink(entry.path());
@@ -103,14 +103,14 @@ class SingleInstance : public testing::Test {
   std::string program;
 };
 
-TEST_F(SingleInstance, LetsTheFirstThroughAndNotTheSecond) {
+TEST_F(SingleInstance, AdmitsTheFirstButNotTheSecond) {
   Asker first(program);
   ASSERT_EQ(first.Answer(), "first");
   Asker second(program);
   EXPECT_EQ(second.Answer(), "second");
 }
 
-TEST_F(SingleInstance, IsFreeAgainWhenItsHolderHasEnded) {
+TEST_F(SingleInstance, IsFreeAfterItsHolderHasEnded) {
   Asker first(program);
   ASSERT_EQ(first.Answer(), "first");
   first.Release();
@@ -134,7 +134,7 @@ TEST_F(SingleInstance, IsHeldByAStoppedProcess) {
   EXPECT_EQ(second.Answer(), "second");
 }
 
-TEST_F(SingleInstance, IsFreeAgainWhenItsHolderWasKilledBeforeItSignedTheLock) {
+TEST_F(SingleInstance, IsFreeAfterItsHolderWasKilledBeforeWritingItsPid) {
   if (!fs::exists("/proc/self/fd")) GTEST_SKIP() << "open descriptors can't be listed";
   fs::path lock;
   {
@@ -149,7 +149,7 @@ TEST_F(SingleInstance, IsFreeAgainWhenItsHolderWasKilledBeforeItSignedTheLock) {
   next.Release();
 }
 
-TEST_F(SingleInstance, IsHeldHoweverOldTheLockIsAndWhateverItSays) {
+TEST_F(SingleInstance, IsHeldWhateverTheAgeAndContentOfTheLock) {
   if (!fs::exists("/proc/self/fd")) GTEST_SKIP() << "open descriptors can't be listed";
   Asker first(program);
   ASSERT_EQ(first.Answer(), "first");
@@ -162,7 +162,7 @@ TEST_F(SingleInstance, IsHeldHoweverOldTheLockIsAndWhateverItSays) {
   EXPECT_EQ(third.Answer(), "second");
 }
 
-TEST_F(SingleInstance, LetsOneOfFiftySimultaneousStartsThrough) {
+TEST_F(SingleInstance, AdmitsOneOfFiftySimultaneousStarts) {
   std::vector<std::unique_ptr<Asker>> askers;
   for (int i = 0; i < 50; ++i) askers.push_back(std::make_unique<Asker>(program));
   std::vector<std::string> answers;
@@ -171,7 +171,7 @@ TEST_F(SingleInstance, LetsOneOfFiftySimultaneousStartsThrough) {
   EXPECT_EQ(std::count(answers.begin(), answers.end(), "second"), 49);
 }
 
-TEST_F(SingleInstance, LetsOneOfFiftyThroughOverTheLockOfAKilledHolder) {
+TEST_F(SingleInstance, AdmitsOneOfFiftyOverTheLockOfAKilledHolder) {
   {
     Asker holder(program);
     ASSERT_EQ(holder.Answer(), "first");
@@ -183,7 +183,7 @@ TEST_F(SingleInstance, LetsOneOfFiftyThroughOverTheLockOfAKilledHolder) {
   EXPECT_EQ(firsts, 1);
 }
 
-TEST_F(SingleInstance, KnowsExecutablesApart) {
+TEST_F(SingleInstance, DistinguishesExecutables) {
   std::string const other = folder / "other";
   fs::copy_file(program, other);
   Asker first(program);
@@ -192,7 +192,7 @@ TEST_F(SingleInstance, KnowsExecutablesApart) {
   EXPECT_EQ(second.Answer(), "first");
 }
 
-TEST_F(SingleInstance, FindsTheSameGuardWhateverTheEnvironmentSays) {
+TEST_F(SingleInstance, IsIndependentOfTheEnvironment) {
   Asker first(program);
   ASSERT_EQ(first.Answer(), "first");
   setenv("TMPDIR", folder.path().c_str(), 1);

@@ -1,5 +1,5 @@
-// What the extractor asks of libarchive, and what it makes of an answer that no package on disk
-// brings about.
+// The extractor's calls of libarchive, and its reaction to results that no package on disk can
+// cause.
 #include <archive.h>
 #include <archive_entry.h>
 #include <dlfcn.h>
@@ -23,7 +23,7 @@
 
 namespace {
 
-/// The calls made so far, and the one that is to fail.
+/// The calls so far, and the one that is to fail.
 struct Calls {
   std::vector<std::string> made;
   std::string failing;
@@ -32,7 +32,7 @@ struct Calls {
   int depth = 0;
 } the_calls;
 
-/// One call. Those that the library makes of itself while it serves one aren't noted.
+/// Records a call. Calls within libarchive aren't recorded.
 class Call {
  public:
   explicit Call(std::string const& name, std::string const& detail = "") {
@@ -50,7 +50,7 @@ class Call {
   bool fails_ = false;
 };
 
-/// The library's function that this program's one hides.
+/// The library's function that this program's own hides.
 template <class Function>
 Function* Library(char const* name) {
   return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
@@ -62,7 +62,7 @@ Result* Pointer(char const* name, Arguments... arguments) {
   return call.fails() ? nullptr : Library<Result*(Arguments...)>(name)(arguments...);
 }
 
-/// A failure is but a warning, for nothing but ARCHIVE_OK may pass.
+/// The injected failure is only a warning: nothing but ARCHIVE_OK may pass.
 int Status(Call const& call, archive* failing, int result) {
   if (!call.fails()) return result;
   archive_clear_error(failing);
@@ -159,7 +159,7 @@ class ExtractorFault : public testing::Test {
   static std::ptrdiff_t Made(std::string const& name) {
     return std::count(the_calls.made.begin(), the_calls.made.end(), name);
   }
-  /// What the log says of an extraction, behind the line that it begins with.
+  /// The log of an extraction after its first line.
   Lines LinesOfAFailedExtraction() {
     EXPECT_EQ(extractor.Extract(), -1);
     Lines lines = log.Lines();
@@ -174,14 +174,14 @@ class ExtractorFault : public testing::Test {
   Extractor extractor;
 };
 
-TEST_F(ExtractorFault, CountsThenExtractsWithTheseSettingsAndClosesNothingItself) {
+TEST_F(ExtractorFault, CountsThenExtractsWithTheseSettingsAndNeverClosesExplicitly) {
   EXPECT_EQ(extractor.Extract(), 0);
   EXPECT_THAT(
       the_calls.made,
       ElementsAre("archive_read_new", "archive_read_support_filter_all",
                   "archive_read_support_format_all", "archive_read_open_filename 10240",
                   "archive_read_next_header", "archive_read_data_skip", "archive_read_next_header",
-                  "archive_read_free",  // that was the count
+                  "archive_read_free",  // end of the count
                   "archive_read_new", "archive_write_disk_new",
                   "archive_write_disk_set_options 8720", "archive_read_support_compression_all",
                   "archive_read_support_format_all", "archive_read_open_filename 10240",
@@ -190,14 +190,14 @@ TEST_F(ExtractorFault, CountsThenExtractsWithTheseSettingsAndClosesNothingItself
                   "archive_read_next_header", "archive_read_free", "archive_write_free"));
 }
 
-TEST_F(ExtractorFault, SaysThatItCannotCountWithoutAReader) {
+TEST_F(ExtractorFault, LogsThatItCannotCountWithoutAReader) {
   FailAt("archive_read_new", 1);
   EXPECT_THAT(LinesOfAFailedExtraction(),
               ElementsAre("[ERROR] extractor(0): Allocate archive failed",
                           "[ERROR] extractor(0): Failed to calculate total file numbers, ret: -1"));
 }
 
-TEST_F(ExtractorFault, NeedsAReaderOfItsOwnForTheExtraction) {
+TEST_F(ExtractorFault, NeedsASecondReaderForTheExtraction) {
   FailAt("archive_read_new", 2);
   EXPECT_THAT(LinesOfAFailedExtraction(),
               ElementsAre("[ERROR] extractor(0): Allocate extractor failed"));
@@ -212,21 +212,21 @@ TEST_F(ExtractorFault, FreesTheReaderWhenThereIsNoWriter) {
   EXPECT_EQ(Made("archive_write_free"), 0);
 }
 
-TEST_F(ExtractorFault, NamesAPackageThatOpensForTheCountOnly) {
+TEST_F(ExtractorFault, LogsAPackageThatOpensOnlyForTheCount) {
   FailAt("archive_read_open_filename", 2);
   EXPECT_THAT(LinesOfAFailedExtraction(),
               ElementsAre("[ERROR] extractor(0): Failed to read file '" + (folder / "package") +
                           "' ('made to fail')"));
 }
 
-TEST_F(ExtractorFault, EndsAtAHeaderThatComesWithAWarning) {
+TEST_F(ExtractorFault, StopsAtAHeaderWithAWarning) {
   FailAt("archive_read_next_header", 3);
   EXPECT_THAT(LinesOfAFailedExtraction(),
               ElementsAre("[ERROR] extractor(0): archive_read_next_header failed: 'made to fail'"));
   EXPECT_THAT(test::ReadTree(folder / "installed"), IsEmpty());
 }
 
-TEST_F(ExtractorFault, EndsAtAnEntryWithoutAPathAndDoesNotEndTheLine) {
+TEST_F(ExtractorFault, StopsAtAnEntryWithoutAPathAndLogsNoLineBreak) {
   FailAt("archive_entry_pathname", 1);
   EXPECT_EQ(extractor.Extract(), -1);
   extractor.package_path = "";
@@ -236,14 +236,14 @@ TEST_F(ExtractorFault, EndsAtAnEntryWithoutAPathAndDoesNotEndTheLine) {
             "[ERROR] extractor(0): Invalid Argument");
 }
 
-TEST_F(ExtractorFault, EndsAtAnEntryThatIsWrittenWithAWarning) {
+TEST_F(ExtractorFault, StopsAtAnEntryThatIsWrittenWithAWarning) {
   FailAt("archive_read_extract2", 1);
   EXPECT_THAT(LinesOfAFailedExtraction(),
               ElementsAre("[ERROR] extractor(0): archive_read_extract2 failed: 'made to fail'"));
   EXPECT_EQ(Made("progress"), 0);
 }
 
-TEST_F(ExtractorFault, EndsAtAnEntryThatCannotBeFinishedAfterReportingIt) {
+TEST_F(ExtractorFault, StopsAtAnEntryThatCannotBeFinishedAfterReportingIt) {
   FailAt("archive_write_finish_entry", 1);
   EXPECT_THAT(
       LinesOfAFailedExtraction(),
@@ -251,14 +251,14 @@ TEST_F(ExtractorFault, EndsAtAnEntryThatCannotBeFinishedAfterReportingIt) {
   EXPECT_EQ(Made("progress"), 1);
 }
 
-TEST_F(ExtractorFault, SaysWhereTheLibraryHasNoReason) {
+TEST_F(ExtractorFault, LogsAFailureWithoutAReason) {
   FailAt("archive_write_finish_entry", 1);
   the_calls.has_reason = false;
   EXPECT_THAT(LinesOfAFailedExtraction(),
               ElementsAre("[ERROR] extractor(0): archive_write_finish_entry failed: '(null)'"));
 }
 
-TEST_F(ExtractorFault, FreesTheReaderAndThenTheWriterWhereverItEnds) {
+TEST_F(ExtractorFault, FreesTheReaderThenTheWriterWhereverItStops) {
   for (auto const& [name, at] :
        std::vector<std::pair<std::string, int>>{{"archive_read_open_filename", 2},
                                                 {"archive_read_next_header", 3},
@@ -277,7 +277,7 @@ TEST_F(ExtractorFault, FreesTheReaderAndThenTheWriterWhereverItEnds) {
   }
 }
 
-TEST_F(ExtractorFault, CountsOnOverDataThatCannotBeSkipped) {
+TEST_F(ExtractorFault, ContinuesCountingAfterDataThatCannotBeSkipped) {
   FailAt("archive_read_data_skip", 1);
   EXPECT_EQ(extractor.Count(), 1);
   EXPECT_THAT(log.Lines(), IsEmpty());
@@ -295,7 +295,7 @@ TEST_F(ExtractorFault, ListClosesTheArchiveBeforeItFreesIt) {
                   "archive_read_next_header", "archive_read_close", "archive_read_free"));
 }
 
-TEST_F(ExtractorFault, ListFailsTheStreamAtAnEntryWithoutAPathAndGoesOn) {
+TEST_F(ExtractorFault, ListFailsTheStreamAtAnEntryWithoutAPathAndContinues) {
   FailAt("archive_entry_pathname", 1);
   testing::internal::CaptureStdout();
   EXPECT_EQ(extractor.List(), 0);

@@ -51,7 +51,7 @@ class ExtractorTest : public testing::Test {
   Extractor extractor;
 };
 
-TEST_F(ExtractorTest, UnpacksFilesFoldersAndLinksWithTheirModes) {
+TEST_F(ExtractorTest, UnpacksFilesFoldersAndSymlinksWithTheirModes) {
   Carry({Entry::Folder("d"), Entry::File("d/plain", "text"), Entry::File("d/run", "#!", 0755),
          Entry::Link("d/link", "plain"), Entry::File("deep/er/still", "made on the way")});
 
@@ -111,13 +111,13 @@ TEST_F(ExtractorTest, FlushesTheVolumeBeforeAnOnlyEntry) {
   EXPECT_EQ(flushed, 1);
 }
 
-TEST_F(ExtractorTest, FlushesNothingWhereItEndsBeforeTheLastEntry) {
+TEST_F(ExtractorTest, FlushesNothingIfItStopsBeforeTheLastEntry) {
   Carry({Entry::File("../outside", "1"), Entry::File("last", "2")});
   flushes.seen = [](std::string const&) { ADD_FAILURE(); };
   EXPECT_EQ(extractor.Extract(), -1);
 }
 
-TEST_F(ExtractorTest, UnpacksAllTheSameOnAVolumeThatCannotBeFlushed) {
+TEST_F(ExtractorTest, UnpacksEvenIfTheFlushFails) {
   Carry({Entry::File("a", "1"), Entry::File("b", "2")});
   flushes.fail = true;
   EXPECT_EQ(extractor.Extract(), 0);
@@ -133,14 +133,14 @@ TEST_F(ExtractorTest, LogsWhatItUnpacksAndWhere) {
                                        "' to '" + Destination() + "'"));
 }
 
-TEST_F(ExtractorTest, RefusesAnEmptyPackagePathWithoutTouchingTheLabel) {
+TEST_F(ExtractorTest, RejectsAnEmptyPackagePathWithoutSettingTheLabel) {
   extractor.package_path = "";
   EXPECT_EQ(extractor.Extract(), -1);
   EXPECT_THAT(labels, IsEmpty());
   EXPECT_THAT(log.Lines(), ElementsAre("[ERROR] extractor(0): Invalid Argument"));
 }
 
-TEST_F(ExtractorTest, RefusesAnEmptyDestination) {
+TEST_F(ExtractorTest, RejectsAnEmptyDestination) {
   Carry({Entry::File("a", "1")});
   extractor.dest_path = "";
   EXPECT_EQ(extractor.Extract(), -1);
@@ -169,13 +169,13 @@ TEST_F(ExtractorTest, TreatsAnArchiveWithoutEntriesAsAFailure) {
             "[ERROR] extractor(0): Failed to calculate total file numbers, ret: 0");
 }
 
-TEST_F(ExtractorTest, FailsOnAFileThatIsNoArchive) {
+TEST_F(ExtractorTest, FailsOnAFileThatIsNotAnArchive) {
   WriteFile(Package(), std::string(5000, 'x'));
   EXPECT_EQ(extractor.Extract(), -1);
   EXPECT_THAT(progress, IsEmpty());
 }
 
-TEST_F(ExtractorTest, RefusesAnEntryThatClimbsOutAndEndsThere) {
+TEST_F(ExtractorTest, RejectsAnEntryWithDotDotAndStops) {
   Carry({Entry::File("first", "1"), Entry::File("../outside", "2"), Entry::File("last", "3")});
 
   EXPECT_EQ(extractor.Extract(), -1);
@@ -188,21 +188,21 @@ TEST_F(ExtractorTest, RefusesAnEntryThatClimbsOutAndEndsThere) {
               StartsWith("[ERROR] extractor(0): archive_read_extract2 failed: 'Path contains"));
 }
 
-TEST_F(ExtractorTest, RefusesEveryEntryWhenTheDestinationItselfClimbs) {
+TEST_F(ExtractorTest, RejectsEveryEntryIfTheDestinationContainsDotDot) {
   Carry({Entry::File("a", "1")});
   extractor.dest_path = (Destination() + "/../installed").c_str();
   EXPECT_EQ(extractor.Extract(), -1);
   EXPECT_THAT(test::ReadTree(Destination()), IsEmpty());
 }
 
-TEST_F(ExtractorTest, LandsAnAbsoluteNameUnderTheDestination) {
+TEST_F(ExtractorTest, UnpacksAnAbsolutePathBelowTheDestination) {
   Carry({Entry::File("/etc/larkmoor-test", "1")});
   EXPECT_EQ(extractor.Extract(), 0);
   EXPECT_EQ(ReadFile(Destination() + "/etc/larkmoor-test"), "1");
   EXPECT_FALSE(std::filesystem::exists("/etc/larkmoor-test"));
 }
 
-TEST_F(ExtractorTest, ReplacesAFileThatStandsInTheWayWithoutWritingThroughIt) {
+TEST_F(ExtractorTest, ReplacesAFileInTheWayWithoutWritingThroughIt) {
   WriteFile(Destination() + "/a", "the old and longer text");
   WriteFile(folder / "kept", "untouched");
   std::filesystem::create_hard_link(Destination() + "/a", folder / "twin");
@@ -217,10 +217,10 @@ TEST_F(ExtractorTest, ReplacesAFileThatStandsInTheWayWithoutWritingThroughIt) {
   EXPECT_EQ(test::ReadTree(Destination()).at("b").type, 'f');
 }
 
-TEST_F(ExtractorTest, CountsATruncatedArchiveWithoutComplaintAndFailsAtTheDamage) {
+TEST_F(ExtractorTest, CountsATruncatedArchiveAndFailsAtTheDamage) {
   std::vector<Entry> entries;
   for (int i = 0; i < 20; ++i) entries.push_back(Entry::File("f" + std::to_string(i), "x"));
-  // Each entry takes a block of header and one of data; half a header follows the tenth entry.
+  // Each entry has a block of header and one of data; half a header follows the tenth entry.
   WriteFile(Package(), MakeArchive(entries).substr(0, 10 * 1024 + 256));
 
   EXPECT_EQ(extractor.Count(), 10);
@@ -240,21 +240,21 @@ TEST_F(ExtractorTest, FailsInTheMiddleOfAFileWhoseDataIsMissing) {
   EXPECT_TRUE(std::filesystem::exists(Destination() + "/a"));
 }
 
-TEST_F(ExtractorTest, KeepsAHardLinksTargetAsTheArchiveHasIt) {
+TEST_F(ExtractorTest, KeepsTheTargetOfAHardLinkAsInTheArchive) {
   WriteFile(folder / "target", "outside");
   Carry({Entry::HardLink("link", folder / "target")});
   EXPECT_EQ(extractor.Extract(), 0);
   EXPECT_TRUE(std::filesystem::equivalent(Destination() + "/link", folder / "target"));
 }
 
-TEST_F(ExtractorTest, DoesNotTakeOverTimesOrSetUserIdBits) {
+TEST_F(ExtractorTest, RestoresNeitherTimesNorSetUserIdBits) {
   Carry({Entry::File("a", "1", 04755)});
   EXPECT_EQ(extractor.Extract(), 0);
   EXPECT_EQ(test::ReadTree(Destination()).at("a").mode, 0755U);
 }
 
 TEST_F(ExtractorTest, FailsWhenAnEntryCannotBeWritten) {
-  // A folder that holds something can't be replaced by a file.
+  // A file can't replace a nonempty folder.
   WriteFile(Destination() + "/a/b", "in the way");
   Carry({Entry::File("a", "1")});
   EXPECT_EQ(extractor.Extract(), -1);
@@ -262,14 +262,14 @@ TEST_F(ExtractorTest, FailsWhenAnEntryCannotBeWritten) {
               StartsWith("[ERROR] extractor(0): archive_read_extract2 failed: 'Could not unlink"));
 }
 
-TEST_F(ExtractorTest, ListPrintsThePathsOneALine) {
+TEST_F(ExtractorTest, ListPrintsOnePathPerLine) {
   Carry({Entry::Folder("d"), Entry::File("d/a", "1")});
   testing::internal::CaptureStdout();
   EXPECT_EQ(extractor.List(), 0);
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "d/\nd/a\n");
 }
 
-TEST_F(ExtractorTest, ListGoesOnAfterAnEmptyPathAndLetsTheOpeningDecide) {
+TEST_F(ExtractorTest, ListLogsAnEmptyPathAndTriesToOpenIt) {
   Carry({Entry::File("a", "1")});
   extractor.dest_path = "";
   testing::internal::CaptureStdout();
@@ -293,7 +293,7 @@ TEST_F(ExtractorTest, ListFailsWhenThePackageCannotBeOpened) {
       ElementsAre(StartsWith("[ERROR] extractor(0): archive_read_open_filename failed: '")));
 }
 
-/// A reader on the package and a writer to disk, before the first entry.
+/// A reader of the package and a writer to disk, before the first entry.
 struct Copying {
   explicit Copying(std::string const& package)
       : reader(archive_read_new()), writer(archive_write_disk_new()) {
@@ -323,7 +323,7 @@ TEST_F(ExtractorTest, CopyDataCopiesTheCurrentEntry) {
   EXPECT_EQ(ReadFile(Destination() + "/a"), bytes);
 }
 
-TEST_F(ExtractorTest, CopyDataRefusesNull) {
+TEST_F(ExtractorTest, CopyDataRejectsNull) {
   Carry({Entry::File("a", "1")});
   Copying copying(Package());
   EXPECT_EQ(extractor.copy_data(nullptr, copying.writer), -1);
@@ -345,7 +345,7 @@ TEST_F(ExtractorTest, CopyDataReportsMissingData) {
               ElementsAre(StartsWith("[ERROR] extractor(0): archive_read_data_block failed: '")));
 }
 
-TEST_F(ExtractorTest, CopyDataReportsARefusedWrite) {
+TEST_F(ExtractorTest, CopyDataReportsAFailedWrite) {
   Carry({Entry::File("a", "too much")});
   Copying copying(Package());
   archive_entry* entry = nullptr;

@@ -8,13 +8,11 @@
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
-#include <functional>
+#include <filesystem>
+#include <string>
 
-#include "localisation/str-table.h"
-#include "support/archive-builder.h"
+#include "service-fixture.h"
 #include "support/files.h"
-#include "support/log-capture.h"
-#include "support/volume-flushes.h"
 
 namespace fs = std::filesystem;
 
@@ -22,80 +20,10 @@ namespace {
 
 using test::Entry;
 using test::ReadTree;
+using test::ServiceTest;
 using test::WriteFile;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-/// A Service with nothing of a platform in it, whose unpacking can be replaced.
-class PlainService : public Service {
- public:
-  PlainService() { app_path = GetUserLarkmoorAppInstallPath(); }
-
-  void StopService() override {}
-  int HandlePackageUpgrade() override { return PrepareUserEnv(); }
-  void PostUpgrade() override {}
-  void PreUpgrade() override {}
-  bool IsNeedUpgrade() override { return true; }
-  int ExtractPackage() override { return unpack ? unpack() : Service::ExtractPackage(); }
-
-  std::function<int()> unpack;
-
-  using Service::app_path;
-  using Service::source_build_version;
-  using Service::source_icon_overlay_version;
-  using Service::source_major_version;
-  using Service::source_minor_version;
-  using Service::target_build_version;
-  using Service::target_icon_overlay_version;
-  using Service::target_major_version;
-  using Service::target_minor_version;
-};
-
-/// A home folder of its own, in force from its construction on.
-class Home : public test::TempDir {
- public:
-  Home() { setenv("HOME", path().c_str(), 1); }
-};
-
-class ServiceTest : public testing::Test {
- protected:
-  ServiceTest() {
-    StrTable::InitStrTable();
-    fs::remove_all(Resources());
-  }
-  ~ServiceTest() override { fs::remove_all(Resources()); }
-
-  std::string Root() const { return Service::GetRootLarkmoorInstallPath().c_str(); }
-  std::string Resources() const { return Root() + "/Contents/Resources"; }
-  std::string UserRoot() const { return home / ".Larkmoor"; }
-  std::string App() const { return UserRoot() + "/Larkmoor.app"; }
-  std::string Backup(int index) const {
-    return App() + "_tmp" + (index == 0 ? "" : std::to_string(index));
-  }
-  std::string UserInfo() const { return App() + "/Contents/Resources/INFO"; }
-
-  /// The line of a backup that could not be made.
-  std::string RefusedBackup(int index, std::string const& end = "") const {
-    return "[ERROR] larkmoor-service(0): failed to backup app from '" + App() + "' -> '" +
-           Backup(index) + "'" + end;
-  }
-
-  void CarryPackage(std::vector<Entry> const& entries) {
-    WriteFile(Resources() + "/package/larkmoor.lpk", test::MakeArchive(entries));
-  }
-
-  Home home;
-  test::LogCapture log;
-  test::VolumeFlushes flushes;
-  PlainService service;
-};
-
-constexpr char kReady[] =
-    "[INFO] larkmoor-service(0): user installation is ready, removing backup app";
-constexpr char kRolledBack[] =
-    "[ERROR] larkmoor-service(0): Failed to extract package, rollback to old installation";
-constexpr char kNothingToRollBack[] =
-    "[ERROR] larkmoor-service(0): Failed to extract package, and no old installation to rollback";
 
 using ServicePaths = ServiceTest;
 
@@ -107,7 +35,7 @@ TEST_F(ServicePaths, FollowTheHomeDirectoryWhetherOrNotAnythingExists) {
   EXPECT_STREQ(Service::GetUserLarkmoorDataInstallPath().c_str(), "/home/u/.Larkmoor/data");
 }
 
-TEST_F(ServicePaths, KeepNamesOutsideAscii) {
+TEST_F(ServicePaths, SupportNonAsciiNames) {
   setenv("HOME", "/home/Jos\xC3\xA9", 1);
   EXPECT_STREQ(Service::GetUserLarkmoorInstallPath().c_str(), "/home/Jos\xC3\xA9/.Larkmoor");
 }
@@ -139,7 +67,7 @@ TEST_F(ServiceTest, SetTimeoutChangesNothingThatCanBeObserved) {
 
 using VersionLoading = ServiceTest;
 
-TEST_F(VersionLoading, SaysThatAFirstInstallationHasNoSource) {
+TEST_F(VersionLoading, LogsThatAFirstInstallationHasNoSource) {
   service.LoadSourceVersion();
   EXPECT_THAT(log.OwnLines(), ElementsAre("[INFO] larkmoor-service(0): source does not exist"));
   EXPECT_TRUE(service.source_build_version.empty());
@@ -159,7 +87,7 @@ TEST_F(VersionLoading, ReadsTheFourValuesOfTheUsersInstallation) {
   EXPECT_TRUE(service.target_build_version.empty());
 }
 
-TEST_F(VersionLoading, LeavesTheFieldsOfAbsentKeysAsTheyWere) {
+TEST_F(VersionLoading, LeavesTheFieldsOfAbsentKeysUnchanged) {
   WriteFile(UserInfo(), "[Version]\nbuild_version=100\n");
   service.source_minor_version = "kept";
   service.LoadSourceVersion();
@@ -167,14 +95,14 @@ TEST_F(VersionLoading, LeavesTheFieldsOfAbsentKeysAsTheyWere) {
               ElementsAre("[INFO] larkmoor-service(0): source_version = (, kept, 100, )"));
 }
 
-TEST_F(VersionLoading, LeavesTheOtherFieldsEmptyWhenThereIsOnlyABuild) {
+TEST_F(VersionLoading, LeavesTheOtherFieldsEmptyIfThereIsOnlyABuild) {
   WriteFile(UserInfo(), "[Version]\nbuild_version=100\n");
   service.LoadSourceVersion();
   EXPECT_THAT(log.OwnLines(),
               ElementsAre("[INFO] larkmoor-service(0): source_version = (, , 100, )"));
 }
 
-TEST_F(VersionLoading, TakesAnEmptyValueAsItStands) {
+TEST_F(VersionLoading, AcceptsAnEmptyValue) {
   WriteFile(UserInfo(), "[Version]\nbuild_version=\n");
   service.source_build_version = "old";
   service.LoadSourceVersion();
@@ -197,7 +125,7 @@ TEST_F(VersionLoading, LogsFourEmptyValuesForABundleWithoutVersionFile) {
   EXPECT_THAT(log.OwnLines(), ElementsAre("[INFO] larkmoor-service(0): target_version = (, , , )"));
 }
 
-TEST_F(VersionLoading, HandsOnAValueThatIsNoNumberUnchanged) {
+TEST_F(VersionLoading, StoresAValueThatIsNotANumberUnchanged) {
   WriteFile(UserInfo(), "[Version]\nbuild_version=123abc\n");
   service.LoadSourceVersion();
   EXPECT_STREQ(service.source_build_version.c_str(), "123abc");
@@ -218,7 +146,7 @@ TEST_F(VersionLoading, IgnoresOtherGroupsAndKeysAtTopLevel) {
   EXPECT_TRUE(service.source_build_version.empty());
 }
 
-TEST_F(VersionLoading, TakesAMalformedFileAsEmptyAndDoesNotWriteToIt) {
+TEST_F(VersionLoading, TreatsAMalformedFileAsEmptyAndDoesNotWriteToIt) {
   std::string const noise = std::string(
       "\x7F"
       "ELF[[[\0\xFF=\n]",
@@ -229,229 +157,7 @@ TEST_F(VersionLoading, TakesAMalformedFileAsEmptyAndDoesNotWriteToIt) {
   EXPECT_EQ(test::ReadFile(UserInfo()), noise);
 }
 
-using PrepareUserEnv = ServiceTest;
-
-TEST_F(PrepareUserEnv, InstallsForTheFirstTimeWithoutABackup) {
-  CarryPackage({Entry::File("Contents/new", "1")});
-  EXPECT_EQ(service.PrepareUserEnv(), 0);
-  EXPECT_EQ(ReadTree(UserRoot()).size(), 3U);
-  EXPECT_EQ(test::ReadFile(App() + "/Contents/new"), "1");
-}
-
-TEST_F(PrepareUserEnv, LogsWhereThePackageGoes) {
-  CarryPackage({Entry::File("new", "1")});
-  service.PrepareUserEnv();
-  EXPECT_THAT(log.OwnLines(),
-              ElementsAre("[INFO] larkmoor-service(0): extract package: '" + Resources() +
-                              "/package/larkmoor.lpk' -> '" + App() + "'",
-                          "[DEBUG] extractor(0): decompress from '" + Resources() +
-                              "/package/larkmoor.lpk' to '" + App() + "'",
-                          kReady));
-}
-
-TEST_F(PrepareUserEnv, ReplacesTheOldTreeAndLeavesNoBackup) {
-  WriteFile(App() + "/old", "1");
-  CarryPackage({Entry::File("new", "1")});
-  EXPECT_EQ(service.PrepareUserEnv(), 0);
-  EXPECT_THAT(ReadTree(UserRoot()),
-              ElementsAre(testing::Key("Larkmoor.app"), testing::Key("Larkmoor.app/new")));
-}
-
-TEST_F(PrepareUserEnv, MovesTheOldTreeAsideBeforeItUnpacks) {
-  WriteFile(App() + "/old", "1");
-  service.unpack = [this] {
-    EXPECT_FALSE(fs::exists(App()));
-    EXPECT_TRUE(fs::exists(Backup(0) + "/old"));
-    return 0;
-  };
-  EXPECT_EQ(service.PrepareUserEnv(), 0);
-}
-
-TEST_F(PrepareUserEnv, FlushesTheUsersVolumeBeforeAnyBackupIsRemoved) {
-  WriteFile(App() + "/live", "1");
-  WriteFile(Backup(0) + "/stale", "1");
-  service.unpack = [this] {
-    WriteFile(App() + "/new", "1");
-    return 0;
-  };
-  std::vector<std::string> flushed;
-  flushes.seen = [&](std::string const& path) {
-    flushed.push_back(path);
-    EXPECT_TRUE(fs::exists(App() + "/new"));
-    EXPECT_TRUE(fs::exists(Backup(0) + "/stale"));
-    EXPECT_TRUE(fs::exists(Backup(1) + "/live"));
-  };
-  EXPECT_EQ(service.PrepareUserEnv(), 0);
-  EXPECT_THAT(flushed, ElementsAre(UserRoot()));
-}
-
-TEST_F(PrepareUserEnv, FlushesForAFirstInstallationBeforeTheLastEntryAndBehindIt) {
-  CarryPackage({Entry::File("first", "1"), Entry::File("last", "2")});
-  std::vector<std::string> flushed;
-  flushes.seen = [&](std::string const& path) {
-    flushed.push_back(path);
-    EXPECT_TRUE(fs::exists(App() + "/first"));
-    EXPECT_EQ(fs::exists(App() + "/last"), flushed.size() == 2);
-  };
-  EXPECT_EQ(service.PrepareUserEnv(), 0);
-  EXPECT_THAT(flushed, ElementsAre(App(), UserRoot()));
-}
-
-TEST_F(PrepareUserEnv, InstallsAllTheSameOnAVolumeThatCannotBeFlushed) {
-  WriteFile(App() + "/old", "1");
-  CarryPackage({Entry::File("new", "1")});
-  flushes.fail = true;
-  EXPECT_EQ(service.PrepareUserEnv(), 0);
-  EXPECT_EQ(log.OwnLines().back(), kReady);
-  EXPECT_FALSE(fs::exists(Backup(0)));
-}
-
-TEST_F(PrepareUserEnv, FlushesNothingWhenItRollsBack) {
-  WriteFile(App() + "/old", "1");
-  service.unpack = [] { return -1; };
-  flushes.seen = [](std::string const&) { ADD_FAILURE(); };
-  EXPECT_EQ(service.PrepareUserEnv(), -1);
-}
-
-TEST_F(PrepareUserEnv, GetsPastAStaleBackupAndRemovesBothInTheEnd) {
-  WriteFile(App() + "/live", "1");
-  WriteFile(Backup(0) + "/stale", "1");
-  service.unpack = [this] {
-    EXPECT_TRUE(fs::exists(Backup(1) + "/live"));
-    fs::create_directory(App());
-    return 0;
-  };
-  EXPECT_EQ(service.PrepareUserEnv(), 0);
-  EXPECT_THAT(log.OwnLines(), ElementsAre(RefusedBackup(0), kReady));
-  EXPECT_THAT(ReadTree(UserRoot()), ElementsAre(testing::Key("Larkmoor.app")));
-}
-
-TEST_F(PrepareUserEnv, TakesTheNameOfAnEmptyFolderWithoutAnError) {
-  WriteFile(App() + "/live", "1");
-  fs::create_directory(Backup(0));
-  service.unpack = [] { return 0; };
-  EXPECT_EQ(service.PrepareUserEnv(), 0);
-  EXPECT_THAT(log.OwnLines(), ElementsAre(kReady));
-  EXPECT_FALSE(fs::exists(Backup(0)));
-}
-
-TEST_F(PrepareUserEnv, ClimbsToTheNinthNumberAndRemovesAllBelow) {
-  WriteFile(App() + "/live", "1");
-  for (int i = 0; i < 9; ++i) WriteFile(Backup(i) + "/stale", "1");
-  service.unpack = [this] {
-    EXPECT_TRUE(fs::exists(Backup(9) + "/live"));
-    return 0;
-  };
-  EXPECT_EQ(service.PrepareUserEnv(), 0);
-  EXPECT_EQ(log.OwnLines().size(), 10U);
-  EXPECT_EQ(log.OwnLines()[7], RefusedBackup(7));
-  EXPECT_THAT(ReadTree(UserRoot()), IsEmpty());
-}
-
-TEST_F(PrepareUserEnv, ChangesNothingWhenAllTenNamesAreTaken) {
-  WriteFile(App() + "/live", "1");
-  for (int i = 0; i < 10; ++i) WriteFile(Backup(i) + "/stale", "1");
-  test::Tree const before = ReadTree(UserRoot());
-  service.unpack = []() -> int {
-    ADD_FAILURE() << "nothing may be unpacked";
-    return 0;
-  };
-
-  EXPECT_EQ(service.PrepareUserEnv(), -1);
-
-  EXPECT_EQ(ReadTree(UserRoot()), before);
-  std::vector<std::string> expected;
-  for (int i = 0; i < 10; ++i) expected.push_back(RefusedBackup(i));
-  expected.push_back(RefusedBackup(9, " at max retries, exiting"));
-  EXPECT_EQ(log.OwnLines(), expected);
-}
-
-TEST_F(PrepareUserEnv, PutsTheOldTreeBackWhenThePackageIsMissing) {
-  WriteFile(App() + "/old", "1");
-  test::Tree const before = ReadTree(UserRoot());
-  EXPECT_EQ(service.PrepareUserEnv(), -1);
-  EXPECT_EQ(ReadTree(UserRoot()), before);
-  EXPECT_EQ(log.OwnLines().back(), kRolledBack);
-}
-
-TEST_F(PrepareUserEnv, PutsTheOldTreeBackOverAHalfWrittenNewOne) {
-  WriteFile(App() + "/old", "1");
-  test::Tree const before = ReadTree(UserRoot());
-  CarryPackage({Entry::File("new", "1"), Entry::File("../bad", "2")});
-  EXPECT_EQ(service.PrepareUserEnv(), -1);
-  EXPECT_EQ(ReadTree(UserRoot()), before);
-}
-
-TEST_F(PrepareUserEnv, LeavesWhatWasUnpackedWhenThereIsNothingToPutBack) {
-  CarryPackage({Entry::File("new", "1"), Entry::File("../bad", "2")});
-  EXPECT_EQ(service.PrepareUserEnv(), -1);
-  EXPECT_TRUE(fs::exists(App() + "/new"));
-  EXPECT_EQ(log.OwnLines().back(), kNothingToRollBack);
-}
-
-TEST_F(PrepareUserEnv, KeepsTheBackupOfACrashedRunWhenAFirstInstallationFails) {
-  WriteFile(Backup(0) + "/old", "1");
-  EXPECT_EQ(service.PrepareUserEnv(), -1);
-  EXPECT_TRUE(fs::exists(Backup(0) + "/old"));
-  EXPECT_EQ(log.OwnLines().back(), kNothingToRollBack);
-}
-
-TEST_F(PrepareUserEnv, RemovesTheBackupOfACrashedRunAfterAFirstInstallation) {
-  WriteFile(Backup(0) + "/old", "1");
-  service.unpack = [] { return 0; };
-  EXPECT_EQ(service.PrepareUserEnv(), 0);
-  EXPECT_FALSE(fs::exists(Backup(0)));
-}
-
-TEST_F(PrepareUserEnv, LeavesBackupsAboveItsOwnNumberAlone) {
-  WriteFile(App() + "/live", "1");
-  WriteFile(Backup(3) + "/stale", "1");
-  service.unpack = [] { return 0; };
-  EXPECT_EQ(service.PrepareUserEnv(), 0);
-  EXPECT_TRUE(fs::exists(Backup(3) + "/stale"));
-}
-
-TEST_F(PrepareUserEnv, PutsBackThePartialTreeOfACrashedRunAndLeavesTheOldOneAside) {
-  WriteFile(App() + "/partial", "1");
-  WriteFile(Backup(0) + "/old", "1");
-  test::Tree const before = ReadTree(UserRoot());
-  EXPECT_EQ(service.PrepareUserEnv(), -1);
-  EXPECT_EQ(ReadTree(UserRoot()), before);
-  EXPECT_EQ(log.OwnLines().front(), RefusedBackup(0));
-  EXPECT_EQ(log.OwnLines().back(), kRolledBack);
-}
-
-TEST_F(PrepareUserEnv, CountsAnyResultOfUnpackingButZeroAsAFailure) {
-  WriteFile(App() + "/old", "1");
-  service.unpack = [] { return 7; };
-  EXPECT_EQ(service.PrepareUserEnv(), -1);
-  EXPECT_TRUE(fs::exists(App() + "/old"));
-}
-
-TEST_F(PrepareUserEnv, ReportsARollbackThatCannotBeMadeNoFurther) {
-  WriteFile(App() + "/old", "1");
-  service.unpack = [this] {
-    fs::rename(Backup(0), home / "elsewhere");
-    return -1;
-  };
-  EXPECT_EQ(service.PrepareUserEnv(), -1);
-  EXPECT_EQ(log.OwnLines().back(), kRolledBack);
-}
-
-TEST_F(PrepareUserEnv, RollsBackWhenTheDestinationCannotBeMade) {
-  WriteFile(App() + "/old", "1");
-  service.unpack = [this] {
-    WriteFile(App(), "a file in the way");
-    return service.Service::ExtractPackage();
-  };
-  EXPECT_EQ(service.PrepareUserEnv(), -1);
-  EXPECT_THAT(log.OwnLines(),
-              ElementsAre("[ERROR] larkmoor-service(0): failed to create folder: '" + App() + "'",
-                          kRolledBack));
-  EXPECT_TRUE(fs::exists(App() + "/old"));
-}
-
-TEST_F(ServiceTest, ExtractPackageFailsWhereAFileStandsInTheFoldersPlace) {
+TEST_F(ServiceTest, ExtractPackageFailsIfAFileIsInTheWayOfTheFolder) {
   CarryPackage({Entry::File("a", "1")});
   WriteFile(App(), "a file in the way");
   EXPECT_EQ(service.Service::ExtractPackage(), -1);
@@ -460,7 +166,7 @@ TEST_F(ServiceTest, ExtractPackageFailsWhereAFileStandsInTheFoldersPlace) {
 
 using RemoveAgedFolders = ServiceTest;
 
-TEST_F(RemoveAgedFolders, RemovesTheOneFixedFolderAndNoBackup) {
+TEST_F(RemoveAgedFolders, RemovesTheAgedFolderAndNoBackup) {
   WriteFile(UserRoot() + "/app/Contents/old", "1");
   WriteFile(UserRoot() + "/application/kept", "1");
   WriteFile(Backup(0) + "/kept", "1");
@@ -470,7 +176,7 @@ TEST_F(RemoveAgedFolders, RemovesTheOneFixedFolderAndNoBackup) {
   EXPECT_TRUE(fs::exists(Backup(0) + "/kept"));
 }
 
-TEST_F(RemoveAgedFolders, LogsItsLineEvenWhenThereIsNothing) {
+TEST_F(RemoveAgedFolders, LogsItsLineEvenIfThereIsNothing) {
   service.RemoveAgedFolders();
   EXPECT_THAT(log.OwnLines(), ElementsAre("[INFO] larkmoor-service(0): removing aged app folder " +
                                           UserRoot() + "/app"));
@@ -515,7 +221,7 @@ TEST_F(FSCopyPathTest, CopiesAnEmptyFolder) {
   EXPECT_TRUE(fs::is_empty(To()));
 }
 
-TEST_F(FSCopyPathTest, FailsForAFolderWhoseFileFindsNoSpace) {
+TEST_F(FSCopyPathTest, FailsForAFolderIfTheDiskIsFull) {
   if (!fs::exists("/dev/full")) GTEST_SKIP() << "this system has no /dev/full";
   WriteFile(From() + "/a", "1");
   fs::create_directory(To());
@@ -540,7 +246,7 @@ TEST_F(FSCopyPathTest, ReportsSuccessForASingleFileThatCannotBeCopied) {
   EXPECT_EQ(Copy(), 0);
 }
 
-TEST_F(FSCopyPathTest, FailsForAFolderWithSuchAFileAndNamesTheChild) {
+TEST_F(FSCopyPathTest, FailsForAFolderWithSuchAFileAndLogsItsPath) {
   WriteFile(From() + "/a", "1");
   fs::create_directories(To() + "/a");
   EXPECT_EQ(Copy(), -1);
@@ -573,7 +279,7 @@ TEST_F(FSCopyPathTest, FailsWhenTheDestinationIsAFile) {
 TEST_F(FSCopyPathTest, CountsAnUnreadableFolderAsCopied) {
   WriteFile(From() + "/a", "1");
   chmod(From().c_str(), 0);
-  // Permissions bind nobody but an ordinary user, so the copy is made as one, in a child.
+  // Permissions restrict only ordinary users, so a child copies as one.
   chmod(home.path().c_str(), 0777);
   pid_t const child = fork();
   if (child == 0) {

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kFiles = 1000;
 
-TEST(TempDir, IsRemovedAlthoughSomebodyStillAddsToIt) {
+TEST(TempDir, IsRemovedAlthoughAProcessStillAddsToIt) {
   fs::path path;
   std::thread late;
   {
