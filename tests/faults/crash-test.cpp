@@ -23,8 +23,8 @@ struct Scenario {
   char const* name;
   Beginning beginning;
   bool is_sound;
-  size_t points;                 ///< at least so many; a fifth of them with a tiny client
-  std::set<std::string> states;  ///< those that a kill may leave
+  size_t points;                 ///< the minimum; a fifth of it with a tiny client
+  std::set<std::string> states;  ///< the states that a kill may leave
 };
 
 void PrintTo(Scenario const& scenario, std::ostream* out) { *out << scenario.name; }
@@ -80,7 +80,7 @@ std::string Describe(Point const& point, TracedRun const& run) {
   return text.str();
 }
 
-/// A tiny one where time is short and each call is dear.
+/// A tiny one if time is short and calls are slow.
 test::SweepMaterial::Size SizeOfClient() {
   using Size = test::SweepMaterial::Size;
   return test::IsShort() && test::NameOfVolume() != nullptr ? Size::kTiny : Size::kSmall;
@@ -97,7 +97,7 @@ class CrashSweep : public testing::TestWithParam<Scenario> {
     return scenario_.is_sound ? material_.sound : material_.damaged;
   }
 
-  /// Each call of a run that nobody disturbs, and after them one more that must not be there.
+  /// Every call of an uninterrupted run, and one more that must not exist.
   void CollectPoints() {
     SweepSandbox box(material_);
     box.Begin(scenario_.beginning);
@@ -112,7 +112,7 @@ class CrashSweep : public testing::TestWithParam<Scenario> {
     EXPECT_EQ(box.Launch(Package(), KillAt(calls + 1, false)).hits, 0U);
   }
 
-  /// Starts the launcher and lets it be killed; false when it wasn't, which fails the test.
+  /// Starts the launcher and kills it. Returns false, and fails the test, if it wasn't killed.
   bool Kill(SweepSandbox& box, std::string const& package, Point const& point, std::string& what) {
     TracedRun const run = box.Launch(package, KillAt(point.call, point.after));
     what += (what.empty() ? "" : "; then ") + Describe(point, run);
@@ -121,7 +121,7 @@ class CrashSweep : public testing::TestWithParam<Scenario> {
     return killed;
   }
 
-  /// One start with a sound package. Returns how many changing calls it made.
+  /// A start with a valid package. Returns the number of calls that change the disk.
   unsigned ExpectMended(SweepSandbox& box, std::string const& what) {
     size_t const starts = box.Starts();
     TracedRun const run = box.Launch(material_.sound, OnlyCount());
@@ -131,7 +131,7 @@ class CrashSweep : public testing::TestWithParam<Scenario> {
     return static_cast<unsigned>(run.calls.size());
   }
 
-  /// One start with a damaged package.
+  /// A start with a damaged package.
   unsigned ExpectKept(SweepSandbox& box, bool new_is_enough, std::string const& what) {
     TracedRun const run = box.Launch(material_.damaged, OnlyCount());
     EXPECT_EQ(run.outcome.status, 0) << what;
@@ -139,8 +139,8 @@ class CrashSweep : public testing::TestWithParam<Scenario> {
     return static_cast<unsigned>(run.calls.size());
   }
 
-  /// The old tree is there under one of its names. Where a sound package was at hand, the new tree
-  /// may have taken its place.
+  /// The old tree exists under one of its names. With a valid package, the new tree may have
+  /// replaced it.
   void ExpectATree(SweepSandbox const& box, bool new_is_enough, std::string const& what) const {
     if (scenario_.beginning == Beginning::kNothing) return;
     EXPECT_TRUE(box.HoldsFormer() || (new_is_enough && box.HoldsCarried()))
@@ -184,7 +184,7 @@ class CrashSweep : public testing::TestWithParam<Scenario> {
     box.PutBack();
     unsigned const damaged_calls = ExpectKept(box, scenario_.is_sound, what);
     if (test::IsShort() && point.call % 4 != 0) return;
-    // In turn with the one package and the other: the places of the second kill differ anyway.
+    // Alternates the packages: the second kill is at different calls anyway.
     bool const sound = (point.call + (point.after ? 1 : 0)) % 2 == 0;
     KillOnceMore(box, point, what, sound, sound ? sound_calls : damaged_calls);
   }
@@ -202,7 +202,7 @@ void ReportStates(test::Tally const& tally) {
   }
 }
 
-TEST_P(CrashSweep, LeavesANamedStateAtEveryCallThatTheNextStartMends) {
+TEST_P(CrashSweep, LeavesADocumentedStateAtEveryCallThatTheNextStartFixes) {
   CollectPoints();
   test::ForEachPoint(points_.size(), material_,
                      [&](SweepSandbox& box, size_t i) { Check(box, points_[i]); });

@@ -1,5 +1,4 @@
-// Packages that were cut or changed on their way: what is refused, and that the old tree comes
-// back.
+// Truncated and corrupted packages: what is rejected, and that the old tree is restored.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -21,13 +20,13 @@ using test::HostilePackage;
 using test::Sandbox;
 using test::Tree;
 
-/// The transaction on a sandbox, in this process: a hundred times faster than a start.
+/// The upgrade of a sandbox in this process: a hundred times faster than a start.
 class Transaction : public MacService {
  public:
   explicit Transaction(Sandbox const& sandbox) : package_(sandbox.Package()) {
     app_path = ustring(sandbox.App());
   }
-  /// As in the program, which asks for the two paths where this one knows them.
+  /// Like the program's, with known paths.
   int ExtractPackage() override {
     fs::create_directories(app_path.c_str());
     Extractor extractor;
@@ -42,8 +41,8 @@ class Transaction : public MacService {
 
 class DamagedPackage : public HostilePackage {
  protected:
-  /// Upgrades from the old tree with these bytes as the package. Whatever is refused has to leave
-  /// the old tree.
+  /// Upgrades from the old tree with these bytes as the package. If they are rejected, the old tree
+  /// must be back.
   int Extract(std::string const& bytes) {
     sandbox_.CarryPackage(bytes);
     Restore();
@@ -55,7 +54,7 @@ class DamagedPackage : public HostilePackage {
   Tree Extracted() const { return test::ReadTree(sandbox_.App()); }
 };
 
-TEST_F(DamagedPackage, CompressedAndCutAtAnyBlockIsRefused) {
+TEST_F(DamagedPackage, CompressedAndTruncatedAtAnyBlockIsRejected) {
   std::mt19937 random(1);
   std::vector<Entry> entries = Sandbox::Client(200);
   for (char& byte : entries[3].content) byte = static_cast<char>(random());
@@ -66,7 +65,7 @@ TEST_F(DamagedPackage, CompressedAndCutAtAnyBlockIsRefused) {
   EXPECT_EQ(Extract(whole), 0);
 }
 
-TEST_F(DamagedPackage, PlainTarCutBetweenTwoEntriesPassesForWhole) {
+TEST_F(DamagedPackage, PlainTarTruncatedBetweenTwoEntriesIsAccepted) {
   std::string const whole = SoundClient();
   size_t passed = 0;
   size_t refused = 0;
@@ -75,8 +74,8 @@ TEST_F(DamagedPackage, PlainTarCutBetweenTwoEntriesPassesForWhole) {
   for (size_t size = 0; size < whole.size(); size += 512) {
     int const result = Extract(whole.substr(0, size));
     (result == 0 ? passed : refused)++;
-    // Whatever passes is made of whole entries, the last ones are missing: INFO among them, so
-    // that the next start unpacks again.
+    // What is accepted consists of complete entries and lacks the last ones. INFO is among them, so
+    // the next start unpacks again.
     Tree const part = Extracted();
     if (result != 0 || part == tree) continue;
     EXPECT_EQ(part.count("Contents/Resources/INFO"), 0U) << "cut at " << size;
@@ -85,11 +84,11 @@ TEST_F(DamagedPackage, PlainTarCutBetweenTwoEntriesPassesForWhole) {
   EXPECT_GT(refused, 0U);
 }
 
-/// What became of a thousand packages with one flipped bit each.
+/// The results of a thousand packages with one flipped bit each.
 struct Flips {
   int refused = 0;
-  int same = 0;   ///< the whole tree, byte for byte
-  int other = 0;  ///< accepted, and something differs
+  int same = 0;   ///< the complete tree, byte for byte
+  int other = 0;  ///< accepted, but different
 };
 
 class FlippedBit : public DamagedPackage, public testing::WithParamInterface<char const*> {
@@ -113,8 +112,8 @@ class FlippedBit : public DamagedPackage, public testing::WithParamInterface<cha
   }
 };
 
-/// A sound client, packed as scripts/make-package does: zstd's own program adds a checksum, which
-/// libarchive leaves out.
+/// A valid client, packed as by scripts/make-package: the program zstd adds a checksum, libarchive
+/// doesn't.
 std::string Packed(std::string const& filter) {
   if (filter != "zstd") return test::MakeArchive(Sandbox::Client(200), "gnutar", filter);
   test::TempDir const folder;
@@ -124,13 +123,13 @@ std::string Packed(std::string const& filter) {
   return test::ReadFile(tar + ".zst");
 }
 
-TEST_P(FlippedBit, NeverWritesOutsideAndPassesUnnoticedOnlyWhereNoChecksumIsLookedAt) {
+TEST_P(FlippedBit, NeverWritesOutsideAndIsMissedOnlyWhereNoChecksumIsVerified) {
   Tree const beside = Beside();
   std::string const filter = GetParam();
   Flips const flips = FlipAThousand(Packed(filter));
   EXPECT_EQ(Beside(), beside);
   EXPECT_GT(flips.refused, 0);
-  // libarchive doesn't look at gzip's checksum; plain tar has one for headers alone.
+  // libarchive doesn't verify gzip's checksum; plain tar only has one for headers.
   EXPECT_EQ(flips.other != 0, filter == "none" || filter == "gzip");
   test::Report("a flipped bit at 1,000 places, filter " + filter + ": " +
                std::to_string(flips.refused) + " refused, " + std::to_string(flips.same) +
@@ -140,7 +139,7 @@ TEST_P(FlippedBit, NeverWritesOutsideAndPassesUnnoticedOnlyWhereNoChecksumIsLook
 INSTANTIATE_TEST_SUITE_P(Filters, FlippedBit, testing::Values("none", "gzip", "zstd", "xz"),
                          [](auto const& parameter) { return std::string(parameter.param); });
 
-TEST_F(HostilePackage, AnyDamageGivesTheOldTreeBack) {
+TEST_F(HostilePackage, AnyDamageIsRolledBack) {
   std::string const whole = test::MakeArchive(Sandbox::Client(200), "gnutar", "gzip");
   for (size_t size : {size_t{0}, size_t{1}, size_t{17}, whole.size() / 2, whole.size() - 1}) {
     sandbox_.CarryPackage(whole.substr(0, size));

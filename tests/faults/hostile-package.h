@@ -9,8 +9,8 @@
 
 namespace test {
 
-/// An installation of build 100, a bundle of build 200 whose package each test makes, and a folder
-/// outside the home that no package should reach.
+/// An installation of build 100, a bundle of build 200 whose package each test creates, and a
+/// folder outside the home that no package should reach.
 class HostilePackage : public testing::Test {
  protected:
   HostilePackage() {
@@ -20,7 +20,7 @@ class HostilePackage : public testing::Test {
     WriteFile(Outside() + "/victim", "mine");
     std::filesystem::create_directories(Outside() + "/closed");
     std::filesystem::permissions(Outside() + "/closed", std::filesystem::perms(0700));
-    // Packages are unpacked with the home as the working folder.
+    // The working folder during unpacking is the home.
     WriteFile(sandbox_.Home() + "/victim", "mine");
     old_ = ReadTree(sandbox_.App());
   }
@@ -28,7 +28,7 @@ class HostilePackage : public testing::Test {
   std::string Outside() const { return sandbox_.folder() / "outside"; }
   static std::string SoundClient() { return MakeArchive(Sandbox::Client(200), "gnutar"); }
 
-  /// Everything beside the per-user root, but for what the client itself leaves in its home.
+  /// Everything outside the user's root, except what the client leaves in its home.
   Tree Beside() const {
     Tree all = ReadTree(Outside());
     for (auto const& entry : std::filesystem::directory_iterator(sandbox_.folder().path())) {

@@ -1,5 +1,5 @@
-// Packages that nobody honest would make: what is refused, what is installed, and that nothing
-// lands outside the per-user root but where the table says so.
+// Malicious packages: what is rejected, what is installed, and that nothing is written outside the
+// user's root except where the table says so.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -31,17 +31,17 @@ using test::TarHeader;
 using test::Tree;
 
 enum class Verdict {
-  kRefused,    ///< the extraction fails and the old tree is back
-  kInstalled,  ///< the new tree stands, the hostile entry has become harmless or is as told
-  kEscapes,    ///< installed, and something outside the per-user root has changed
+  kRejected,   ///< the extraction fails and is rolled back
+  kInstalled,  ///< the new tree is installed, and the entry is harmless or as documented
+  kEscapes,    ///< installed, and something outside the user's root has changed
 };
 
 struct Case {
   char const* name;
   Verdict verdict;
-  /// Entries ahead of a sound client. `outside` is a folder beside the home.
+  /// Entries before a valid client. `outside` is a folder next to the home.
   std::function<std::string(std::string const& outside)> entries;
-  /// Looks at the application folder afterwards.
+  /// Checks the application folder afterwards.
   std::function<void(std::string const& app)> check = [](std::string const&) {};
 };
 
@@ -56,12 +56,13 @@ std::string Repeat(std::string const& text, int times) {
 std::vector<Case> const& Cases() {
   using S = std::string const&;
   static std::vector<Case> const cases = {
-      {"dot-dot at the beginning", Verdict::kRefused, [](S) { return TarFile("../evil", "x"); }},
-      {"dot-dot in the middle", Verdict::kRefused,
+      {"dot-dot at the beginning", Verdict::kRejected, [](S) { return TarFile("../evil", "x"); }},
+      {"dot-dot in the middle", Verdict::kRejected,
        [](S) { return TarFile("Contents/../../evil", "x"); }},
-      {"dot-dot at the end", Verdict::kRefused, [](S) { return TarHeader("Contents/..", '5', 0); }},
-      {"dot-dot alone", Verdict::kRefused, [](S) { return TarHeader("..", '5', 0); }},
-      {"dot-dot behind many slashes", Verdict::kRefused,
+      {"dot-dot at the end", Verdict::kRejected,
+       [](S) { return TarHeader("Contents/..", '5', 0); }},
+      {"dot-dot alone", Verdict::kRejected, [](S) { return TarHeader("..", '5', 0); }},
+      {"dot-dot behind many slashes", Verdict::kRejected,
        [](S) { return TarFile("Contents////..//evil", "x"); }},
       {"dots that are a name", Verdict::kInstalled, [](S) { return TarFile(".../..a", "x"); },
        [](S app) { EXPECT_TRUE(Stands(app + "/.../..a")); }},
@@ -102,9 +103,9 @@ std::vector<Case> const& Cases() {
          return TarHeader("twin", '1', 0, outside + "/victim") + TarFile("twin", "evil");
        },
        [](S app) { EXPECT_EQ(fs::hard_link_count(app + "/twin"), 1U); }},
-      {"a hard link with dot-dot in its target", Verdict::kRefused,
+      {"a hard link with dot-dot in its target", Verdict::kRejected,
        [](S) { return TarHeader("twin", '1', 0, "../../victim"); }},
-      {"a hard link with a relative target isn't looked for in the package", Verdict::kRefused,
+      {"a hard link with a relative target isn't looked for in the package", Verdict::kRejected,
        [](S) { return TarFile("file", "x") + TarHeader("twin", '1', 0, "file"); }},
       {"a hard link with a relative target gives a file of the working folder a second name",
        Verdict::kInstalled, [](S) { return TarHeader("twin", '1', 0, "victim"); },
@@ -140,12 +141,12 @@ std::vector<Case> const& Cases() {
       {"a name of 255 bytes", Verdict::kInstalled,
        [](S) { return LongName(std::string(255, 'n')) + TarFile("short", "x"); },
        [](S app) { EXPECT_TRUE(Stands(app + "/" + std::string(255, 'n'))); }},
-      {"a name of 256 bytes", Verdict::kRefused,
+      {"a name of 256 bytes", Verdict::kRejected,
        [](S) { return LongName(std::string(256, 'n')) + TarFile("short", "x"); }},
       {"invalid UTF-8 in a name", Verdict::kInstalled,
        [](S) { return TarFile("bad-\xff\xfe", "x"); },
        [](S app) { EXPECT_TRUE(Stands(app + "/bad-\xff\xfe")); }},
-      {"invalid UTF-8 where UTF-8 is promised", Verdict::kRefused,
+      {"invalid UTF-8 where UTF-8 is promised", Verdict::kRejected,
        [](S) { return PaxName("bad-\xff\xfe") + TarFile("short", "x"); }},
       {"a path of more than 4,096 bytes", Verdict::kInstalled,
        [](S) { return LongName(Repeat("folder/", 600) + "file") + TarFile("short", "x"); }},
@@ -154,18 +155,18 @@ std::vector<Case> const& Cases() {
        [](S) { return TarHeader("./", '5', 0, "", 0755); }},
       {"the folder itself as a file, which the next entry makes a folder again",
        Verdict::kInstalled, [](S) { return TarFile(".", "x"); }},
-      {"the folder itself as a file, which the next entry needs as a folder", Verdict::kRefused,
+      {"the folder itself as a file, which the next entry needs as a folder", Verdict::kRejected,
        [](S) { return TarFile(".", "x") + TarFile("file", "x"); }},
-      {"the folder itself as a link that leads nowhere", Verdict::kRefused,
+      {"the folder itself as a link that leads nowhere", Verdict::kRejected,
        [](S) { return TarHeader(".", '2', 0, "nowhere"); }},
       {"the folder itself as a link out of the tree", Verdict::kEscapes,
        [](S outside) { return TarHeader(".", '2', 0, outside); },
        [](S app) { EXPECT_TRUE(fs::is_symlink(app)); }},
-      {"the folder itself as a link, behind another entry", Verdict::kRefused,
+      {"the folder itself as a link, behind another entry", Verdict::kRejected,
        [](S outside) { return TarFile("file", "x") + TarHeader("", '2', 0, outside); }},
-      {"the folder itself as a file, behind another entry", Verdict::kRefused,
+      {"the folder itself as a file, behind another entry", Verdict::kRejected,
        [](S) { return TarFile("file", "x") + TarFile("", "x"); }},
-      {"an entry that is its own parent", Verdict::kRefused,
+      {"an entry that is its own parent", Verdict::kRejected,
        [](S) { return TarFile("own", "x") + TarFile("own/own", "y"); }},
       {"a file, then a folder of its name", Verdict::kInstalled,
        [](S) { return TarFile("turns", "x") + TarHeader("turns", '5', 0, "", 0755); },
@@ -173,9 +174,9 @@ std::vector<Case> const& Cases() {
       {"an empty folder, then a file of its name", Verdict::kInstalled,
        [](S) { return TarHeader("turns", '5', 0, "", 0755) + TarFile("turns", "x"); },
        [](S app) { EXPECT_TRUE(fs::is_regular_file(app + "/turns")); }},
-      {"a full folder, then a file of its name", Verdict::kRefused,
+      {"a full folder, then a file of its name", Verdict::kRejected,
        [](S) { return TarFile("turns/in", "x") + TarFile("turns", "x"); }},
-      {"a size that is larger than the archive", Verdict::kRefused,
+      {"a size that is larger than the archive", Verdict::kRejected,
        [](S) { return TarHeader("large", '0', 07777777777); }},
   };
   return cases;
@@ -183,13 +184,13 @@ std::vector<Case> const& Cases() {
 
 class HostileEntry : public HostilePackage, public testing::WithParamInterface<size_t> {};
 
-TEST_P(HostileEntry, IsRefusedOrInstalledAsTold) {
+TEST_P(HostileEntry, IsRejectedOrInstalledAsListed) {
   Case const& hostile = Cases()[GetParam()];
   SCOPED_TRACE(hostile.name);
   sandbox_.CarryPackage(hostile.entries(Outside()) + SoundClient());
   Tree const beside = Beside();
   ASSERT_EQ(sandbox_.Launch().status, 0);
-  if (hostile.verdict == Verdict::kRefused) {
+  if (hostile.verdict == Verdict::kRejected) {
     EXPECT_TRUE(IsRolledBack()) << sandbox_.RawLog();
   } else {
     EXPECT_TRUE(IsInstalled()) << sandbox_.RawLog();
@@ -198,7 +199,7 @@ TEST_P(HostileEntry, IsRefusedOrInstalledAsTold) {
   EXPECT_EQ(Beside() != beside, hostile.verdict == Verdict::kEscapes);
 }
 
-/// The case's name as a test's.
+/// The case's name in camel case.
 std::string TestName(testing::TestParamInfo<size_t> const& parameter) {
   std::string name;
   bool upper = true;
@@ -211,7 +212,7 @@ std::string TestName(testing::TestParamInfo<size_t> const& parameter) {
 
 INSTANTIATE_TEST_SUITE_P(Table, HostileEntry, testing::Range(size_t{0}, Cases().size()), TestName);
 
-TEST_F(HostilePackage, OneEntryInPlaceOfTheFolderItselfIsASuccessWithoutAClient) {
+TEST_F(HostilePackage, AnEntryThatReplacesTheFolderItselfIsASuccessWithoutAClient) {
   sandbox_.LogEverything();
   for (std::string const& package :
        {TarFile("", "x"), TarFile(".", "x"), TarHeader(".", '2', 0, "nowhere")}) {
@@ -223,23 +224,23 @@ TEST_F(HostilePackage, OneEntryInPlaceOfTheFolderItselfIsASuccessWithoutAClient)
     EXPECT_FALSE(Stands(sandbox_.App() + "_tmp"));
     EXPECT_TRUE(IsLogged("user installation is ready"));
     EXPECT_TRUE(IsLogged("Failed to launch Larkmoor UI"));
-    // The executable is missing, so that each start tries again.
+    // The executable is missing, so every start tries again.
     sandbox_.CarryPackage(SoundClient());
     ASSERT_EQ(sandbox_.Launch().status, 0);
     EXPECT_TRUE(IsInstalled()) << sandbox_.RawLog();
   }
 }
 
-/// Trees that can be unpacked and not removed again.
+/// Trees that can be unpacked but not removed.
 class StubbornTree : public HostilePackage {
  protected:
   ~StubbornTree() override {
-    // Deeper than this process may have folders open.
+    // Deeper than this process can have folders open.
     test::Run({{"chmod", "-R", "u+w", sandbox_.folder().path()}, {}, "", "", false});
     test::Run({{"rm", "-rf", sandbox_.folder().path()}, {}, "", "", false});
   }
 
-  /// With 1,024 descriptors at the most.
+  /// With a limit of 1,024 descriptors.
   static void Launch(test::Process::Options start) {
     start.program = "/bin/sh";
     start.arguments.insert(start.arguments.begin(),
@@ -247,13 +248,13 @@ class StubbornTree : public HostilePackage {
     ASSERT_EQ(test::Run(start).status, 0);
   }
 
-  /// How to start the launcher as somebody whom permissions hold back.
+  /// How to start the launcher as a user whom permissions restrict.
   test::Process::Options StartAsUser() const {
     return geteuid() == 0 ? test::StartAsNobody(sandbox_) : sandbox_.Start();
   }
 
-  /// A package with this tree is refused at its end: the tree can't be removed, and the old one
-  /// stays aside. A sound package then goes into place, and only the tree is left.
+  /// A package with this tree is rejected at its end: the tree can't be removed, and the old one
+  /// stays aside. A valid package is then installed, and only the tree remains.
   void ExpectToBlockTheRollback(std::string const& tree, bool as_user = false) {
     auto const start = [&] { return as_user ? StartAsUser() : sandbox_.Start(); };
     sandbox_.CarryPackage(tree + TarFile("../evil", "x"));
@@ -274,7 +275,7 @@ TEST_F(StubbornTree, OfAPathOfMoreThan4096BytesBlocksTheRollback) {
                            TarFile("short", "x"));
 }
 
-TEST_F(StubbornTree, WithMoreFoldersInOneAnotherThanDescriptorsBlocksTheRollback) {
+TEST_F(StubbornTree, WithDeeperFoldersThanDescriptorsBlocksTheRollback) {
   ExpectToBlockTheRollback(LongName("stubborn/" + Repeat("d/", 1100) + "file") +
                            TarFile("short", "x"));
 }
@@ -283,7 +284,7 @@ std::string FolderThatCannotBeWritten() {
   return TarHeader("stubborn", '5', 0, "", 0555) + TarFile("stubborn/file", "x");
 }
 
-TEST_F(StubbornTree, WithAFolderThatItsOwnerCannotWriteBlocksTheRollback) {
+TEST_F(StubbornTree, WithAReadOnlyFolderBlocksTheRollback) {
   if (geteuid() == 0 && !test::CanBecomeNobody()) GTEST_SKIP() << "root may write any folder";
   ExpectToBlockTheRollback(FolderThatCannotBeWritten(), true);
 }
@@ -300,14 +301,14 @@ TEST_F(StubbornTree, ThatWasInstalledStaysAsABackupOfTheNextUpgrade) {
   EXPECT_TRUE(fs::exists(sandbox_.App() + "_tmp/stubborn/file"));
 }
 
-TEST_F(HostilePackage, ADeviceNodeIsRefused) {
+TEST_F(HostilePackage, ADeviceNodeIsRejected) {
   if (!test::CanBecomeNobody()) GTEST_SKIP() << "only root can start a launcher as another user";
   sandbox_.CarryPackage(TarHeader("device", '3', 0) + SoundClient());
   ASSERT_EQ(test::Run(test::StartAsNobody(sandbox_)).status, 0);
   EXPECT_TRUE(IsRolledBack()) << sandbox_.RawLog();
 }
 
-TEST_F(HostilePackage, ADeviceNodeIsMadeForRoot) {
+TEST_F(HostilePackage, ADeviceNodeIsCreatedForRoot) {
   if (geteuid() != 0) GTEST_SKIP() << "only root can make devices";
   sandbox_.CarryPackage(TarHeader("device", '3', 0) + SoundClient());
   ASSERT_EQ(sandbox_.Launch().status, 0);
@@ -332,7 +333,7 @@ TEST_F(HostilePackage, AHundredThousandEmptyEntriesAreInstalled) {
   EXPECT_EQ(files, 100000U);
 }
 
-/// GNU tar's old sparse form: one byte at the end of 4 GiB.
+/// GNU tar's old sparse format: one byte at the end of 4 GiB.
 std::string SparseFile() {
   constexpr unsigned long long kSize = 1ULL << 32;
   std::string header = TarHeader("sparse", 'S', 512);
@@ -349,7 +350,7 @@ std::string SparseFile() {
   return header + std::string(512, 's');
 }
 
-TEST_F(HostilePackage, ASparseFileOfFourGibibytesTakesNextToNoRoom) {
+TEST_F(HostilePackage, ASparseFileOfFourGibibytesTakesHardlyAnySpace) {
   sandbox_.CarryPackage(SparseFile() + SoundClient());
   ASSERT_EQ(sandbox_.Launch().status, 0);
   EXPECT_TRUE(IsInstalled()) << sandbox_.RawLog();
@@ -359,7 +360,7 @@ TEST_F(HostilePackage, ASparseFileOfFourGibibytesTakesNextToNoRoom) {
   EXPECT_LT(info.st_blocks, 2048);
 }
 
-TEST_F(HostilePackage, AGzipBombFillsASmallDiskAndTheOldTreeComesBack) {
+TEST_F(HostilePackage, AGzipBombFillsASmallDiskAndIsRolledBack) {
   test::Mount home("none", sandbox_.Home(), "tmpfs", "size=2m");
   if (!home.ok()) GTEST_SKIP() << home.reason();
   sandbox_.Install(100);

@@ -1,4 +1,4 @@
-// A million records of eight threads, through dozens of rotations.
+// A million records from eight threads, through dozens of rotations.
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -17,10 +17,10 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kThreads = 8;
-constexpr int kRecords = 125000;  // of each thread
+constexpr int kRecords = 125000;  // per thread
 constexpr size_t kStamp = sizeof("Nov 16 00:07:25 ") - 1;
 
-/// "thread/number" and some bytes that tell a torn record from a whole one.
+/// "thread/number" and padding that reveals a torn record.
 constexpr char kFormat[] =
     "[ERROR] load(%d): %d/%06d the quick brown fox jumps over the lazy dog\n";
 
@@ -45,7 +45,7 @@ class LoggerUnderLoad : public testing::Test {
     for (std::thread& thread : threads) thread.join();
   }
 
-  /// The files of the log, the oldest first.
+  /// The log files, oldest first.
   std::vector<std::string> Files(int depth) const {
     std::vector<std::string> files;
     for (int n = depth; n >= 0; --n) {
@@ -55,8 +55,8 @@ class LoggerUnderLoad : public testing::Test {
     return files;
   }
 
-  /// Reads a file's records; `next` holds each thread's next number. Gaps are allowed only ahead of
-  /// a thread's first record.
+  /// Reads a file's records; `next` has each thread's next number. Gaps are allowed only before a
+  /// thread's first record.
   static void ReadRecords(std::string const& path, std::vector<int>& next, long& count) {
     std::ifstream in(path);
     for (std::string line; std::getline(in, line); ++count) {
@@ -80,7 +80,7 @@ class LoggerUnderLoad : public testing::Test {
   test::TempDir folder_;
 };
 
-TEST_F(LoggerUnderLoad, LosesTearsAndReordersNothingInDozensOfRotations) {
+TEST_F(LoggerUnderLoad, NeitherLosesTearsNorReordersRecordsInDozensOfRotations) {
   constexpr int kDepth = 200;
   WriteAll(kDepth);
   std::vector<std::string> const files = Files(kDepth);
@@ -92,7 +92,7 @@ TEST_F(LoggerUnderLoad, LosesTearsAndReordersNothingInDozensOfRotations) {
   EXPECT_EQ(next, std::vector<int>(kThreads, kRecords));
 }
 
-TEST_F(LoggerUnderLoad, KeepsFortyNineGenerationsAtTheDepthOfFifty) {
+TEST_F(LoggerUnderLoad, KeepsFortyNineGenerationsAtADepthOfFifty) {
   constexpr int kDepth = 50;
   WriteAll(kDepth);
   EXPECT_GT(LoggerProbe::PrivateCount(), 50U) << "too few rotations to mean anything";
@@ -100,11 +100,11 @@ TEST_F(LoggerUnderLoad, KeepsFortyNineGenerationsAtTheDepthOfFifty) {
   EXPECT_FALSE(fs::exists(Generation(49)));
   EXPECT_FALSE(fs::exists(Generation(50)));
   for (int n = 0; n <= 48; ++n) {
-    // One record beyond the limit at most.
+    // At most one record beyond the limit.
     EXPECT_GE(fs::file_size(Generation(n)), 1048577U) << n;
     EXPECT_LT(fs::file_size(Generation(n)), 1048577U + 200U) << n;
   }
-  // What is kept is whole and in order, whatever went before.
+  // The records that are kept are complete and in order, whatever came before.
   std::vector<int> next(kThreads, -1);
   long count = 0;
   for (std::string const& file : Files(kDepth)) {

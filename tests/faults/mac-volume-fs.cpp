@@ -1,5 +1,5 @@
-// A file system that shows a folder as a volume of macOS: it keeps the case and the normal form of
-// names but doesn't tell them apart by these, and takes no name that isn't UTF-8.
+// A file system that presents a folder like a macOS volume: it preserves the case and the normal
+// form of names but ignores both in lookups, and rejects invalid UTF-8.
 //
 // usage: mac-volume-fs FOLDER MOUNT-POINT, in the foreground.
 #define FUSE_USE_VERSION 31
@@ -34,7 +34,7 @@ bool IsAscii(std::string const& name) {
   return std::all_of(name.begin(), name.end(), [](char c) { return c >= 0; });
 }
 
-/// What names that are one to the volume have in common.
+/// The key of all names that are the same to the volume.
 icu::UnicodeString Key(std::string const& name) {
   if (IsAscii(name)) return icu::UnicodeString::fromUTF8(name).foldCase();
   UErrorCode status = U_ZERO_ERROR;
@@ -61,7 +61,7 @@ std::string AsSpelled(std::string const& parent, std::string const& name) {
   return found;
 }
 
-/// The object behind a path, however its components are spelled.
+/// The file at a path in any spelling.
 std::string Real(std::string const& path) {
   if (path == "/" || Exists(folder + path)) return folder + path;
   std::size_t const slash = path.rfind('/');
@@ -69,7 +69,7 @@ std::string Real(std::string const& path) {
   return parent + "/" + AsSpelled(parent, path.substr(slash + 1));
 }
 
-/// The same, with the last component as it is asked for: what a new name is to look like.
+/// The same with the last component as given: the spelling of a new name.
 std::string Renamed(std::string const& real, char const* path) {
   std::string const asked(path);
   return real.substr(0, real.rfind('/')) + asked.substr(asked.rfind('/'));
@@ -77,7 +77,7 @@ std::string Renamed(std::string const& real, char const* path) {
 
 int Descriptor(fuse_file_info const* file) { return static_cast<int>(file->fh); }
 
-/// A new object belongs to whoever asked for it, and not to this server.
+/// A new file belongs to its creator, not to this server.
 int GiveToCaller(std::string const& real, int result) {
   if (result < 0) return -errno;
   fuse_context const* const caller = fuse_get_context();
@@ -86,17 +86,17 @@ int GiveToCaller(std::string const& real, int result) {
 }
 
 void* Init(fuse_conn_info* /*connection*/, fuse_config* config) {
-  // Two spellings would be cached apart. Attributes may be: each lookup brings them anew.
+  // Names would be cached per spelling. Attributes may be cached: each lookup refreshes them.
   config->entry_timeout = 0;
   config->negative_timeout = 0;
   config->attr_timeout = 1;
   config->use_ino = 1;
-  // A file that is removed while it is open is gone, without another name in its folder.
+  // An open file that is removed is gone, without a hidden name in its folder.
   config->hard_remove = 1;
   config->nullpath_ok = 1;
   return nullptr;
 }
-// Every name is looked up before anything is done with it.
+// Every operation looks up the name first.
 int Getattr(char const* path, struct stat* info, fuse_file_info* file) {
   if (file != nullptr) return Result(fstat(Descriptor(file), info));
   if (!IsUtf8(path)) return -EILSEQ;
@@ -129,7 +129,7 @@ int Rename(char const* from, char const* to, unsigned flags) {
   if (flags != 0) return -EINVAL;
   std::string const source = Real(from);
   std::string const target = Real(to);
-  // A change of nothing but the spelling, or a replacement: the new spelling counts.
+  // A change of spelling, or a replacement: the new spelling applies.
   if (source != target && rename(source.c_str(), target.c_str()) != 0) return -errno;
   return Result(rename(target.c_str(), Renamed(target, to).c_str()));
 }
@@ -229,7 +229,7 @@ int main(int argc, char** argv) {
   folder = argv[1];
   umask(0);
   fuse_operations const all = Operations();
-  // Only root may show a volume to others.
+  // Only root may give other users access.
   char alone[] = "default_permissions";
   char shared[] = "default_permissions,allow_other";
   char foreground[] = "-f";

@@ -1,4 +1,4 @@
-// Upgrades and file operations on a volume like a Mac's, which is blind to case and normal form.
+// Upgrades and file operations on a volume that, like a Mac's, ignores case and normal form.
 #ifdef LARKMOOR_TEST_MAC_VOLUME_FS
 #include <gtest/gtest.h>
 #include <sys/mount.h>
@@ -43,7 +43,7 @@ class MacVolume : public Volume {
     }
   }
   void TearDown() override { umount2(sandbox_.Home().c_str(), MNT_DETACH); }
-  /// What the volume keeps.
+  /// The folder that stores the volume.
   std::string Behind() const { return sandbox_.folder() / "behind"; }
 
   std::unique_ptr<test::Process> server_;
@@ -58,7 +58,7 @@ TEST_F(MacVolume, IsUpgradedLikeAnyOther) {
   EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp"));
 }
 
-TEST_F(MacVolume, AnOldTreeInAnotherSpellingIsReplacedByOneInOurs) {
+TEST_F(MacVolume, AnOldTreeInAnotherSpellingIsReplacedByOneInTheLaunchers) {
   sandbox_.Install(100);
   fs::rename(Behind() + "/.Larkmoor/Larkmoor.app", Behind() + "/.Larkmoor/LARKMOOR.APP");
   sandbox_.Carry(200);
@@ -68,7 +68,7 @@ TEST_F(MacVolume, AnOldTreeInAnotherSpellingIsReplacedByOneInOurs) {
   EXPECT_FALSE(fs::exists(Behind() + "/.Larkmoor/LARKMOOR.APP"));
 }
 
-TEST_F(MacVolume, ADamagedPackageGivesTheOldTreeBack) {
+TEST_F(MacVolume, ADamagedPackageIsRolledBack) {
   sandbox_.Install(100);
   Tree const old = test::ReadTree(sandbox_.App());
   sandbox_.Carry(200);
@@ -78,7 +78,7 @@ TEST_F(MacVolume, ADamagedPackageGivesTheOldTreeBack) {
   EXPECT_EQ(test::ReadTree(sandbox_.App()), old) << sandbox_.RawLog();
 }
 
-TEST_F(MacVolume, OfTwoEntriesThatDifferInCaseTheLaterOneStays) {
+TEST_F(MacVolume, TheLaterOfTwoEntriesThatDifferInCaseRemains) {
   std::vector<Entry> entries = Sandbox::Client(200);
   entries.insert(entries.begin() + 3, {Entry::File("Contents/Resources/TWIN", "first"),
                                        Entry::File("Contents/Resources/twin", "second")});
@@ -89,7 +89,7 @@ TEST_F(MacVolume, OfTwoEntriesThatDifferInCaseTheLaterOneStays) {
   EXPECT_FALSE(fs::exists(Behind() + "/.Larkmoor/Larkmoor.app/Contents/Resources/TWIN"));
 }
 
-TEST_F(MacVolume, FSRenameChangesNothingButTheCase) {
+TEST_F(MacVolume, FSRenameChangesOnlyTheCase) {
   test::WriteFile(sandbox_.Home() + "/name", "bytes");
   std::string const home = sandbox_.Home();
   EXPECT_EQ(FSRename(ustring(home + "/name"), ustring(home + "/NAME"), false), 0);
@@ -97,7 +97,7 @@ TEST_F(MacVolume, FSRenameChangesNothingButTheCase) {
   EXPECT_FALSE(fs::exists(Behind() + "/name"));
 }
 
-TEST_F(MacVolume, IsItselfBlindToCaseAndNormalFormAndKeepsBoth) {
+TEST_F(MacVolume, IgnoresCaseAndNormalFormAndPreservesBoth) {
   test::WriteFile(sandbox_.Home() +
                       "/Stra\xC3\x9F"
                       "e cafe\xCC\x81",
@@ -107,7 +107,7 @@ TEST_F(MacVolume, IsItselfBlindToCaseAndNormalFormAndKeepsBoth) {
                                     "e cafe\xCC\x81"));
 }
 
-TEST_F(MacVolume, TakesNoNameThatIsNotUtf8) {
+TEST_F(MacVolume, RejectsInvalidUtf8InNames) {
   std::string const home = sandbox_.Home();
   EXPECT_NE(mkdir((home + "/\xFF").c_str(), 0700), 0);
   EXPECT_EQ(errno, EILSEQ);
@@ -119,7 +119,7 @@ TEST_F(MacVolume, TakesNoNameThatIsNotUtf8) {
   EXPECT_EQ(FSRename(ustring(home + "/name"), ustring(home + "/\xFF"), false), -3);
 }
 
-TEST_F(MacVolume, APackageWithANameThatIsNotUtf8GivesTheOldTreeBack) {
+TEST_F(MacVolume, APackageWithANameInInvalidUtf8IsRolledBack) {
   sandbox_.Install(100);
   Tree const old = test::ReadTree(sandbox_.App());
   std::vector<Entry> entries = Sandbox::Client(200);
@@ -130,7 +130,7 @@ TEST_F(MacVolume, APackageWithANameThatIsNotUtf8GivesTheOldTreeBack) {
   EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp"));
 }
 
-/// How a path below the home is stored, and other spellings that lead to it.
+/// A path below the home as stored, and other spellings of it.
 constexpr char kStored[] = "/Users/\u00C9mile/Stra\u00DFe/Foo";
 constexpr char kDecomposed[] = "/Users/E\u0301mile/Stra\u00DFe/Foo";
 char const* const kInAnotherCase[] = {
@@ -139,7 +139,7 @@ char const* const kInAnotherCase[] = {
     "/Users/\u00C9mile/STRASSE/Foo",
 };
 
-TEST_F(MacVolume, IsFileExistWithStrictWantsTheCaseThatTheVolumeKeeps) {
+TEST_F(MacVolume, IsFileExistWithStrictRequiresTheStoredCase) {
   std::string const home = sandbox_.Home();
   test::WriteFile(home + kStored, "bytes");
   for (char const* const name : {kStored, kDecomposed}) {
@@ -153,7 +153,7 @@ TEST_F(MacVolume, IsFileExistWithStrictWantsTheCaseThatTheVolumeKeeps) {
   EXPECT_FALSE(IsFileExist(ustring(home + "/Users/none"), false));
 }
 
-TEST_F(MacVolume, FSStatWithStrictWantsTheCaseThatTheVolumeKeeps) {
+TEST_F(MacVolume, FSStatWithStrictRequiresTheStoredCase) {
   std::string const home = sandbox_.Home();
   test::WriteFile(home + kStored, "bytes");
   for (char const* const name : kInAnotherCase) {
@@ -165,7 +165,7 @@ TEST_F(MacVolume, FSStatWithStrictWantsTheCaseThatTheVolumeKeeps) {
   }
 }
 
-TEST_F(MacVolume, PathsAreReportedInTheCaseThatTheVolumeKeeps) {
+TEST_F(MacVolume, PathsAreReportedInTheStoredCase) {
   std::string const home = sandbox_.Home();
   test::WriteFile(home + kStored, "bytes");
   for (char const* const name : kInAnotherCase) {
@@ -178,7 +178,7 @@ TEST_F(MacVolume, PathsAreReportedInTheCaseThatTheVolumeKeeps) {
   }
 }
 
-TEST_F(MacVolume, FSRenameWithStrictMissesASourceInAnotherCase) {
+TEST_F(MacVolume, FSRenameWithStrictFailsForASourceInAnotherCase) {
   std::string const home = sandbox_.Home();
   for (char const* const name : kInAnotherCase) {
     test::WriteFile(home + kStored, "bytes");
@@ -189,7 +189,7 @@ TEST_F(MacVolume, FSRenameWithStrictMissesASourceInAnotherCase) {
   }
 }
 
-TEST_F(MacVolume, FSRenameWithStrictMovesWhatIsSpelledAsTheVolumeKeepsIt) {
+TEST_F(MacVolume, FSRenameWithStrictMovesASourceSpelledAsStored) {
   std::string const home = sandbox_.Home();
   test::WriteFile(home + "/Foo/cafe\xCC\x81", "bytes");
   EXPECT_EQ(FSRename(ustring(home + "/Foo/caf\xC3\xA9"), ustring(home + "/Foo/Bar"), true), 0);
@@ -197,7 +197,7 @@ TEST_F(MacVolume, FSRenameWithStrictMovesWhatIsSpelledAsTheVolumeKeepsIt) {
   EXPECT_EQ(test::ReadFile(Behind() + "/foo/Bar"), "bytes");
 }
 
-TEST_F(MacVolume, FSRemoveTakesATreeInAnySpelling) {
+TEST_F(MacVolume, FSRemoveRemovesATreeInAnySpelling) {
   std::string const home = sandbox_.Home();
   for (char const* const name : {"/Tree/cafe\xCC\x81/file", "/Tree/B/C", "/Tree/\xE0\xA5\x98"}) {
     test::WriteFile(home + name, "bytes");

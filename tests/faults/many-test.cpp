@@ -1,4 +1,4 @@
-// Many starts: at the same moment, and one after the other in every mood.
+// Many starts: simultaneous ones, and one after another of every kind.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <signal.h>
@@ -31,15 +31,14 @@ size_t CountIn(std::string const& text, std::string const& part) {
   return count;
 }
 
-/// Processes whose executable or arguments name something below a folder.
+/// Processes whose executable or arguments are below a folder.
 std::set<std::string> ProcessesOf(std::string const& folder) {
   std::set<std::string> found;
   for (auto const& entry : fs::directory_iterator("/proc")) {
     std::error_code ignored;
     std::string const exe = fs::read_symlink(entry.path() / "exe", ignored);
     std::ifstream in(entry.path() / "cmdline");
-    // A process that ends meanwhile can't be read any more, which throws unless a stream catches
-    // it.
+    // A process that has ended meanwhile can't be read, which throws unless a stream catches it.
     std::ostringstream line;
     line << in.rdbuf();
     if ((exe + " " + line.str()).find(folder) != std::string::npos)
@@ -48,11 +47,11 @@ std::set<std::string> ProcessesOf(std::string const& folder) {
   return found;
 }
 
-TEST(ManyStarts, TwoHundredAtOnceMakeOneTransactionAndAllEndWell) {
+TEST(ManyStarts, TwoHundredAtOnceMakeOneUpgradeAndAllEndWell) {
   constexpr int kStarts = 200;
   Sandbox sandbox;
   sandbox.Install(100);
-  // Something to do for long enough that all the others come in between.
+  // Enough work for all the others to arrive meanwhile.
   std::vector<test::Entry> entries = Sandbox::Client(200);
   for (int i = 0; i < 4000; ++i) {
     std::string const name = "Contents/Resources/many-" + std::to_string(i);
@@ -62,8 +61,8 @@ TEST(ManyStarts, TwoHundredAtOnceMakeOneTransactionAndAllEndWell) {
   sandbox.CarryPackage(test::MakeArchive(entries, "gnutar", "gzip"));
   sandbox.LogEverything();
   test::Process::Options options = sandbox.Start();
-  // A gate that opens for all at once, with a line for each. It is held open to the end: a process
-  // that came to a gate without a writer would wait for one.
+  // A FIFO that releases all at once, with a line for each. It stays open until the end: a process
+  // that opened it without a writer would block.
   std::string const gate = sandbox.folder() / "gate";
   ASSERT_EQ(mkfifo(gate.c_str(), 0600), 0);
   int const opener = open(gate.c_str(), O_RDWR | O_CLOEXEC);
@@ -87,7 +86,7 @@ TEST(ManyStarts, TwoHundredAtOnceMakeOneTransactionAndAllEndWell) {
   EXPECT_TRUE(test::WaitUntil([&] { return ProcessesOf(sandbox.folder().path()).empty(); }));
 }
 
-/// What one of the mixed runs does.
+/// The kinds of mixed runs.
 enum class Mood { kGood, kDamaged, kKilled, kKilledWhileDamaged };
 
 class MixedRuns : public testing::Test {
@@ -113,7 +112,7 @@ class MixedRuns : public testing::Test {
     return count;
   }
 
-  /// One chain of runs in one home. Every run finds what the one before has left.
+  /// A series of runs in one home. Each starts where the previous one ended.
   void Run(test::SweepSandbox& box, unsigned seed, int runs) {
     std::mt19937 random(seed);
     box.Begin(test::Beginning::kFormer);
@@ -123,7 +122,7 @@ class MixedRuns : public testing::Test {
       auto const mood = static_cast<Mood>(random() % 4);
       bool const good = mood == Mood::kGood || mood == Mood::kKilled;
       bool const killed = mood == Mood::kKilled || mood == Mood::kKilledWhileDamaged;
-      // The bundle always carries something newer: what was installed counts as former again.
+      // The bundle always has a newer build: the installed one is the old one again.
       fs::remove(app + "/Contents/Resources/INFO");
       test::TracedRun const run = box.Launch(good ? material_.sound : material_.damaged,
                                              killed ? KillAtRandom(random) : Injection{});
@@ -144,7 +143,7 @@ class MixedRuns : public testing::Test {
     ExpectNoLock(box);
   }
 
-  /// A killed run leaves its lock file, which the next one takes over and takes away.
+  /// A killed run leaves its lock file, which the next one takes over and removes.
   void ExpectNoLock(test::SweepSandbox& box) const {
     Sandbox const& sandbox = box.sandbox();
     test::TracedRun const run = test::Trace(sandbox.Start(), {"/dev", "/run", "/tmp"}, {});
@@ -165,7 +164,7 @@ class MixedRuns : public testing::Test {
     }
     names.erase("Larkmoor.app");
     EXPECT_EQ(names, std::set<std::string>{"log"}) << "seed " << seed;
-    // Input, output, errors, the shell's script, and the folder that it lists.
+    // Standard streams, the shell's script and the folder it lists.
     EXPECT_EQ(box.DescriptorsOfClients(), std::set<std::string>{"5"}) << "seed " << seed;
     EXPECT_TRUE(ProcessesOf(box.sandbox().folder().path()).empty()) << "seed " << seed;
   }
@@ -175,7 +174,7 @@ class MixedRuns : public testing::Test {
   test::Tally most_;
 };
 
-TEST_F(MixedRuns, AThousandLeaveNothingButWhatTheStatesAllow) {
+TEST_F(MixedRuns, AThousandLeaveOnlyDocumentedStates) {
   constexpr int kChains = 20;
   constexpr int kRunsEach = 50;
   size_t const descriptors = static_cast<size_t>(

@@ -2,14 +2,14 @@
 
 #include <string>
 
-/// File systems for tests, mounted where the system lets us.
+/// File systems for tests, mounted if the system permits.
 namespace test {
 
-/// A mount that ends with its scope. Where mounting is refused, `ok()` is false and `reason()` says
-/// why, for GTEST_SKIP.
+/// A mount until the end of the scope. If mounting fails, `ok()` is false and `reason()` tells why,
+/// for GTEST_SKIP.
 class Mount {
  public:
-  /// As mount(2) takes them. The folder has to exist.
+  /// The arguments of mount(2). The folder must exist.
   Mount(std::string source, std::string folder, std::string type, std::string options,
         unsigned long flags = 0);
   ~Mount();
@@ -30,7 +30,7 @@ class Mount {
 /// A file system in a file, on a loop device.
 class LoopDevice {
  public:
-  /// `mkfs` is the command that makes the file system, but for the file that it makes it in.
+  /// `mkfs` is the command that creates the file system; the file is appended.
   LoopDevice(std::string const& file, unsigned mebibytes, std::string const& mkfs);
   ~LoopDevice();
   LoopDevice(LoopDevice const&) = delete;

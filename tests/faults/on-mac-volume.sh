@@ -1,10 +1,10 @@
 #!/bin/bash
-# Runs a command with its temporary folder on a volume like the Mac's: blind to case and to normal
-# form, and closed to names that aren't UTF-8.
+# Runs a command with its temporary folder on a volume like a Mac's: it ignores case and normal form,
+# and rejects names that aren't UTF-8.
 #
 # usage: on-mac-volume.sh FILE-SYSTEM COMMAND [ARGUMENT...]
 #
-# Ends with the command's status, or with 77 where there is no FUSE.
+# Exits with the command's status, or with 77 if there is no FUSE.
 set -u
 
 file_system=$1

@@ -1,4 +1,4 @@
-// Stops sync clients of every temper, as real processes.
+// Stops real client processes that react in every way.
 #include <errno.h>
 #include <gtest/gtest.h>
 #include <signal.h>
@@ -22,11 +22,11 @@ using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 using test::Sandbox;
 
-/// Five probes a second apart, and what the rest of an upgrade may take on a busy machine.
+/// Five probes at intervals of a second, plus the rest of an upgrade on a busy machine.
 constexpr milliseconds kWholeWait{5000};
 constexpr milliseconds kSlack{3000};
 
-/// A client that notes the signals it gets. `script` runs in a shell with `notes` as $1.
+/// A client that records the signals it receives. `script` runs in a shell with `notes` as $1.
 class Client {
  public:
   Client(std::string const& script, std::string const& notes)
@@ -53,7 +53,7 @@ class Client {
   test::Process process_;
 };
 
-// A shell handles a trap between two commands, so it waits in small pieces.
+// A shell handles traps between commands, so it waits in short steps.
 constexpr char kObedient[] =
     "trap 'echo TERM >> \"$1\"; exit 0' TERM; echo ready >> \"$1\"; while :; do sleep 0.05; done";
 constexpr char kDeaf[] =
@@ -72,7 +72,7 @@ class StopMatrix : public testing::Test {
   }
   std::string NotesFile() const { return sandbox_.folder() / "notes"; }
 
-  /// Runs an upgrade to its end and says how long that took.
+  /// Runs an upgrade and returns how long it took.
   milliseconds Upgrade() {
     test::Process::Options options = sandbox_.Start();
     options.own_group = true;
@@ -95,10 +95,10 @@ class StopMatrix : public testing::Test {
   test::Outcome outcome_;
 };
 
-TEST_F(StopMatrix, AnObedientClientGetsOneTermAndEndsWithinASecond) {
+TEST_F(StopMatrix, AClientThatEndsOnSigtermGetsOneAndEndsWithinASecond) {
   Client client(kObedient, NotesFile());
   WritePidFile(std::to_string(client.pid()));
-  // A parent reaps its client at once, as the desktop does.
+  // A parent reaps its client at once, like the desktop.
   test::Outcome end;
   std::thread reaper([&] { end = client.process().Wait(); });
   milliseconds const took = Upgrade();
@@ -109,7 +109,7 @@ TEST_F(StopMatrix, AnObedientClientGetsOneTermAndEndsWithinASecond) {
   ExpectUpgraded();
 }
 
-TEST_F(StopMatrix, ADeafClientGetsOneTermAndIsKilledAfterFiveSeconds) {
+TEST_F(StopMatrix, AClientThatIgnoresSigtermGetsOneAndIsKilledAfterFiveSeconds) {
   Client client(kDeaf, NotesFile());
   WritePidFile(std::to_string(client.pid()));
   milliseconds const took = Upgrade();
@@ -120,7 +120,7 @@ TEST_F(StopMatrix, ADeafClientGetsOneTermAndIsKilledAfterFiveSeconds) {
   ExpectUpgraded();
 }
 
-TEST_F(StopMatrix, AStoppedClientNeverSeesTheTermAndIsKilledAfterFiveSeconds) {
+TEST_F(StopMatrix, AStoppedClientNeverHandlesSigtermAndIsKilledAfterFiveSeconds) {
   Client client(kObedient, NotesFile());
   client.process().Signal(SIGSTOP);
   WritePidFile(std::to_string(client.pid()));
@@ -132,7 +132,7 @@ TEST_F(StopMatrix, AStoppedClientNeverSeesTheTermAndIsKilledAfterFiveSeconds) {
   ExpectUpgraded();
 }
 
-TEST_F(StopMatrix, AZombieCountsAsRunningAndCostsTheWholeWait) {
+TEST_F(StopMatrix, AZombieCountsAsRunningAndTakesTheWholeWait) {
   pid_t const zombie = fork();
   if (zombie == 0) _exit(0);
   siginfo_t info;
@@ -148,7 +148,7 @@ TEST_F(StopMatrix, AZombieCountsAsRunningAndCostsTheWholeWait) {
 }
 
 TEST_F(StopMatrix, AClientThatEndsDuringTheThirdProbeIsNotKilled) {
-  // Two whole seconds and a half behind the signal lie between the third probe and the fourth.
+  // Two and a half seconds after the signal is between the third and the fourth probe.
   Client client(
       "trap 'echo TERM >> \"$1\"; sleep 2.5; echo saved >> \"$1\"; exit 7' TERM; "
       "echo ready >> \"$1\"; while :; do sleep 0.05; done",
@@ -165,7 +165,7 @@ TEST_F(StopMatrix, AClientThatEndsDuringTheThirdProbeIsNotKilled) {
   ExpectUpgraded();
 }
 
-TEST_F(StopMatrix, AStalePidCostsNoWaitAndNoLine) {
+TEST_F(StopMatrix, AStalePidCausesNoWaitAndNoLogLine) {
   pid_t const gone = fork();
   if (gone == 0) _exit(0);
   waitpid(gone, nullptr, 0);
@@ -175,7 +175,7 @@ TEST_F(StopMatrix, AStalePidCostsNoWaitAndNoLine) {
   ExpectUpgraded();
 }
 
-TEST_F(StopMatrix, TheProcessOfAnotherUserIsRefusedLoggedAndWaitedFor) {
+TEST_F(StopMatrix, TheProcessOfAnotherUserCannotBeSignalledAndIsWaitedFor) {
   if (!test::CanBecomeNobody()) GTEST_SKIP() << "only root can start a launcher as another user";
   Client client(kObedient, NotesFile());
   WritePidFile(std::to_string(client.pid()));
@@ -188,7 +188,7 @@ TEST_F(StopMatrix, TheProcessOfAnotherUserIsRefusedLoggedAndWaitedFor) {
   ExpectUpgraded();
 }
 
-TEST_F(StopMatrix, APidThatIsNoNumberSignalsTheLaunchersOwnGroup) {
+TEST_F(StopMatrix, APidThatIsNotANumberSignalsTheLaunchersOwnGroup) {
   Client bystander(kObedient, NotesFile());
   WritePidFile("abc");
   EXPECT_LT(Upgrade(), milliseconds(1000) + kSlack);
@@ -213,7 +213,7 @@ TEST_F(StopMatrix, OfTwoClientsOnlyTheOneInThePidFileIsStopped) {
   ExpectUpgraded();
 }
 
-TEST_F(StopMatrix, AClientThatRestartsItselfIsStoppedOnceAndItsSuccessorGoesOn) {
+TEST_F(StopMatrix, AClientThatRestartsItselfIsStoppedOnceAndItsSuccessorKeepsRunning) {
   std::string const successor = sandbox_.folder() / "successor";
   Client client(
       "trap 'echo TERM >> \"$1\"; "

@@ -30,7 +30,7 @@ std::string Noise(size_t size, unsigned seed) {
   return noise;
 }
 
-/// What every client has.
+/// The entries of every client.
 void MakeTinyClient(fs::path const& folder, int build) {
   auto const seed = static_cast<unsigned>(build);
   std::string const number = std::to_string(build);
@@ -43,8 +43,8 @@ void MakeTinyClient(fs::path const& folder, int build) {
   WriteFile(folder / kInfo, "[Version]\nbuild_version=" + number + "\n");
 }
 
-/// Adds all else that a package may hold: folders empty and full, files empty, of one block and of
-/// several.
+/// Adds everything else a package may contain: empty and nonempty folders, files of no, one and
+/// several blocks.
 void MakeSmallClient(fs::path const& folder, int build) {
   MakeTinyClient(folder, build);
   auto const seed = static_cast<unsigned>(build);
@@ -102,8 +102,8 @@ SweepMaterial::SweepMaterial(Size size_of_client) : size(size_of_client) {
   trees.former = ReadTree(clients / std::to_string(kFormerBuild));
   trees.carried = ReadTree(clients / std::to_string(kCarriedBuild));
   sound = MakePackage(clients / std::to_string(kCarriedBuild), "gzip");
-  // Not compressed, so that the entries before the damage can be read; and never cut between two
-  // entries, since a tar file that lacks nothing but its end passes for whole.
+  // Uncompressed, so that the entries before the damage are readable; never truncated between
+  // entries, since a tar file without its end is accepted as complete.
   damaged = MakePackage(clients / std::to_string(kCarriedBuild), "none");
   damaged.resize(damaged.size() * 4 / 5 / 512 * 512 + 100);
 }

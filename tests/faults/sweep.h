@@ -10,18 +10,18 @@
 #include "faults/upgrade-states.h"
 #include "support/sandbox.h"
 
-/// What the sweeps share: clients small enough to be installed thousands of times, homes that can
-/// be put back, and the cores' use.
+/// Shared by the sweeps: clients small enough to be installed thousands of times, homes that can be
+/// restored, and parallel runs.
 namespace test {
 
 constexpr int kStaleBuild = 90;
 constexpr int kFormerBuild = 100;
 constexpr int kCarriedBuild = 200;
 
-/// A package that scripts/make-package made of a small client, once whole and once cut short behind
-/// its first half, and the trees that a sweep compares with.
+/// A small client's package from scripts/make-package, complete and truncated after its first half,
+/// and the trees that a sweep compares with.
 struct SweepMaterial {
-  /// A tiny client holds one thing of each kind, for sweeps with many runs at each point.
+  /// A tiny client has one entry of each kind, for sweeps with many runs at each point.
   enum class Size { kTiny, kSmall };
   explicit SweepMaterial(Size size_of_client);
 
@@ -32,16 +32,16 @@ struct SweepMaterial {
   UpgradeTrees trees;
 };
 
-/// Where a sweep begins.
+/// The initial state of a sweep.
 enum class Beginning { kNothing, kFormer, kFormerAndStaleBackup };
 
-/// A sandbox whose home is put back again and again. One thread at a time.
+/// A sandbox whose home is restored for each run. One thread at a time.
 class SweepSandbox {
  public:
   explicit SweepSandbox(SweepMaterial const& material);
 
   void Begin(Beginning beginning);
-  /// Keeps the home as it is, and puts it back.
+  /// Saves the home, and restores it.
   void Keep();
   void PutBack();
   /// Starts the launcher with this package in its bundle.
@@ -51,9 +51,9 @@ class SweepSandbox {
   std::string State() const { return StateOf(sandbox_.UserRoot(), material_.trees); }
   bool HoldsFormer() const { return HoldsFormerTree(sandbox_.UserRoot(), material_.trees); }
   bool HoldsCarried() const { return HoldsCarriedTree(sandbox_.UserRoot(), material_.trees); }
-  /// How often the client was started since Begin().
+  /// How often the client has started since Begin().
   size_t Starts() const;
-  /// The numbers of descriptors that these clients found open.
+  /// The numbers of the descriptors that these clients found open.
   std::set<std::string> DescriptorsOfClients() const;
 
  private:
@@ -62,12 +62,12 @@ class SweepSandbox {
   TempDir kept_;
 };
 
-/// Calls `job` with 0 to `count` - 1, each once, on as many threads as there are cores. Each thread
-/// has a sandbox of its own.
+/// Calls `job` once with each of 0 to `count` - 1, on as many threads as there are cores. Each
+/// thread has its own sandbox.
 void ForEachPoint(size_t count, SweepMaterial const& material,
                   std::function<void(SweepSandbox&, size_t)> const& job);
 
-/// Counts by name, for any thread.
+/// Counts by name. Any thread.
 class Tally {
  public:
   void Add(std::string const& name);
@@ -79,14 +79,14 @@ class Tally {
   std::map<std::string, size_t> counts_;
 };
 
-/// Whether LARKMOOR_SHORT_SWEEPS asks for the same places with fewer runs at each.
+/// Whether LARKMOOR_SHORT_SWEEPS requests the same points with fewer runs at each.
 bool IsShort();
 
-/// The volume that these tests were put on by LARKMOOR_TEST_VOLUME, null where that isn't set.
+/// The volume on which LARKMOOR_TEST_VOLUME says these tests run, or null.
 char const* NameOfVolume();
 
-/// Prints a line and adds it to the figures of this test, which scripts/test shows. Each volume's
-/// are kept apart.
+/// Prints a line and adds it to the figures of this test, which scripts/test shows, separately for
+/// each volume.
 void Report(std::string const& line);
 
 }  // namespace test

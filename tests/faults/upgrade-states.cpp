@@ -15,16 +15,16 @@ constexpr int kBackups = 10;
 
 enum class Content { kNothing, kFormer, kCarried, kStale, kPart, kForeign };
 
-/// Whether a file holds a beginning of the whole. The archive library gives a file that breaks off
-/// its full size all the same, with zeros behind what it has.
+/// Whether a file has a prefix of the expected bytes. libarchive gives a truncated file its full
+/// size, with zeros at the end.
 bool IsBeginningOf(std::string const& part, std::string const& whole) {
   size_t const end = part.find_last_not_of('\0');
   size_t const size = end == std::string::npos ? 0 : end + 1;
   return part.size() <= whole.size() && whole.compare(0, size, part, 0, size) == 0;
 }
 
-/// Whether a tree is what writing or removing another one in parts leaves: nothing that isn't in
-/// the whole, and of each file at most a beginning.
+/// Whether a tree is a partly written or removed one: only its files, each with a prefix of its
+/// bytes.
 bool IsPartOf(Tree const& part, Tree const& whole) {
   return std::all_of(part.begin(), part.end(), [&](auto const& entry) {
     auto const& [path, node] = entry;
@@ -51,7 +51,7 @@ std::string Backup(int number) {
   return std::string(kApp) + "_tmp" + (number == 0 ? "" : std::to_string(number));
 }
 
-/// What stands under the backups' names.
+/// The trees under the names of backups.
 std::set<Content> Backups(std::string const& user_root, UpgradeTrees const& trees) {
   std::set<Content> all;
   for (int i = 0; i < kBackups; ++i) all.insert(Classify(user_root + Backup(i), trees));
@@ -59,7 +59,7 @@ std::set<Content> Backups(std::string const& user_root, UpgradeTrees const& tree
   return all;
 }
 
-/// Names in the root that no state has.
+/// Names in the root that belong to no state.
 std::string ForeignNames(std::string const& user_root) {
   std::set<std::string> known = {"log", "Larkmoor.app"};
   for (int i = 0; i < kBackups; ++i) known.insert(Backup(i).substr(1));

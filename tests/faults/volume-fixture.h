@@ -24,7 +24,8 @@ class Volume : public testing::Test {
     return sandbox_.RawLog().find(text) != std::string::npos;
   }
   static std::string Size(size_t kib) { return "size=" + std::to_string(kib) + "k"; }
-  /// Fills the home with one file until that fails, gives so much of it back and returns the error.
+  /// Fills the home with one file until writing fails, then frees this many bytes. Returns the
+  /// error.
   int LeaveRoom(off_t bytes) const {
     std::string const ballast = sandbox_.Home() + "/ballast";
     int const file = open(ballast.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);

@@ -32,7 +32,7 @@ using test::Volume;
 
 constexpr size_t kPayload = 200000;
 
-/// A client that needs some room, under names of its own.
+/// A client that needs some space, with its own names.
 std::vector<Entry> BigClient(int build) {
   std::vector<Entry> entries = Sandbox::Client(build);
   std::string const name = "Contents/Resources/big-" + std::to_string(build);
@@ -40,7 +40,7 @@ std::vector<Entry> BigClient(int build) {
   return entries;
 }
 
-/// A client that no small disk holds.
+/// A client too large for a small disk.
 std::vector<Entry> HugeClient(int build) {
   std::vector<Entry> entries = BigClient(build);
   std::string const bytes(8 << 20, 'h');
@@ -48,21 +48,21 @@ std::vector<Entry> HugeClient(int build) {
   return entries;
 }
 
-TEST_F(Volume, FullInTheMiddleOfAnUpgradeGivesTheOldTreeBack) {
+TEST_F(Volume, FullDuringAnUpgradeIsRolledBack) {
   Mount home("none", sandbox_.Home(), "tmpfs", Size(256));
   if (!home.ok()) GTEST_SKIP() << home.reason();
   sandbox_.Install(100);
   Tree const old = test::ReadTree(sandbox_.App());
   Carry(BigClient(200));
   ASSERT_TRUE(sandbox_.Launch().status == 0);
-  // The log lies on the same disk: what is logged before the rollback has made room is lost.
+  // The log is on the same disk: what is logged before the rollback frees space is lost.
   EXPECT_TRUE(LogHas("Failed to upgrade package")) << sandbox_.RawLog();
   EXPECT_EQ(test::ReadTree(sandbox_.App()), old);
   EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp"));
   EXPECT_EQ(sandbox_.AwaitStarts(1).back(), "100");
 }
 
-TEST_F(Volume, EverySizeOfDiskLeavesOneWholeTree) {
+TEST_F(Volume, EverySizeOfDiskLeavesACompleteTree) {
   Mount home("none", sandbox_.Home(), "tmpfs", Size(64));
   if (!home.ok()) GTEST_SKIP() << home.reason();
   Carry(BigClient(200));
@@ -84,7 +84,7 @@ TEST_F(Volume, EverySizeOfDiskLeavesOneWholeTree) {
   EXPECT_GT(upgrades, 1);
 }
 
-TEST_F(Volume, OutOfInodesGivesTheOldTreeBack) {
+TEST_F(Volume, OutOfInodesIsRolledBack) {
   Mount home("none", sandbox_.Home(), "tmpfs", "nr_inodes=24");
   if (!home.ok()) GTEST_SKIP() << home.reason();
   sandbox_.Install(100);
@@ -95,12 +95,12 @@ TEST_F(Volume, OutOfInodesGivesTheOldTreeBack) {
   EXPECT_EQ(test::ReadTree(sandbox_.App()), old);
 }
 
-TEST_F(Volume, FullDuringAFirstInstallationLeavesAPartThatTheNextStartReplaces) {
+TEST_F(Volume, FullDuringAFirstInstallationLeavesAPartialTreeThatTheNextStartReplaces) {
   Mount home("none", sandbox_.Home(), "tmpfs", Size(96));
   if (!home.ok()) GTEST_SKIP() << home.reason();
   Carry(BigClient(200));
   ASSERT_EQ(test::Run(sandbox_.Start()).status, 0);
-  // No room for a line in the log either.
+  // No space for a log line either.
   EXPECT_EQ(sandbox_.RawLog(), "");
   EXPECT_TRUE(fs::exists(sandbox_.App()));
   EXPECT_FALSE(fs::exists(sandbox_.App() + "/Contents/MacOS/larkmoor-drive-ui"));
@@ -127,7 +127,7 @@ TEST_F(Volume, AReadOnlyHomeStartsTheOldTree) {
   EXPECT_TRUE(test::WaitUntil([&] { return fs::exists(started); }));
 }
 
-/// Restricts a user of the file system on `device` to some KiB.
+/// Limits a user of the file system on `device` to some KiB.
 bool LimitUser(std::string const& device, unsigned user, unsigned kib) {
   if_dqblk limit = {};
   limit.dqb_bhardlimit = kib;
@@ -136,7 +136,7 @@ bool LimitUser(std::string const& device, unsigned user, unsigned kib) {
   return syscall(SYS_quotactl, QCMD(Q_SETQUOTA, USRQUOTA), device.c_str(), user, &limit) == 0;
 }
 
-/// Limits what a btrfs volume's only folder tree may take.
+/// Limits the size of the only folder tree of a btrfs volume.
 bool RestrictFolder(std::string const& folder, std::string const& size) {
   test::Process::Options options;
   options.arguments = {"/bin/sh",
@@ -149,7 +149,7 @@ bool RestrictFolder(std::string const& folder, std::string const& size) {
   return test::Run(options).status == 0;
 }
 
-TEST_F(Volume, AUserQuotaThatRunsOutGivesTheOldTreeBack) {
+TEST_F(Volume, AnExceededUserQuotaIsRolledBack) {
   if (!test::CanBecomeNobody()) GTEST_SKIP() << "only root has no quota of its own";
   test::LoopDevice device(sandbox_.folder() / "disk", 16,
                           "mkfs.ext4 -q -O quota -E quotatype=usrquota");
@@ -168,7 +168,7 @@ TEST_F(Volume, AUserQuotaThatRunsOutGivesTheOldTreeBack) {
   EXPECT_EQ(test::ReadTree(sandbox_.App()), old);
 }
 
-TEST_F(Volume, AFolderQuotaThatRunsOutGivesTheOldTreeBack) {
+TEST_F(Volume, AnExceededFolderQuotaIsRolledBack) {
   test::LoopDevice device(sandbox_.folder() / "disk", 128, "mkfs.btrfs -q");
   if (!device.ok()) GTEST_SKIP() << device.reason();
   Mount home(device.path(), sandbox_.Home(), "btrfs", "");
@@ -182,11 +182,11 @@ TEST_F(Volume, AFolderQuotaThatRunsOutGivesTheOldTreeBack) {
   EXPECT_EQ(test::ReadTree(sandbox_.App()), old);
   EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp"));
   EXPECT_EQ(sandbox_.AwaitStarts(1).back(), "100");
-  // The log could tell the reason only once the rollback had made room.
+  // The reason could only be logged after the rollback freed space.
   EXPECT_EQ(LeaveRoom(0), EDQUOT);
 }
 
-/// A file system on a disk, and the smallest that its tools make.
+/// A file system on a disk, and the minimum size of its tools.
 struct Disk {
   char const* type;
   char const* mkfs;
@@ -225,7 +225,7 @@ TEST_P(DiskVolume, IsUpgradedToTheSameTreeAsAnyOther) {
   EXPECT_FALSE(fs::exists(sandbox_.App() + "_tmp"));
 }
 
-TEST_P(DiskVolume, FullInTheMiddleOfAnUpgradeGivesTheOldTreeBack) {
+TEST_P(DiskVolume, FullDuringAnUpgradeIsRolledBack) {
   Carry(HugeClient(200));
   EXPECT_EQ(LeaveRoom(2 << 20), ENOSPC);
   ASSERT_EQ(sandbox_.Launch().status, 0);
@@ -241,7 +241,7 @@ INSTANTIATE_TEST_SUITE_P(Kinds, DiskVolume,
                                          Disk{"btrfs", "mkfs.btrfs -q", 128}),
                          [](auto const& parameter) { return std::string(parameter.param.type); });
 
-// An overlay refuses to rename a folder of its lower layer with EXDEV, as two volumes would.
+// An overlay fails to rename a folder of its lower layer with EXDEV, as between two volumes.
 class SplitVolume : public Volume {
  protected:
   void Install(std::vector<Entry> const& entries) {
@@ -275,7 +275,7 @@ class SplitVolume : public Volume {
   std::string reason_;
 };
 
-TEST_F(SplitVolume, TheBackupIsMadeFolderByFolderAndTheUpgradeGoesOn) {
+TEST_F(SplitVolume, TheBackupIsMovedFolderByFolderAndTheUpgradeContinues) {
   Install(Sandbox::Client(100));
   if (!reason_.empty()) GTEST_SKIP() << reason_;
   Carry(BigClient(200));
@@ -285,7 +285,7 @@ TEST_F(SplitVolume, TheBackupIsMadeFolderByFolderAndTheUpgradeGoesOn) {
   EXPECT_EQ(sandbox_.AwaitStarts(1).back(), "200");
 }
 
-TEST_F(SplitVolume, ARollbackBringsTheOldTreeBack) {
+TEST_F(SplitVolume, ARollbackRestoresTheOldTree) {
   Install(Sandbox::Client(100));
   if (!reason_.empty()) GTEST_SKIP() << reason_;
   Tree const old = test::ReadTree(sandbox_.App());
@@ -308,7 +308,7 @@ class CrossDevice : public testing::Test {
   std::unique_ptr<Mount> other_;
 };
 
-TEST_F(CrossDevice, FSRenameMovesAFolderButNotTheModesInIt) {
+TEST_F(CrossDevice, FSRenameMovesAFolderWithoutItsModes) {
   test::WriteFile(folder_ / "app/Contents/tool", "bytes");
   fs::permissions(folder_ / "app/Contents/tool", fs::perms(0755));
   EXPECT_EQ(Move(), 0);
@@ -317,7 +317,7 @@ TEST_F(CrossDevice, FSRenameMovesAFolderButNotTheModesInIt) {
   EXPECT_EQ(moved.at("Contents/tool"), (test::Node{'f', 0644, "bytes"}));
 }
 
-TEST_F(CrossDevice, FSRenameOfAFolderWithALinkFailsAndLeavesTheLinkBehind) {
+TEST_F(CrossDevice, FSRenameOfAFolderWithASymlinkFailsAndLeavesTheSymlinkBehind) {
   test::WriteFile(folder_ / "app/Contents/tool", "bytes");
   fs::create_symlink("tool", folder_ / "app/Contents/link");
   EXPECT_EQ(Move(), -3);

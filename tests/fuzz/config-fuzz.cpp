@@ -32,7 +32,7 @@ bool IsCommentOrNothing(std::string const& rest) {
   return at == kNowhere || rest[at] == '#';
 }
 
-/// What begins behind the `=`; false when it isn't understood.
+/// Parses what follows the `=`; returns false if it is malformed.
 bool ModelValue(std::string const& text, std::string& value) {
   std::string rest;
   if (text[0] == '"' || text[0] == '\'') {
@@ -91,7 +91,7 @@ void Require(bool holds, char const* what) {
   std::abort();
 }
 
-/// The one file that all inputs are written to, in memory.
+/// The file that all inputs are written to, in memory.
 class InputFile {
  public:
   InputFile() : file_(memfd_create("config", MFD_CLOEXEC)) {

@@ -1,4 +1,4 @@
-// Unpacks any bytes as a package.
+// Unpacks arbitrary bytes as a package.
 #include <fcntl.h>
 #include <linux/landlock.h>
 #include <signal.h>
@@ -26,10 +26,10 @@ extern "C" int LLVMFuzzerTestOneInput(uint8_t const* data, size_t size);
 
 namespace {
 
-// A small archive can hold a large file.
+// A small archive can contain a large file.
 constexpr rlim_t kLargestFile = 1 << 20;
 
-/// All that changes something, from writing a file to making a link.
+/// All changes, from writing a file to creating a link.
 constexpr unsigned long long kChanges =
     LANDLOCK_ACCESS_FS_WRITE_FILE |
     ((LANDLOCK_ACCESS_FS_MAKE_SYM << 1) - LANDLOCK_ACCESS_FS_REMOVE_DIR);
@@ -74,8 +74,8 @@ void Allow(long rules, std::string const& folder) {
   close(rule.parent_fd);
 }
 
-/// A package may hold a link to anywhere and write through it: the kernel keeps it in. Nothing but
-/// the playground and the fuzzer's own folders can be written to from here on.
+/// A package may contain a symlink to anywhere and write through it. The kernel confines it: from
+/// here on, only the playground and the fuzzer's own folders are writable.
 bool Confine(int argc, char** argv) {
   landlock_ruleset_attr kinds = {};
   kinds.handled_access_fs = kChanges;
@@ -103,13 +103,13 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
   }
   rlimit const limit = {kLargestFile, kLargestFile};
   setrlimit(RLIMIT_FSIZE, &limit);
-  // Failures are what this is about: nobody reads a line for each.
+  // Failures are expected here: don't log them.
   Logger::Destroy();
   return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(uint8_t const* data, size_t size) {
-  // Not earlier: the fuzzer sets a handler of its own at its start.
+  // Not earlier: libFuzzer sets its own handler at startup.
   signal(SIGXFSZ, SIG_IGN);
   Playground const& ground = Ground();
   std::ofstream(ground.package, std::ios::binary)

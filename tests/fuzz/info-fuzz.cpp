@@ -1,4 +1,4 @@
-// Reads any bytes as the version file of an installation.
+// Reads arbitrary bytes as the INFO file of an installation.
 #include <unistd.h>
 
 #include <climits>
@@ -38,7 +38,7 @@ class Versions : public MacService {
   void Carry(ustring const& build) { target_build_version = build; }
 };
 
-/// A home of its own for each input: the reader keeps files in mind by their names.
+/// A new home for each input: QSettings caches files by name.
 class Home {
  public:
   Home() {
@@ -80,7 +80,7 @@ extern "C" int LLVMFuzzerTestOneInput(uint8_t const* data, size_t size) {
   versions.LoadSourceVersion();
   Require(versions.build() == build, "another build the second time");
 
-  // The decision looks at the number in front of the text, whatever follows.
+  // The comparison uses the leading number, whatever follows.
   int const number = atoi(build.c_str());
   for (long const offset : {-1L, 0L, 1L}) {
     long const carried = number + offset;

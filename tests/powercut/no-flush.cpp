@@ -1,5 +1,5 @@
-// Preloaded into the launcher, so that it flushes no volume: what the tests must then find shows
-// that they are able to.
+// Preloaded into the launcher, so that it doesn't flush: the tests must then find failures, which
+// shows that they can.
 extern "C" {
 
 int syncfs(int /*file*/) { return 0; }

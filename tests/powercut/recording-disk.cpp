@@ -1,13 +1,13 @@
-// A disk that notes what reaches it: a file system with one file, "disk", for a loop device. Each
-// write and each flush is noted as it arrives and as it completes, so that the disk can be made
-// anew as a power cut at any moment leaves it. The file "note" takes marks of the test's own.
+// A disk that records what reaches it: a file system with one file, "disk", for a loop device. It
+// records each write and flush on arrival and on completion, so that the disk can be reconstructed
+// as a power loss at any moment leaves it. The test writes its own marks to the file "note".
 //
 // usage: recording-disk IMAGE LOG LATENCY RATE SEED MOUNT-POINT, in the foreground. Each request
-// takes a drawn time, LATENCY microseconds on average, and that of its bytes, RATE MB a second.
+// takes a random time, LATENCY microseconds on average, and the time of its bytes at RATE MB/s.
 //
-// The log is a row of records: a byte for the kind (W and w a write that arrives and completes, F
-// and f a flush, N a note), the request's number (8 bytes), the place (8), the length (4), and for
-// W and N that many bytes. Numbers are in the processor's order.
+// The log is a sequence of records: a byte for the kind (W and w for a write that arrives and
+// completes, F and f for a flush, N for a note), the request's number (8 bytes), the offset (8),
+// the length (4) and, for W and N, that many bytes. Numbers are in native byte order.
 #define FUSE_USE_VERSION 31
 #include <fcntl.h>
 #include <fuse.h>
@@ -38,7 +38,7 @@ int image = -1;
 int record = -1;
 double latency = 0;
 double rate = 1;
-Clock::time_point transferred;  ///< when the bytes of all requests so far are
+Clock::time_point transferred;  ///< when the bytes of all requests so far have been transferred
 std::atomic<uint64_t> requests{0};
 std::mutex lock;
 std::mt19937_64 random_bits;
@@ -84,7 +84,7 @@ int Getattr(char const* path, struct stat* info, fuse_file_info* /*file*/) {
 }
 
 int Open(char const* /*path*/, fuse_file_info* file) {
-  file->direct_io = 1;  // nothing is kept by the kernel
+  file->direct_io = 1;  // no page cache
   return 0;
 }
 

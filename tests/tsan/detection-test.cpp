@@ -1,4 +1,4 @@
-// ThreadSanitizer finds a race between threads of Qt, and takes no order that Qt makes for one.
+// ThreadSanitizer reports a race between Qt threads, and no false race where Qt synchronises.
 #include <gmock/gmock.h>
 
 #include "support/process.h"
@@ -7,13 +7,14 @@ namespace {
 
 using testing::HasSubstr;
 
-/// ThreadSanitizer's own status for "something was reported".
+/// ThreadSanitizer's exit status after a report.
 constexpr int kReported = 66;
 
 test::Outcome Count(std::string const& way) {
   test::Process::Options options;
   options.arguments = {SHARED_COUNT, way};
-  // With GLib each event is written to a descriptor, an order that is seen without our help.
+  // With GLib, posting an event writes to a descriptor, which ThreadSanitizer sees without our
+  // help.
   options.environment = {{"QT_NO_GLIB", "1"}};
   return test::Run(options);
 }

@@ -1,9 +1,10 @@
-// Tells ThreadSanitizer of the order that Qt makes between threads. Qt's libraries aren't built for
-// it, so it sees neither their atomics nor their locks, and would report as a race what a queued
-// signal, a mutex or the end of a thread has put in order.
+// Tells ThreadSanitizer how Qt synchronises threads. Qt's libraries aren't instrumented, so it sees
+// neither their atomics nor their locks, and would report false races where a queued signal, a
+// mutex or the end of a thread synchronises.
 //
-// Linked into every program of a ThreadSanitizer build. Each place makes an order as narrow as Qt's
-// own: between the emission of one sender's signals and their delivery, not between all signals.
+// Linked into every program of a ThreadSanitizer build. Each annotation is as narrow as Qt's own
+// synchronisation: from the emission of one sender's signals to their delivery, not for all
+// signals.
 #include <dlfcn.h>
 #include <private/qobject_p.h>
 #include <sanitizer/tsan_interface.h>
@@ -20,10 +21,10 @@ namespace {
 void Release(QObject const* object) { __tsan_release(const_cast<QObject*>(object)); }
 void Acquire(QObject const* object) { __tsan_acquire(const_cast<QObject*>(object)); }
 
-/// Runs on the emitting thread, before any receiver is served or queued.
+/// Runs on the emitting thread, before any receiver is called or queued.
 void OnSignal(QObject* sender, int /*signal*/, void** /*arguments*/) { Release(sender); }
 
-/// Runs on the receiving thread, before the receiver sees its event.
+/// Runs on the receiving thread, before the receiver gets its event.
 bool OnDelivery(void** parameters) {
   auto* event = static_cast<QEvent*>(parameters[1]);
   __tsan_acquire(event);
@@ -32,7 +33,7 @@ bool OnDelivery(void** parameters) {
       Acquire(sender);
     }
   }
-  return false;  // the event goes its way
+  return false;  // don't filter the event
 }
 
 [[maybe_unused]] bool const watching = [] {
@@ -41,7 +42,7 @@ bool OnDelivery(void** parameters) {
   return QInternal::registerCallback(QInternal::EventNotifyCallback, OnDelivery);
 }();
 
-/// Qt's own function behind one that is defined below.
+/// Qt's function that a definition below hides.
 template <typename Function>
 Function* Real(char const* symbol) {
   void* address = dlsym(RTLD_NEXT, symbol);
@@ -51,8 +52,8 @@ Function* Real(char const* symbol) {
 
 }  // namespace
 
-// The definitions below take the place of Qt's for the project's code and for the other libraries
-// of Qt. Inside of libQt5Core they aren't called.
+// The definitions below replace Qt's for the project's code and for Qt's other libraries.
+// libQt5Core itself doesn't call them.
 
 void QCoreApplication::postEvent(QObject* receiver, QEvent* event, int priority) {
   static auto* const real =

@@ -1,5 +1,5 @@
-// A worker thread and the main thread change one number that is no atomic. The argument says what
-// puts the two in order; the ways that begin with "no-" leave a race.
+// A worker thread and the main thread change a number that isn't atomic. The argument selects what
+// synchronises them; values that begin with "no-" leave a race.
 #include <QCoreApplication>
 #include <QMutex>
 #include <QObject>
@@ -13,8 +13,8 @@ namespace {
 int count = 0;
 QMutex mutex;
 QWaitCondition condition;
-bool counted = false;  // under the mutex
-/// Relaxed, so that it makes no order: it only sees to it that both threads are at it.
+bool counted = false;  // guarded by the mutex
+/// Relaxed, so that it doesn't synchronise: it only makes sure that both threads run.
 std::atomic<bool> main_is_done{false};
 std::atomic<bool> worker_is_done{false};
 
@@ -24,7 +24,7 @@ void Await(std::atomic<bool> const& done) {
 
 }  // namespace
 
-/// Counts on the main thread, whichever way it is told to.
+/// Counts on the main thread in the selected way.
 class Counter : public QObject {
   Q_OBJECT
 
@@ -55,7 +55,7 @@ class Worker : public QThread {
  protected:
   void run() override {
     if (way_ == "signal" || way_ == "event") {
-      // Main is woken for this one, an order that is seen anyway, but not for what follows.
+      // This one wakes the main thread, which ThreadSanitizer sees anyway, but the next ones don't.
       QCoreApplication::postEvent(counter_, new QEvent(QEvent::None));
       ++count;
       if (way_ == "signal") {

@@ -1,5 +1,5 @@
-// How a volume that is blind to case stores a path. There is none in reach: a folder of another
-// file system stands for it, whose type and whose look at a name are replaced.
+// The stored spelling on a volume that ignores case. No such volume is available, so a folder with
+// a faked type and a faked lstat represents it.
 #include <gmock/gmock.h>
 #include <linux/magic.h>
 #include <unicode/normalizer2.h>
@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// What all names have in common that are one for the volume.
+/// The key of all names that are the same to the volume.
 icu::UnicodeString Key(std::string const& name) {
   UErrorCode status = U_ZERO_ERROR;
   icu::UnicodeString const text = icu::UnicodeString::fromUTF8(name);
@@ -54,7 +54,7 @@ class StoredPath : public testing::Test {
       return 0;
     };
   }
-  /// The stored path of something in the folder, seen from there.
+  /// The stored path of a file in the folder, relative to it.
   std::string Stored(std::string const& inside) const {
     std::string const path = platform::AsStored((folder / inside).c_str());
     std::string const above = folder / "";
@@ -65,7 +65,7 @@ class StoredPath : public testing::Test {
   test::SystemCalls calls;
 };
 
-TEST_F(StoredPath, HasEachNameInTheCaseThatTheVolumeKeeps) {
+TEST_F(StoredPath, HasEachNameInTheStoredCase) {
   test::WriteFile(folder / "Kept/Some File.txt", "");
   test::WriteFile(folder / "Kept/Other", "");
   EXPECT_EQ(Stored("Kept/Some File.txt"), "Kept/Some File.txt");
@@ -81,22 +81,22 @@ TEST_F(StoredPath, HasNamesThatAreAllInOneCase) {
   EXPECT_EQ(Stored("upper"), "UPPER");
 }
 
-TEST_F(StoredPath, HasNamesOfOtherScriptsInTheFormAndCaseThatTheVolumeKeeps) {
+TEST_F(StoredPath, HasNamesOfOtherScriptsInTheStoredFormAndCase) {
   test::WriteFile(folder / "U\u0308ber \u0416", "");
   EXPECT_EQ(Stored("\u00FCBER \u0436"), "U\u0308ber \u0416");
 }
 
-TEST_F(StoredPath, OfANameWithoutLettersIsThatName) {
+TEST_F(StoredPath, OfANameWithoutLettersIsUnchanged) {
   test::WriteFile(folder / "2024-01", "");
   EXPECT_EQ(Stored("2024-01"), "2024-01");
 }
 
-TEST_F(StoredPath, OfBytesThatAreNoTextIsThatName) {
+TEST_F(StoredPath, OfInvalidUtf8IsUnchanged) {
   test::WriteFile(folder / "A\xFF", "");
   EXPECT_EQ(Stored("A\xFF"), "A\xFF");
 }
 
-TEST_F(StoredPath, OfOneOfTwoObjectsWhoseNamesDifferInCaseIsAsGiven) {
+TEST_F(StoredPath, OfTwoFilesThatDifferInCaseIsUnchanged) {
   calls.lstat = nullptr;
   test::WriteFile(folder / "twin", "");
   test::WriteFile(folder / "TWIN", "");
@@ -104,7 +104,7 @@ TEST_F(StoredPath, OfOneOfTwoObjectsWhoseNamesDifferInCaseIsAsGiven) {
   EXPECT_EQ(Stored("TWIN"), "TWIN");
 }
 
-TEST_F(StoredPath, OfAnObjectWithBothNamesIsAsGiven) {
+TEST_F(StoredPath, OfAFileWithBothNamesIsUnchanged) {
   calls.lstat = nullptr;
   test::WriteFile(folder / "link", "");
   fs::create_hard_link(folder / "link", folder / "LINK");
@@ -112,7 +112,7 @@ TEST_F(StoredPath, OfAnObjectWithBothNamesIsAsGiven) {
   EXPECT_EQ(Stored("LINK"), "LINK");
 }
 
-TEST_F(StoredPath, OfObjectsOfTwoVolumesWithOneNumberIsAsGiven) {
+TEST_F(StoredPath, OfFilesOnTwoVolumesWithTheSameInodeIsUnchanged) {
   calls.lstat = [](char const* path, struct stat* info) {
     *info = {};
     info->st_ino = 2;
@@ -123,34 +123,34 @@ TEST_F(StoredPath, OfObjectsOfTwoVolumesWithOneNumberIsAsGiven) {
   EXPECT_EQ(platform::AsStored((folder / "mount").c_str()), folder / "mount");
 }
 
-TEST_F(StoredPath, OfWhatIsGoneIsAsGiven) {
+TEST_F(StoredPath, OfAMissingFileIsUnchanged) {
   EXPECT_EQ(Stored("gone"), "gone");
-  // One of its two cases is gone.
+  // One of its two cases is missing.
   calls.lstat = nullptr;
   test::WriteFile(folder / "here", "");
   EXPECT_EQ(Stored("HERE"), "HERE");
   EXPECT_EQ(Stored("here"), "here");
 }
 
-TEST_F(StoredPath, HasNoNeedlessSlashes) {
+TEST_F(StoredPath, HasNoExtraSlashes) {
   test::WriteFile(folder / "Kept/file", "");
   EXPECT_EQ(Stored("kept//FILE/"), "Kept/file");
   EXPECT_EQ(platform::AsStored("/"), "/");
 }
 
-TEST_F(StoredPath, IsAsGivenWhereTheVolumesTypeIsUnknown) {
+TEST_F(StoredPath, IsUnchangedIfTheVolumesTypeIsUnknown) {
   test::WriteFile(folder / "Kept", "");
   calls.statfs = [](char const*, struct statfs*) { return -1; };
   EXPECT_EQ(Stored("kept"), "kept");
 }
 
-TEST_F(StoredPath, IsLookedForOnVolumesThatMayBeBlindAlone) {
+TEST_F(StoredPath, IsSearchedOnlyOnVolumesThatMayIgnoreCase) {
   test::WriteFile(folder / "Kept", "");
   for (std::uint32_t const type : {0x4D44U, 0x2011BAB0U, 0x5346544EU, 0x7366746EU, 0x517BU,
                                    0xFE534D42U, 0xFF534D42U, 0x4244U, 0x482BU, 0x65735546U}) {
     HasType(type);
     EXPECT_EQ(Stored("kept"), "Kept") << std::hex << type;
-    HasType(static_cast<std::int32_t>(type));  // signed, as some libraries have it
+    HasType(static_cast<std::int32_t>(type));  // signed, as in some C libraries
     EXPECT_EQ(Stored("kept"), "Kept") << std::hex << type;
     for (std::uint32_t const other : {type - 1, type + 1}) {
       HasType(other);

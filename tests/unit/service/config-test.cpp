@@ -46,7 +46,7 @@ struct Case {
   Pairs pairs;
 };
 
-/// Lines that are accepted, with the pairs they give.
+/// Lines that are accepted, with the resulting pairs.
 class ConfigAccepts : public ConfigTest, public testing::WithParamInterface<Case> {};
 
 TEST_P(ConfigAccepts, TheLine) {
@@ -54,7 +54,7 @@ TEST_P(ConfigAccepts, TheLine) {
   EXPECT_EQ(PairsOf(config_), GetParam().pairs);
 }
 
-/// Lines that are not understood.
+/// Malformed lines.
 class ConfigRefuses : public ConfigTest, public testing::WithParamInterface<Case> {};
 
 TEST_P(ConfigRefuses, TheLineAndEverythingReadBefore) {
@@ -130,18 +130,18 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"NulInQuotes", std::string("key='a\0b'\n", 10), {}}),
     NameOf);
 
-TEST_F(ConfigTest, LosesTheFormerPairsOfTheSameFileOnASyntaxError) {
+TEST_F(ConfigTest, DropsEarlierPairsOfTheSameFileOnASyntaxError) {
   EXPECT_EQ(Read("pid=123\noops\n"), -1);
   EXPECT_THAT(PairsOf(config_), IsEmpty());
 }
 
-TEST_F(ConfigTest, LosesThePairsOfAFormerFileOnASyntaxError) {
+TEST_F(ConfigTest, DropsThePairsOfAnEarlierFileOnASyntaxError) {
   EXPECT_EQ(Read("a=1\n"), 0);
   EXPECT_EQ(Read("b=2\noops\nc=3\n"), -1);
   EXPECT_THAT(PairsOf(config_), IsEmpty()) << "nor is the file read on";
 }
 
-TEST_F(ConfigTest, AddsToThePairsOfAFormerFile) {
+TEST_F(ConfigTest, AddsToThePairsOfAnEarlierFile) {
   EXPECT_EQ(Read("a=1\nb=1\n"), 0);
   EXPECT_EQ(Read("b=2\nc=2\n"), 0);
   EXPECT_EQ(PairsOf(config_), (Pairs{{"a", "1"}, {"b", "2"}, {"c", "2"}}));
@@ -153,7 +153,7 @@ TEST_F(ConfigTest, KeepsItsPairsWhenTheFileIsMissing) {
   EXPECT_EQ(PairsOf(config_), (Pairs{{"a", "1"}}));
 }
 
-TEST_F(ConfigTest, RefusesAnEmptyPathAndKeepsItsPairs) {
+TEST_F(ConfigTest, RejectsAnEmptyPathAndKeepsItsPairs) {
   EXPECT_EQ(Read("a=1\n"), 0);
   errno = 0;
   EXPECT_EQ(config_.read(""), -1);
@@ -161,7 +161,7 @@ TEST_F(ConfigTest, RefusesAnEmptyPathAndKeepsItsPairs) {
   EXPECT_EQ(PairsOf(config_), (Pairs{{"a", "1"}}));
 }
 
-TEST_F(ConfigTest, TakesAReadErrorForTheEndOfTheFile) {
+TEST_F(ConfigTest, TreatsAReadErrorAsTheEndOfTheFile) {
   EXPECT_EQ(config_.read(folder_.path().c_str()), 0) << "a folder opens, but can't be read";
   EXPECT_THAT(PairsOf(config_), IsEmpty());
 }
@@ -177,8 +177,9 @@ TEST_F(ConfigTest, LeavesNoFileOpen) {
   EXPECT_EQ(after, before);
 }
 
-/// The descriptor that is open for reading a file, waited for; -1 when it doesn't come. Descriptors
-/// of another thread are looked at by name: by number they are used in no order with that thread.
+/// Waits for the descriptor that is open for reading a file; returns -1 at the deadline.
+/// Descriptors of another thread are found by name: using their numbers wouldn't be synchronised
+/// with that thread.
 int ReadingDescriptor(struct stat const& wanted) {
   auto const deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
   while (std::chrono::steady_clock::now() < deadline) {
@@ -193,11 +194,12 @@ int ReadingDescriptor(struct stat const& wanted) {
   return -1;
 }
 
-TEST_F(ConfigTest, KeepsItsFileFromProgramsThatAreStartedMeanwhile) {
+TEST_F(ConfigTest, ClosesItsFileOnExec) {
   ASSERT_EQ(mkfifo(path_.c_str(), 0600), 0);
   int result = -2;
   std::thread reader([&] { result = config_.read(path_.c_str()); });
-  int const writing = open(path_.c_str(), O_WRONLY | O_CLOEXEC);  // waits for the reader
+  int const writing =
+      open(path_.c_str(), O_WRONLY | O_CLOEXEC);  // blocks until the reader opens it
   struct stat fifo = {};
   EXPECT_EQ(fstat(writing, &fifo), 0);
   int const reading = ReadingDescriptor(fifo);
@@ -212,7 +214,7 @@ TEST_F(ConfigTest, KeepsItsFileFromProgramsThatAreStartedMeanwhile) {
 
 // ---- lines longer than the buffer: 8191 bytes are one line, the rest is the next ----
 
-TEST_F(ConfigTest, CutsALongLineAndLetsTheRestDecide) {
+TEST_F(ConfigTest, SplitsALongLineAndParsesTheRest) {
   std::string const value(8200, 'v');
   EXPECT_EQ(Read("k=" + value + "\n"), -1) << "the rest is a key alone on its line";
   EXPECT_THAT(PairsOf(config_), IsEmpty());
