@@ -55,10 +55,12 @@ endforeach()
 
 if(APPLE)
   get_filename_component(qt_programs ${larkmoor_qmake} DIRECTORY)
-  find_program(LARKMOOR_MACDEPLOYQT macdeployqt HINTS ${qt_programs})
+  # Not cached: another Qt has another one.
+  set(macdeployqt ${LARKMOOR_MACDEPLOYQT})
+  find_program(macdeployqt macdeployqt HINTS ${qt_programs} NO_CACHE)
   # No variable may have the name of a component: the generated script compares with "bundle".
   install(CODE "
-    set(macdeployqt \"${LARKMOOR_MACDEPLOYQT}\")
+    set(macdeployqt \"${macdeployqt}\")
     set(larkmoor_app \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${LARKMOOR_BUNDLE}\")
     include(\"${CMAKE_CURRENT_LIST_DIR}/CopyLibraries.cmake\")"
     COMPONENT bundle)

@@ -151,7 +151,10 @@ def copy(bundle, texts):
         origins.update(find([path for path in paths if path not in origins]))
     for origin in origins.values():
         for text in origin.texts:
-            copy_text(text, target / origin.name / text.name)
+            place = target / origin.name / text.name
+            if place.exists() and place.read_bytes() != text.read_bytes():
+                sys.exit(f'licences: {origin.name} has two texts named {text.name}: rename one')
+            copy_text(text, place)
             copy_common(text, target / COMMON.name)
     if origins:
         lines = [f'{path}: {origins[path].name} {origins[path].version}'.rstrip() + '\n'

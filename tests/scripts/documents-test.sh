@@ -57,16 +57,16 @@ is_group() { "$SCRIPTS/setup" -l "$1" >/dev/null; }
 
 TestPresetsThatAreNamedExist() {
   # shellcheck disable=SC2046
-  grep -ohE -e '--preset [a-z-]+' $(documents) | awk '{ print $2 }' | sort -u |
+  grep -ohE -e '--preset [a-z0-9-]+' $(documents) | awk '{ print $2 }' | sort -u |
     expect_found "no such preset" is_preset
   # shellcheck disable=SC2016  # these are Markdown's
-  sed -n '/^| Preset/,/^$/s/^| `\([a-z-]*\)`.*/\1/p' "$PROJECT/CONTRIBUTING.md" |
+  sed -n '/^| Preset/,/^$/s/^| `\([a-z0-9-]*\)`.*/\1/p' "$PROJECT/CONTRIBUTING.md" |
     expect_found "no such preset" is_preset
 }
 
 TestTheTableOfPresetsHasAllOfThem() {
   # shellcheck disable=SC2016
-  sed -n '/"buildPresets"/,/]/s/.*"name": "\([a-z-]*\)".*/| `\1` |/p' "$PROJECT/CMakePresets.json" |
+  sed -n '/"buildPresets"/,/]/s/.*"name": "\([a-z0-9-]*\)".*/| `\1` |/p' "$PROJECT/CMakePresets.json" |
     expect_found "missing in CONTRIBUTING.md" is_in_contributing
 }
 

@@ -31,6 +31,7 @@ TEST_F(ProgressDialog, HasItsFixedLook) {
   EXPECT_EQ(dialog.maximumWidth(), 400);
   EXPECT_EQ(dialog.windowModality(), Qt::WindowModal);
   EXPECT_EQ(dialog.font().family(), "Arial");
+  EXPECT_EQ(dialog.font().weight(), QFont::Normal);
   EXPECT_FALSE(dialog.font().italic());
   EXPECT_EQ(dialog.styleSheet(),
             " QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } ");
