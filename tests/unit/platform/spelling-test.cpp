@@ -168,7 +168,7 @@ TEST(FindByNormalForm, HasNoFormOfBytesThatAreNoText) {
   EXPECT_EQ(found, "before");
 }
 
-TEST(LookAt, FindsAnotherSpellingOnlyWhereNamesAreToBlame) {
+TEST(Lstat, FindsAnotherSpellingOnlyWhereNamesAreToBlame) {
   test::TempDir folder;
   std::string const composed = folder / "\u00FC";
   test::WriteFile(folder / "u\u0308", "");
@@ -183,17 +183,17 @@ TEST(LookAt, FindsAnotherSpellingOnlyWhereNamesAreToBlame) {
   struct stat info;
   for (int const of_names : {ENOENT, ENOTDIR, EACCES, ENAMETOOLONG}) {
     error = of_names;
-    EXPECT_EQ(platform::LookAt(composed.c_str(), info), 0) << strerror(error);
+    EXPECT_EQ(platform::Lstat(composed.c_str(), info), 0) << strerror(error);
   }
   for (int const of_disks : {EIO, ELOOP, ENOMEM}) {
     error = of_disks;
-    EXPECT_EQ(platform::LookAt(composed.c_str(), info), -1) << strerror(error);
+    EXPECT_EQ(platform::Lstat(composed.c_str(), info), -1) << strerror(error);
     EXPECT_EQ(errno, error);
   }
   // The search ends with another error than it began with.
   fs::remove(folder / "u\u0308");
   error = ENOTDIR;
-  EXPECT_EQ(platform::LookAt(composed.c_str(), info), -1);
+  EXPECT_EQ(platform::Lstat(composed.c_str(), info), -1);
   EXPECT_EQ(errno, ENOTDIR);
 }
 
