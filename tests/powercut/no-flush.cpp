@@ -1,5 +1,5 @@
-// Preloaded into the launcher, so that it doesn't flush: the tests must then find failures, which
-// shows that they can.
+// Stubs that are preloaded into the launcher, so that it doesn't flush. The tests must then fail,
+// which shows that they can.
 extern "C" {
 
 int syncfs(int /*file*/) { return 0; }

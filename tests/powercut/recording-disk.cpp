@@ -1,13 +1,14 @@
 // A disk that records what reaches it: a file system with one file, "disk", for a loop device. It
 // records each write and flush on arrival and on completion, so that the disk can be reconstructed
-// as a power loss at any moment leaves it. The test writes its own marks to the file "note".
+// as a power loss at any moment leaves it. What the test writes to the file "note" is recorded as
+// well.
 //
 // usage: recording-disk IMAGE LOG LATENCY RATE SEED MOUNT-POINT, in the foreground. Each request
-// takes a random time, LATENCY microseconds on average, and the time of its bytes at RATE MB/s.
+// takes a random latency, LATENCY microseconds on average, plus the transfer time at RATE MB/s.
 //
-// The log is a sequence of records: a byte for the kind (W and w for a write that arrives and
-// completes, F and f for a flush, N for a note), the request's number (8 bytes), the offset (8),
-// the length (4) and, for W and N, that many bytes. Numbers are in native byte order.
+// The log is a sequence of records: a byte for the kind (W and w for the arrival and the completion
+// of a write, F and f for those of a flush, N for a note), the request's number (8 bytes), the
+// offset (8), the length (4) and, for W and N, that many bytes. Numbers are in native byte order.
 #define FUSE_USE_VERSION 31
 #include <fcntl.h>
 #include <fuse.h>
@@ -35,7 +36,7 @@ constexpr char kDisk[] = "/disk";
 constexpr char kNote[] = "/note";
 
 int image = -1;
-int record = -1;
+int log_file = -1;
 double latency = 0;
 double rate = 1;
 Clock::time_point transferred;  ///< when the bytes of all requests so far have been transferred
@@ -43,18 +44,18 @@ std::atomic<uint64_t> requests{0};
 std::mutex lock;
 std::mt19937_64 random_bits;
 
-void Note(char kind, uint64_t request, off_t place = 0, uint32_t size = 0,
-          char const* bytes = nullptr) {
-  std::string text(1, kind);
-  auto const add = [&text](auto number) {
-    text.append(reinterpret_cast<char const*>(&number), sizeof(number));
+void Record(char kind, uint64_t request, off_t place = 0, uint32_t size = 0,
+            char const* bytes = nullptr) {
+  std::string entry(1, kind);
+  auto const add = [&entry](auto number) {
+    entry.append(reinterpret_cast<char const*>(&number), sizeof(number));
   };
   add(request);
   add(static_cast<uint64_t>(place));
   add(size);
-  if (bytes != nullptr) text.append(bytes, size);
+  if (bytes != nullptr) entry.append(bytes, size);
   std::lock_guard<std::mutex> const guard(lock);
-  if (write(record, text.data(), text.size()) != static_cast<ssize_t>(text.size())) abort();
+  if (write(log_file, entry.data(), entry.size()) != static_cast<ssize_t>(entry.size())) abort();
 }
 
 void TakeTime(size_t size) {
@@ -100,23 +101,23 @@ int Read(char const* path, char* buffer, size_t size, off_t at, fuse_file_info* 
 
 int Write(char const* path, char const* bytes, size_t size, off_t at, fuse_file_info* /*file*/) {
   if (strcmp(path, kNote) == 0) {
-    Note('N', 0, 0, static_cast<uint32_t>(size), bytes);
+    Record('N', 0, 0, static_cast<uint32_t>(size), bytes);
     return static_cast<int>(size);
   }
   uint64_t const request = ++requests;
-  Note('W', request, at, static_cast<uint32_t>(size), bytes);
+  Record('W', request, at, static_cast<uint32_t>(size), bytes);
   TakeTime(size);
   ssize_t const count = pwrite(image, bytes, size, at);
   if (count != static_cast<ssize_t>(size)) return -EIO;
-  Note('w', request);
+  Record('w', request);
   return static_cast<int>(count);
 }
 
 int Fsync(char const* /*path*/, int /*data_only*/, fuse_file_info* /*file*/) {
   uint64_t const request = ++requests;
-  Note('F', request);
+  Record('F', request);
   TakeTime(0);
-  Note('f', request);
+  Record('f', request);
   return 0;
 }
 
@@ -125,8 +126,8 @@ int Fsync(char const* /*path*/, int /*data_only*/, fuse_file_info* /*file*/) {
 int main(int argc, char** argv) {
   if (argc != 7) return 2;
   image = open(argv[1], O_RDWR | O_CLOEXEC);
-  record = open(argv[2], O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
-  if (image < 0 || record < 0) return 1;
+  log_file = open(argv[2], O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+  if (image < 0 || log_file < 0) return 1;
   latency = strtod(argv[3], nullptr);
   rate = strtod(argv[4], nullptr);
   random_bits.seed(strtoull(argv[5], nullptr, 10));
