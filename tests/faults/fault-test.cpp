@@ -1,4 +1,4 @@
-// Lets every system call of an upgrade fail, in turn.
+// Makes each system call of an upgrade fail in turn.
 #include <errno.h>
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@ struct Fault {
   char const* name;
   Injection::Action action;
   int error;
-  bool in_short;  ///< also in the short form: one for each way in which errors are told apart
+  bool in_short;  ///< also in the short form: one for each way that errors are distinguished
 };
 
 constexpr Fault kFaults[] = {
@@ -34,14 +34,14 @@ constexpr Fault kFaults[] = {
     {"short", Injection::Action::kShorten, 0, true},
 };
 
-/// Calls that are made again after EINTR would be for ever if it never ended.
+/// A call that is retried after EINTR would loop forever if EINTR were permanent.
 constexpr unsigned kInterruptions = 25;
 
 /// Which calls fail.
 enum class Spread {
   kOnce,
   kOnwards,
-  kOnwardsButTheLog  ///< as if the log lay elsewhere, so that it can tell of all the failures
+  kOnwardsExceptLog  ///< as if the log were on another disk, so that it records all failures
 };
 
 struct Point {
@@ -52,9 +52,8 @@ struct Point {
   Spread spread;
 };
 
-/// What a call that fails has to leave in the log. Where `lines` is empty nothing is logged,
-/// for the reason given; otherwise one of them is, but for the `unless` where there is one. The
-/// first rule that fits holds.
+/// What the log must contain after a failed call: one of `lines`, unless there is a reason `unless`
+/// for which it may contain none. The first rule that matches applies.
 struct Rule {
   char const* calls;
   char const* path;
@@ -64,8 +63,8 @@ struct Rule {
 
 constexpr char kLogFolder[] = ".Larkmoor/log";
 
-constexpr char kLog[] = "the log can't tell of its own failure";
-constexpr char kIcon[] = "the dialog goes without its icon";
+constexpr char kLog[] = "the log can't report its own failure";
+constexpr char kIcon[] = "the dialog has no icon";
 constexpr char kTarget[] = "an unreadable carried version counts as 0, so there is no upgrade";
 constexpr char kSource[] = "an unreadable installed version counts as 0, so there is an upgrade";
 constexpr char kPid[] = "an unreadable pid file counts as absent";
@@ -73,11 +72,11 @@ constexpr char kBackup[] = "the results of removing a backup are ignored";
 constexpr char kRollback[] = "the results of a rollback are ignored";
 constexpr char kAged[] = "the results of removing the aged folder are ignored";
 constexpr char kClose[] = "the archive library ignores the result of close";
-constexpr char kAgain[] = "made again after EINTR, or behind the last entry";
-constexpr char kNotThere[] =
-    "an application folder that can't be looked at counts as absent, or isn't flushed";
-constexpr char kFlush[] = "a volume that can't be flushed is installed to all the same";
-constexpr char kFirstLook[] = "mkdir decides, not the look ahead of it";
+constexpr char kRepeated[] = "repeated after EINTR, or after the last entry";
+constexpr char kNotStatted[] =
+    "an application folder that can't be statted counts as absent, or isn't flushed";
+constexpr char kFlush[] = "a volume that can't be flushed is still installed to";
+constexpr char kFirstStat[] = "mkdir decides, not the stat before it";
 
 Rule const kRules[] = {
     {".*", "\\.Larkmoor/log.*", {}, kLog},
@@ -94,14 +93,14 @@ Rule const kRules[] = {
     {"read",
      ".*lpk",
      {"archive_read_open_filename failed", "Failed to read file", "next_header failed: 'Error"},
-     kAgain},
+     kRepeated},
     {".*", ".*lpk", {"archive_read_open_filename failed", "Failed to read file"}, nullptr},
     {"mkdir", ".*app", {"failed to create folder"}, nullptr},
     {"access|stat|open|read", ".*INFO", {"archive_read_extract2 failed"}, kSource},
     {"access", ".*larkmoor-drive-ui", {}, kSource},
     {"close", ".*", {}, kClose},
-    {"stat|open", ".*app", {"failed to backup app from", "failed to create folder"}, kNotThere},
-    {"stat", "\\.Larkmoor", {"failed to create folder"}, kFirstLook},
+    {"stat|open", ".*app", {"failed to backup app from", "failed to create folder"}, kNotStatted},
+    {"stat", "\\.Larkmoor", {"failed to create folder"}, kFirstStat},
     {"mkdir|symlink|write|chmod", ".*app/.*", {"archive_read_extract2 failed"}, nullptr},
     {"open|unlink|stat", ".*app/.*", {"archive_read_extract2 failed"}, kRollback},
     {"readdir|rmdir|unlink", ".*app.*", {}, kRollback},
@@ -120,7 +119,7 @@ std::string Describe(Point const& point) {
   return std::string(point.sound ? "upgrade" : "rollback") + ": " + point.call.name + " " +
          point.call.path + " [" + point.fault->name +
          (point.spread == Spread::kOnce ? "" : " onwards") +
-         (point.spread == Spread::kOnwardsButTheLog ? " but for the log]" : "]");
+         (point.spread == Spread::kOnwardsExceptLog ? " except for the log]" : "]");
 }
 
 class FaultSweep : public testing::Test {
@@ -138,7 +137,7 @@ class FaultSweep : public testing::Test {
     box.Begin(test::Beginning::kFormer);
     TracedRun const run = box.Launch(Package(sound), {});
     ASSERT_EQ(run.outcome.status, 0);
-    // Ahead of the last entry that can be counted, and ahead of the backup's removal.
+    // Before the last entry is written, and before the backup is removed.
     EXPECT_EQ(std::count_if(run.calls.begin(), run.calls.end(),
                             [](auto const& call) { return call.name == "syncfs"; }),
               sound ? 2 : 1);
@@ -146,9 +145,9 @@ class FaultSweep : public testing::Test {
       for (Fault const& fault : kFaults) {
         if (test::IsShort() && !fault.in_short) continue;
         if (fault.action == Injection::Action::kShorten && run.calls[i].name != "write") continue;
-        for (Spread spread : {Spread::kOnce, Spread::kOnwards, Spread::kOnwardsButTheLog}) {
+        for (Spread spread : {Spread::kOnce, Spread::kOnwards, Spread::kOnwardsExceptLog}) {
           bool const spared = run.calls[i].path.rfind(kLogFolder, 0) == 0;
-          if (spread == Spread::kOnwardsButTheLog && spared) continue;
+          if (spread == Spread::kOnwardsExceptLog && spared) continue;
           points_.push_back({sound, run.calls[i], i + 1, &fault, spread});
         }
       }
@@ -160,7 +159,7 @@ class FaultSweep : public testing::Test {
     injection.action = point.fault->action;
     injection.error = point.fault->error;
     injection.at = point.number;
-    if (point.spread == Spread::kOnwardsButTheLog) injection.spared = kLogFolder;
+    if (point.spread == Spread::kOnwardsExceptLog) injection.spared = kLogFolder;
     if (point.spread != Spread::kOnce) {
       injection.count = point.fault->error == EINTR ? kInterruptions : Injection::kOnwards;
     }
@@ -173,7 +172,7 @@ class FaultSweep : public testing::Test {
     std::string const what = Describe(point);
     EXPECT_GE(run.hits, 1U) << what;
     EXPECT_EQ(run.outcome.status, 0) << what << ", signal " << run.outcome.signal;
-    ExpectATree(box, point, what);
+    ExpectTree(box, point, what);
     ExpectStarted(box, what);
     if (point.spread == Spread::kOnwards) {
       onwards_.Add(box.State());
@@ -183,48 +182,47 @@ class FaultSweep : public testing::Test {
     }
   }
 
-  void ExpectATree(SweepSandbox const& box, Point const& point, std::string const& what) {
+  void ExpectTree(SweepSandbox const& box, Point const& point, std::string const& what) {
     if (box.HoldsFormer() || box.HoldsCarried()) return;
-    // The one way to lose the old tree: it can't be looked at just when it is to be moved aside,
-    // the package turns out to be damaged, and it has been unpacked into the old tree.
+    // The one way to lose the old tree: its stat fails, so it isn't renamed aside, and a damaged
+    // package is unpacked over it.
     bool const known = !point.sound && point.spread == Spread::kOnce && point.call.name == "stat" &&
                        point.call.path == ".Larkmoor/Larkmoor.app";
     EXPECT_TRUE(known) << what << ": " << box.State();
-    lost_.Add(kNotThere);
+    lost_.Add(kNotStatted);
   }
 
   static void ExpectStarted(SweepSandbox const& box, std::string const& what) {
     std::string const client = box.sandbox().App() + "/Contents/MacOS/larkmoor-drive-ui";
-    // What the fault has left empty can't run.
-    bool const stands = std::filesystem::exists(client) && !test::ReadFile(client).empty();
-    EXPECT_EQ(box.Starts(), stands ? 1U : 0U) << what;
+    // The fault may leave the executable empty.
+    bool const can_run = std::filesystem::exists(client) && !test::ReadFile(client).empty();
+    EXPECT_EQ(box.Starts(), can_run ? 1U : 0U) << what;
   }
 
   void ExpectLine(SweepSandbox const& box, Point const& point, std::string const& log,
                   std::string const& what) {
     Rule const* const rule = RuleFor(point.call);
-    ASSERT_NE(rule, nullptr) << what << ": nothing says what this call has to log; it logged "
-                             << log;
+    ASSERT_NE(rule, nullptr) << what << ": no rule says what this call must log; it logged " << log;
     auto const has = [&](std::string const& line) { return log.find(line) != std::string::npos; };
-    bool const told = std::any_of(rule->lines.begin(), rule->lines.end(), has);
+    bool const logged = std::any_of(rule->lines.begin(), rule->lines.end(), has);
     bool const shortened = point.fault->action == Injection::Action::kShorten;
-    bool const undone = !box.HoldsCarried();
+    bool const failed = !box.HoldsCarried();
     test::Tally& tally = point.spread == Spread::kOnce ? once_ : spared_;
     if (box.Starts() == 0 && rule->unless != kLog) {
       EXPECT_TRUE(has("Failed to launch Larkmoor UI")) << what << ": " << log;
     }
-    if (undone && rule->unless != kTarget && rule->unless != kLog) {
+    if (failed && rule->unless != kTarget && rule->unless != kLog) {
       EXPECT_TRUE(has("Failed to upgrade package")) << what << ": " << log;
     }
-    if (told) {
-      tally.Add("told in the log");
+    if (logged) {
+      tally.Add("logged");
     } else if (shortened) {
-      EXPECT_EQ(undone, !point.sound) << what << ": " << log;
-      tally.Add("not told: the rest of a short write is written");
+      EXPECT_EQ(failed, !point.sound) << what << ": " << log;
+      tally.Add("not logged: the rest of a short write is written");
     } else if (rule->unless != nullptr) {
-      tally.Add(std::string("not told: ") + rule->unless);
+      tally.Add(std::string("not logged: ") + rule->unless);
     } else {
-      ADD_FAILURE() << what << " logged " << log;
+      ADD_FAILURE() << what << " must log a line that is missing here: " << log;
     }
   }
 
@@ -236,7 +234,7 @@ class FaultSweep : public testing::Test {
   test::Tally lost_;
 };
 
-TEST_F(FaultSweep, EndsWithATreeAndALineAtEveryCall) {
+TEST_F(FaultSweep, EveryFailedCallLeavesATreeAndALogLine) {
   for (bool sound : {true, false}) CollectPoints(sound);
   test::ForEachPoint(points_.size(), material_,
                      [&](SweepSandbox& box, size_t i) { Check(box, points_[i]); });
@@ -246,11 +244,11 @@ TEST_F(FaultSweep, EndsWithATreeAndALineAtEveryCall) {
       test::Report("  " + name + ": " + std::to_string(count));
     }
   };
-  report("failing once", once_);
-  report("failing from then on, by what is left", onwards_);
-  report("failing from then on, but for the log", spared_);
-  report("the old tree spoilt", lost_);
-  // One call, whatever its error.
+  report("one failure", once_);
+  report("permanent failure, by the state left", onwards_);
+  report("permanent failure except for the log", spared_);
+  report("the old tree lost", lost_);
+  // One call, with each error.
   EXPECT_EQ(lost_.Sum(), test::IsShort() ? 3U : 7U);
 }
 

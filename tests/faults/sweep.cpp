@@ -43,8 +43,8 @@ void MakeTinyClient(fs::path const& folder, int build) {
   WriteFile(folder / kInfo, "[Version]\nbuild_version=" + number + "\n");
 }
 
-/// Adds everything else a package may contain: empty and nonempty folders, files of no, one and
-/// several blocks.
+/// Adds everything else that a package may contain: empty and nonempty folders, files of zero, one
+/// and several blocks.
 void MakeSmallClient(fs::path const& folder, int build) {
   MakeTinyClient(folder, build);
   auto const seed = static_cast<unsigned>(build);
@@ -58,8 +58,8 @@ void MakeSmallClient(fs::path const& folder, int build) {
   fs::create_directories(path("PlugIns/empty"));
   for (char const* name : {"a", "b b", "\303\251", "deep/er/c", "deep/er/d", "deep/er/e", "deep/f",
                            "g", "h", "i", "j", "k", "l", "m", "nothing"}) {
-    std::string const text = std::string(name) == "nothing" ? "" : name + Noise(200, seed + 2);
-    WriteFile(path(std::string("Resources/") + name), text);
+    std::string const contents = std::string(name) == "nothing" ? "" : name + Noise(200, seed + 2);
+    WriteFile(path(std::string("Resources/") + name), contents);
   }
   fs::create_symlink("deep/er", path("Resources/shortcut"));
 }
@@ -159,7 +159,7 @@ void ForEachPoint(size_t count, SweepMaterial const& material,
       }();
       for (size_t i; (i = next++) < count;) job(sandbox, i);
     } catch (std::exception const& error) {
-      ADD_FAILURE() << "a worker gave up: " << error.what();
+      ADD_FAILURE() << "a worker thread failed: " << error.what();
     }
   };
   std::vector<std::thread> workers;
@@ -180,8 +180,8 @@ size_t Tally::Sum() const {
 }
 
 bool IsShort() {
-  char const* const wish = getenv("LARKMOOR_SHORT_SWEEPS");
-  return wish != nullptr && *wish != '\0';
+  char const* const value = getenv("LARKMOOR_SHORT_SWEEPS");
+  return value != nullptr && *value != '\0';
 }
 
 char const* NameOfVolume() { return getenv("LARKMOOR_TEST_VOLUME"); }

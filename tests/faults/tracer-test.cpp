@@ -39,10 +39,10 @@ class TracerTest : public testing::Test {
   test::TempDir folder_;
 };
 
-// The shell opens, duplicates and writes by itself.
+// The shell itself opens, duplicates and writes; there are no children.
 constexpr char kScript[] = "cd watched; echo one > file; echo two > ../elsewhere";
 
-TEST_F(TracerTest, CountsTheCallsBelowTheFolderAndNoOthers) {
+TEST_F(TracerTest, CountsOnlyCallsBelowTheFolder) {
   std::filesystem::create_directory(folder_ / "watched");
   test::TracedRun const run = Shell(kScript, Inject(Injection::Action::kNone, 1));
   std::vector<std::string> calls;
@@ -56,7 +56,7 @@ TEST_F(TracerTest, CountsTheCallsBelowTheFolderAndNoOthers) {
   EXPECT_EQ(run.hits, 0U);
 }
 
-TEST_F(TracerTest, KillsBeforeTheCallHasAnEffect) {
+TEST_F(TracerTest, KillsBeforeTheCallTakesEffect) {
   std::filesystem::create_directory(folder_ / "watched");
   test::TracedRun const run = Shell(kScript, Inject(Injection::Action::kKillBefore, 1));
   EXPECT_EQ(run.outcome.signal, SIGKILL);
@@ -66,7 +66,7 @@ TEST_F(TracerTest, KillsBeforeTheCallHasAnEffect) {
   EXPECT_FALSE(std::filesystem::exists(folder_ / "watched/file"));
 }
 
-TEST_F(TracerTest, KillsAfterTheCallHadItsEffect) {
+TEST_F(TracerTest, KillsAfterTheCallHasTakenEffect) {
   std::filesystem::create_directory(folder_ / "watched");
   test::TracedRun const run = Shell(kScript, Inject(Injection::Action::kKillAfter, 1));
   EXPECT_EQ(run.outcome.signal, SIGKILL);
@@ -74,7 +74,7 @@ TEST_F(TracerTest, KillsAfterTheCallHadItsEffect) {
   EXPECT_EQ(test::ReadFile(folder_ / "watched/file"), "");
 }
 
-TEST_F(TracerTest, LetsACallFailWithTheError) {
+TEST_F(TracerTest, MakesACallFailWithTheError) {
   std::filesystem::create_directory(folder_ / "watched");
   test::TracedRun const run = Shell(kScript, Inject(Injection::Action::kFail, 1, EROFS));
   EXPECT_EQ(run.hits, 1U);
@@ -83,14 +83,14 @@ TEST_F(TracerTest, LetsACallFailWithTheError) {
   EXPECT_TRUE(std::filesystem::exists(folder_ / "elsewhere"));
 }
 
-TEST_F(TracerTest, LeavesCallsAloneBeforeTheOneThatIsMeant) {
+TEST_F(TracerTest, HitsNoCallBeforeTheRequestedOne) {
   std::filesystem::create_directory(folder_ / "watched");
   test::TracedRun const run = Shell(kScript, Inject(Injection::Action::kFail, 1000, EROFS));
   EXPECT_EQ(run.hits, 0U);
   EXPECT_EQ(test::ReadFile(folder_ / "watched/file"), "one\n");
 }
 
-TEST_F(TracerTest, LeavesCallsAloneBelowThePathThatIsSpared) {
+TEST_F(TracerTest, HitsNoCallOnASparedPath) {
   std::filesystem::create_directory(folder_ / "watched");
   Injection injection = Inject(Injection::Action::kFail, 1, EROFS);
   injection.count = Injection::kOnwards;
@@ -101,7 +101,7 @@ TEST_F(TracerTest, LeavesCallsAloneBelowThePathThatIsSpared) {
   EXPECT_EQ(run.hit.path, "watched/file2");
 }
 
-TEST_F(TracerTest, SeesWhatTheProgramsChildrenDoAsNoneOfItsOwn) {
+TEST_F(TracerTest, CountsNoCallsOfTheProgramsChildren) {
   std::filesystem::create_directory(folder_ / "watched");
   test::TracedRun const run =
       Shell("/bin/sh -c 'echo > watched/file'; exit 3", Inject(Injection::Action::kNone, 1));

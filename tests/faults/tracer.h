@@ -7,18 +7,18 @@
 
 #include "support/process.h"
 
-/// Runs a program under the eyes of a tracer that counts what it does to some folders, and that
-/// kills it, or lets a call fail, at any one of these calls.
+/// Traces a program: counts its system calls on some folders, and kills it or makes a call fail at
+/// any one of them.
 ///
-/// A tracer and not a preloaded library: the C library's own calls (remove, fopen, the streams) and
-/// those that go through syscall() never pass a symbol that could be replaced. A filter in the
-/// kernel picks the calls, so that all others run at full speed.
+/// A tracer and not a preloaded library, because the C library's own calls (remove, fopen, streams)
+/// and those through syscall() use no symbol that could be replaced. A filter in the kernel selects
+/// the calls, so that all others run at full speed.
 namespace test {
 
 /// One system call that touched a watched folder.
 struct SystemCall {
-  std::string name;      ///< the kernel's name, without "at" variants told apart
-  std::string path;      ///< below the watched folder's parent; that of the target for a rename
+  std::string name;      ///< without variants: "open" for openat
+  std::string path;      ///< relative to the watched folder's parent; a rename's target
   bool changes = false;  ///< whether it changes the disk, or would if it succeeded
 };
 
@@ -26,15 +26,15 @@ struct Injection {
   enum class Action {
     kNone,
     kKillBefore,  ///< SIGKILL before the call has done anything
-    kKillAfter,   ///< SIGKILL when it is done, before its caller sees the result
-    kFail,        ///< the call does nothing and gives `error`; a close closes nevertheless
-    kShorten      ///< a write writes half; other calls are left alone, and are no hit
+    kKillAfter,   ///< SIGKILL after the call, before its caller sees the result
+    kFail,        ///< the call does nothing and returns `error`; a close still closes
+    kShorten      ///< a write writes half; other calls are unchanged, and not hit
   };
   Action action = Action::kNone;
   unsigned at = 1;     ///< the first call that is hit, counted from 1
-  unsigned count = 1;  ///< how many calls in a row, kOnwards for all
+  unsigned count = 1;  ///< how many consecutive calls, kOnwards for all
   int error = 0;
-  /// Calls on what lies below this path, written as SystemCall::path is, are counted but not hit.
+  /// Calls on this path and below it (in the form of SystemCall::path) are counted but not hit.
   std::string spared{};
   /// Counts only calls that change the disk.
   bool changes_only = false;
@@ -44,22 +44,24 @@ struct Injection {
 
 struct TracedRun {
   Outcome outcome;
-  std::vector<SystemCall> calls;  ///< all that were counted
-  unsigned hits = 0;              ///< how many were killed or failed
+  std::vector<SystemCall> calls;  ///< all counted calls
+  unsigned hits = 0;              ///< how many calls were hit
   SystemCall hit;                 ///< the first of them
 };
 
-/// Runs a program to its end and that of everything it started. `roots` are the watched folders.
-/// Only the program itself is counted and hit, not its children. A program that neither ends nor
-/// uses its time is killed with SIGALRM, one that spins with SIGXCPU. Any thread may call this.
+/// Runs a program until it and all its descendants have exited. `roots` are the watched folders.
+/// Counts and hits only the program's own calls, not those of its children. A program that hangs is
+/// killed with SIGALRM, one that spins with SIGXCPU. Any thread may call this; throws if the
+/// program can't be traced.
 TracedRun Trace(Process::Options const& options, std::vector<std::string> const& roots,
                 Injection const& injection);
 
-/// Held while a child is made, which for a moment has open what other threads are writing: a
-/// program that is written just then couldn't be started. Whoever writes one holds this shared.
+/// Held exclusively during fork(), since the child briefly inherits the files that other threads
+/// are writing: executing one of these would fail with ETXTBSY. Hold it shared while writing a
+/// program.
 std::shared_mutex& ForkLock();
 
-/// Whether this system lets a program be traced. Says why not.
+/// Whether this system lets a program be traced; sets the reason if not.
 bool CanTrace(std::string& reason);
 
 }  // namespace test
