@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Stands in for a Mac's c++: compiles or links for each -arch by itself, and joins what comes out.
-# Zig has the headers, and LLVM the linker. Called by the name build/mac-sdk/bin/c++, beside which
-# make-sdk lays what it needs.
+# A cross-compiler in place of a Mac's c++: compiles or links separately for each -arch, and joins the
+# outputs into a universal file. Zig has the headers, and LLVM the linker. make-sdk links it as
+# build/mac-sdk/bin/c++, next to what it needs.
 set -euo pipefail
 
 sdk=$(cd "$(dirname "$0")/.." && pwd -P)
@@ -35,21 +35,21 @@ while [ $# -gt 0 ]; do
 done
 [ ${#architectures[@]} -gt 0 ] || architectures=(arm64)
 
-# for_architecture ARCHITECTURE ARGUMENT...: one step for one processor.
+# for_architecture ARCHITECTURE ARGUMENT...: runs one step for one processor.
 for_architecture() {
   local architecture=$1 processor=$1 system=$oldest
   shift
   if [ "$architecture" = arm64 ]; then
     processor=aarch64
-    # There is none older for it. A Mac's linker raises it as well.
+    # The oldest version for arm64. Apple's linker raises it as well.
     case $system in 10.*) system=11.0 ;; esac
   fi
   if [ $step = link ]; then
     clang++ -target "$architecture-apple-macosx$system" -stdlib=libc++ -fuse-ld=lld -isysroot "$sdk" \
       -Wno-unused-command-line-argument "$@"
   else
-    # Apple marks in the C++ library's headers what came with which macOS, Zig doesn't. And it would
-    # look for undefined behaviour in what isn't optimised.
+    # Apple's C++ headers say which macOS introduced each function; Zig's do so only with this macro.
+    # By default Zig also adds checks for undefined behaviour to unoptimised code.
     "$sdk/bin/zig" c++ -target "$processor-macos.$system" \
       -U_LIBCPP_HAS_VENDOR_AVAILABILITY_ANNOTATIONS -D_LIBCPP_HAS_VENDOR_AVAILABILITY_ANNOTATIONS=1 \
       -fno-sanitize=all -g0 -isystem "$sdk/headers" "$@"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # usage: mac-test.sh BUILD
-# What a Mac would look at in the programs of a build for it, and the bundle that is made of them.
+# Checks what a Mac reads in the programs of a cross-compiled build, and the bundle made from them.
 
 # shellcheck source=tests/scripts/harness.sh
 . "$(dirname "$0")/../scripts/harness.sh"
@@ -13,17 +13,17 @@ PATH=$SDK/bin:$PATH
 LAUNCHER=$BUILD/src/launcher/launcher
 CLIENT=$BUILD/demo/larkmoor-drive-ui
 
-# part ARCHITECTURE FILE: the file "part", for that processor alone.
+# part ARCHITECTURE FILE: writes that architecture's part of a universal file to the file "part".
 part() { lipo "$2" -thin "$1" -output part || fail "$2 isn't for $1"; }
 
-# load_commands NAME FIELD: the values of a field of the load commands of "part" that have this name.
+# load_commands NAME FIELD: prints this field of all load commands of "part" with this name.
 load_commands() {
   otool -l part | awk -v name="$1" -v field="$2" '
     $1 == "cmd" { inside = $2 == name }
     inside && $1 == field { print $2 }'
 }
 
-# The oldest macOS that "part" runs on, as the processor's linker notes it.
+# The oldest macOS that "part" runs on. The load command that says so depends on the architecture.
 oldest() { { load_commands LC_VERSION_MIN_MACOSX version && load_commands LC_BUILD_VERSION minos; }; }
 
 libraries() { load_commands LC_LOAD_DYLIB name | LC_ALL=C sort; }
@@ -41,14 +41,14 @@ TestEveryProgramIsForBothProcessors() {
   printf '  %d programs\n' $count
 }
 
-TestLauncherRunsOnTheOldestMacOSThatThePropertyListNames() {
+TestLauncherRunsOnTheOldestMacOSInThePropertyList() {
   part x86_64 "$LAUNCHER"
   expect_equal "$(sed -n 's/^CMAKE_OSX_DEPLOYMENT_TARGET:STRING=//p' "$BUILD/CMakeCache.txt")" "$(oldest)"
   part arm64 "$LAUNCHER"
   expect_equal 11.0 "$(oldest)"
 }
 
-TestLauncherAndClientNeedWhatTheBundleCarriesAndTheSystemHas() {
+TestLauncherAndClientNeedOnlyLibrariesOfTheBundleAndTheSystem() {
   local architecture icu
   icu=$(basename "$SDK"/libraries/libicuuc.*)
   for architecture in x86_64 arm64; do
@@ -70,29 +70,29 @@ TestLauncherAndClientNeedWhatTheBundleCarriesAndTheSystemHas() {
   done
 }
 
-# The bundle is assembled once, and then copied.
+# The bundle is made once, and then copied.
 shared=$(mktemp -d "${TMPDIR:-/tmp}/larkmoor-mac.XXXXXX")
 trap 'rm -rf "$shared"' EXIT
 
 make_mac_bundle() {
-  if [ ! -d "$shared/whole" ]; then
+  if [ ! -d "$shared/complete" ]; then
     mkdir -p "$shared/made"
     make_client "$shared/made/client" 7
     expect_success "$SCRIPTS/make-package" "$shared/made/client" "$shared/made/client.lpk"
-    # The stubs of libraries are our own.
+    # The bundled libraries are stubs of our own.
     mkdir -p texts/stubs
     echo 'Contents/Frameworks/*: stubs' >texts/index.txt
     echo "free of any" >texts/stubs/LICENSE
     expect_success "$SCRIPTS/make-bundle" --launcher "$BUILD" --package "$shared/made/client.lpk" \
       --licenses texts "$shared/made/Larkmoor.app"
-    mv "$shared/made" "$shared/whole"
+    mv "$shared/made" "$shared/complete"
   fi
-  cp -Rp "$shared/whole/Larkmoor.app" .
+  cp -Rp "$shared/complete/Larkmoor.app" .
 }
 
 check_bundle() { "$SCRIPTS/check-bundle" Larkmoor.app; }
 
-# Without the package, which is compressed, and the stand-ins for libraries.
+# The package is excluded because it is compressed.
 TestNoPathOfTheBuildMachineIsInTheBundle() {
   make_mac_bundle
   local path
@@ -101,7 +101,7 @@ TestNoPathOfTheBuildMachineIsInTheBundle() {
   done
 }
 
-TestBundleIsWholeAndPasses() {
+TestBundleIsCompleteAndPassesTheCheck() {
   make_mac_bundle
   expect_equal "Contents/Frameworks/QtCore.framework/Versions/5/QtCore
 Contents/Frameworks/QtGui.framework/Versions/5/QtGui
@@ -124,7 +124,7 @@ Contents/Resources/package/larkmoor.lpk" \
   expect_success check_bundle
 }
 
-TestInstalledLauncherLooksForLibrariesInItsBundleAlone() {
+TestInstalledLauncherSearchesOnlyItsBundleForLibraries() {
   make_mac_bundle
   local architecture
   for architecture in x86_64 arm64; do
@@ -133,9 +133,9 @@ TestInstalledLauncherLooksForLibrariesInItsBundleAlone() {
   done
 }
 
-TestPropertyListPromisesWhatTheLauncherIs() {
+TestPropertyListDescribesTheLauncher() {
   make_mac_bundle
-  python3 - Larkmoor.app/Contents/Info.plist >out <<'END' || fail "no property list"
+  python3 - Larkmoor.app/Contents/Info.plist >out <<'END' || fail "Info.plist can't be read"
 import plistlib, sys
 
 with open(sys.argv[1], 'rb') as file:
@@ -152,7 +152,7 @@ LSMinimumSystemVersion 10.13
 NSHighResolutionCapable True" "$(cat out)"
 }
 
-# thin FILE ARCHITECTURE: leaves it that one alone.
+# thin FILE ARCHITECTURE: removes the other architectures from the file.
 thin() { lipo "$1" -thin "$2" -output thin && mv thin "$1" && chmod +x "$1"; }
 
 TestCheckFindsAMissingArchitecture() {
@@ -165,7 +165,7 @@ TestCheckFindsAMissingArchitecture() {
   expect_failure "libarchive.13.dylib lacks the architecture arm64" check_bundle
 }
 
-TestCheckTakesABundleThatIsForOneArchitectureOnPurpose() {
+TestCheckAcceptsABundleIntendedForOneArchitecture() {
   make_mac_bundle
   thin Larkmoor.app/Contents/MacOS/launcher arm64
   sed -i.bak '/<string>x86_64<\/string>/d' Larkmoor.app/Contents/Info.plist
@@ -185,7 +185,7 @@ TestCheckFindsLibrariesOutsideTheBundleAndTheSystem() {
   expect_failure "libqcocoa.dylib (arm64) looks for libraries in '/usr/local/lib', outside" check_bundle
 }
 
-TestCheckFindsADeploymentTargetAboveThePropertyLists() {
+TestCheckFindsADeploymentTargetNewerThanThePropertyLists() {
   make_mac_bundle
   local library=Larkmoor.app/Contents/Frameworks/libarchive.13.dylib
   c++ -arch x86_64 -arch arm64 -mmacosx-version-min=14.2 -dynamiclib -x c++ /dev/null -o $library ||
@@ -196,7 +196,7 @@ TestCheckFindsADeploymentTargetAboveThePropertyLists() {
   expect_success check_bundle
 }
 
-TestCheckFindsProgramsThatAreCutShort() {
+TestCheckFindsTruncatedPrograms() {
   make_mac_bundle
   local launcher=Larkmoor.app/Contents/MacOS/launcher
   thin $launcher arm64
@@ -204,7 +204,7 @@ TestCheckFindsProgramsThatAreCutShort() {
   expect_failure "launcher is not a program that a Mac can load" check_bundle
 }
 
-# The commands of docs/releasing.md, in their order.
+# release_step NUMBER: prints the commands of this step in docs/releasing.md.
 release_step() {
   awk -v title="### $1." '
     index($0, title) == 1 { here = 1; next }
@@ -214,7 +214,7 @@ release_step() {
     here && inside' "$PROJECT/docs/releasing.md"
 }
 
-TestLauncherIsSignedFromTheInsideOut() {
+TestReleaseStepsSignTheBundleFromTheInsideOut() {
   make_mac_bundle
   mkdir -p dist bin && mv Larkmoor.app dist
   ln -s "$PROJECT/tests/mac/codesign" bin/codesign
@@ -224,7 +224,7 @@ TestLauncherIsSignedFromTheInsideOut() {
   : >seals
   expect_success env PATH="$PWD/bin:$PATH" bash -eu -c "identity=-; $(cat commands)"
   expect_success "$SCRIPTS/check-bundle" dist/Larkmoor.app
-  # The stand-in notices a change and what nobody signed.
+  # The fake codesign detects a change.
   echo >>dist/Larkmoor.app/Contents/Frameworks/libarchive.13.dylib
   expect_failure "libarchive.13.dylib: not signed, or changed" bin/codesign --verify dist/Larkmoor.app
 }

@@ -1,6 +1,6 @@
-# A Mac's compiler and libraries on Linux: Zig's clang with Apple's C headers and the list of what the
-# system library has, and stub libraries for the rest (make-sdk). What comes out is compiled and
-# linked as on a Mac, and can't run here.
+# Cross-compiles on Linux for a Mac: Zig's clang with Apple's C headers and the symbols of the system
+# library, and stub libraries for the rest (make-sdk). The output is compiled and linked as on a Mac, but
+# can't run here.
 set(CMAKE_SYSTEM_NAME Darwin)
 set(CMAKE_SYSTEM_PROCESSOR arm64)
 
@@ -14,11 +14,10 @@ foreach(tool AR RANLIB INSTALL_NAME_TOOL)
   string(REPLACE _ - name ${name})
   set(CMAKE_${tool} ${sdk}/bin/${name})
 endforeach()
-# A universal archive, which ar can't make.
+# ar can't make a universal static library.
 set(CMAKE_CXX_CREATE_STATIC_LIBRARY "${sdk}/bin/libtool -static -o <TARGET> <OBJECTS>")
 set(CMAKE_C_CREATE_STATIC_LIBRARY ${CMAKE_CXX_CREATE_STATIC_LIBRARY})
-# CMake asks sw_vers for the version of macOS before it knows this option, and without it leaves out
-# every rpath.
+# CMake sets this only if sw_vers reports the version of macOS; without it, it leaves out every rpath.
 set(CMAKE_SHARED_LIBRARY_RUNTIME_CXX_FLAG "-Wl,-rpath,")
 
 set(ENV{SDKROOT} ${sdk})
@@ -33,5 +32,5 @@ foreach(package QT Qt5 GTest benchmark spdlog)
   set(${package}_DIR ${CMAKE_CURRENT_LIST_DIR}/packages)
 endforeach()
 
-# The programs' lists of tests are asked of nobody.
+# The test programs can't run to list their tests.
 set(CMAKE_CROSSCOMPILING_EMULATOR true)

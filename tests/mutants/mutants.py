@@ -1,16 +1,16 @@
 #!/usr/bin/env python3
-"""Plants mistakes in src/, one at a time, and tells which of them the tests don't notice.
+"""Makes mutants of src/, each with one mistake, and prints those that no test kills.
 
 usage: mutants.py PROJECT JOBS [N [SEED]]
 
-Each mistake is one edit of one line of C++. JOBS copies of the project are at work at once, each
-with a build of its own that isn't optimised. The unit tests of the mistake's folder run first, then
-the others, then what else of the default mode can notice.
+A mistake is one edit of one line of C++. JOBS copies of the project are tested in parallel, each with
+its own unoptimised build. The unit tests of the mutant's folder run first, then the other unit tests,
+then the rest of the default mode.
 
-Everything runs under bubblewrap, with all but the copy read-only and no process of the system in
-sight: a mistake in code that removes folders and ends processes might take the machine along.
+Everything runs under bubblewrap, where all but the copy is read-only and the system's processes are
+invisible: a mistake in code that removes folders and kills processes could destroy the machine.
 
-equivalent.txt lists mistakes that change no behaviour: they aren't planted.
+equivalent.txt lists mistakes that change no behaviour: these mutants aren't made.
 """
 
 import collections
@@ -29,12 +29,12 @@ import threading
 import time
 
 Mutant = collections.namedtuple("Mutant", "file line start end text before after")
-# A test program that is run as a whole, or one test of CTest's that is no program of GoogleTest's.
+# A GoogleTest program, run as a whole, or another test of CTest.
 Test = collections.namedtuple("Test", "name command folder target")
 
 BUILD = "build/mutants"
 EQUIVALENT = "tests/mutants/equivalent.txt"
-# These look at no code of src/, nor at what it was built into.
+# These tests depend neither on src/ nor on what is built from it.
 BLIND = re.compile(r"^script-(bsd-.*|make-package|bundle|setup|configure|mutants)$|^reference$|catalogue")
 HEAVY = {"faults", "fuzz", "lint", "includes", "powercut", "mac"}
 MEMORY = 4 << 30
@@ -60,7 +60,7 @@ NOT = re.compile(r"(?<=[( ])!(?=[\w(])")
 CONDITION = re.compile(r"\b(?:if|while) \((?=.*\))")
 RETURN = re.compile(r"\breturn ([^;{}\"]+);")
 CHOICE = re.compile(r"(?<=\? )([^?:;]+?)( : )([^?:;]+?)(?=[;,)])")
-# The order makes no difference to some.
+# Two arguments, except where their order makes no difference.
 PAIR = re.compile(r"(?<!swap\()(?<!::min\()(?<!::max\()(?<!strcmp\()(?<=[\w>]\()([\w.>*&-]+)(, )([\w.>*&-]+)(?=\))")
 STATEMENT = re.compile(r"^[ ]+(?!(?:return|using|friend|static|constexpr|case|default|for|if|while|do|"
                        r"else|switch|struct|class|private|public)\b)(?=(?:delete |throw |emit |\*|\+\+|--)?\w)", re.MULTILINE)
@@ -71,7 +71,7 @@ DECLARATION = re.compile(r"(?!delete |throw |emit )[\w:<>,]+(?: const)?(?: |[*&]
 
 
 def blanked(source):
-    """The source with comments, directives and the insides of literals blanked out."""
+    """The source with comments, directives and the contents of literals replaced by spaces."""
     def blank(match):
         text = match.group()
         quoted = text[0] in "\"'"
@@ -81,7 +81,7 @@ def blanked(source):
 
 
 def closing(code, at):
-    """Where the bracket at this place is closed."""
+    """The position of the bracket that closes the one at this position."""
     depth = 0
     for i in range(at, len(code)):
         depth += {"(": 1, "{": 1, "[": 1, ")": -1, "}": -1, "]": -1}.get(code[i], 0)
@@ -91,7 +91,7 @@ def closing(code, at):
 
 
 def statement_end(code, at):
-    """Where the simple statement that begins here ends, or -1."""
+    """The position of the semicolon of the simple statement that begins here, or -1."""
     while at < len(code) and code[at] not in ";{}":
         at = closing(code, at) + 1 if code[at] in "([" else at + 1
         if at == 0:
@@ -116,7 +116,7 @@ def edits(source):
         yield (*match.span(), "")
     for match in CONDITION.finditer(code):
         end = closing(code, match.end() - 1)
-        # Not of a declaration; one comparison or "!" alone is turned by itself.
+        # Not in a declaration; a single comparison or "!" is inverted by other edits.
         if re.fullmatch(r"(?!!)[^\n=<>!;]*|[^\n;]* (?:&&|\|\|) [^\n;]*", code[match.end():end]):
             yield match.end(), end, f"!({source[match.end():end]})"
     for match in RETURN.finditer(code):
@@ -160,24 +160,24 @@ def mutants_of(root, file):
 
 
 def equivalents(root):
-    """The pairs (file, line) and triples (file, line, changed line) of the list."""
+    """The list as pairs (file, line) and triples (file, line, changed line)."""
     listed, file, line = set(), None, None
     path = root / EQUIVALENT
     for text in path.read_text(encoding="utf-8").splitlines() if path.exists() else []:
-        mark, rest = text[:2], text[2:].strip()
-        if mark == "= ":
+        prefix, rest = text[:2], text[2:].strip()
+        if prefix == "= ":
             file = rest
-        elif mark == "- ":
+        elif prefix == "- ":
             line = rest
             listed.add((file, line))
-        elif mark == "+ ":
+        elif prefix == "+ ":
             listed.discard((file, line))
             listed.add((file, line, rest))
     return listed
 
 
 def draw(root, files, count, seed):
-    """The mutants to plant: one of each line, in random order, before a second one of any."""
+    """The mutants to make, in random order: one of each line before the second of any."""
     chance = random.Random(seed)
     listed, met = equivalents(root), set()
     drawn = []
@@ -192,12 +192,12 @@ def draw(root, files, count, seed):
                     kept.append(mutant)
             drawn += [(turn, chance.random(), mutant) for turn, mutant in enumerate(kept)]
     for entry in sorted(listed - met):
-        sys.exit(f"mutants: {EQUIVALENT} lists what is no mistake of {entry[0]}: {entry[1:]}")
+        sys.exit(f"mutants: {EQUIVALENT} lists a mistake that can't be made in {entry[0]}: {entry[1:]}")
     return [mutant for *_, mutant in sorted(drawn)[:count]]
 
 
 class Box:
-    """A copy of the project, that stands at the same path for what runs in it as all the others."""
+    """A copy of the project. What runs in it sees each copy at the same path."""
 
     def __init__(self, root, number):
         self.root = root
@@ -205,7 +205,7 @@ class Box:
         self.tree = root / BUILD / "tree"
 
     def run(self, command, folder=None, timeout=None, with_cache=False):
-        """The exit status of a command and its output; None when its time is over."""
+        """The exit status of a command and its output; None instead of the status after a timeout."""
         cache = []
         if with_cache and shutil.which("ccache"):
             place = subprocess.run(["ccache", "-k", "cache_dir"], capture_output=True, text=True,
@@ -214,8 +214,9 @@ class Box:
             cache = ["--bind", place, place]
         room = ["--perms", "1777", "--size", str(MEMORY), "--tmpfs"]
         sandbox = ["bwrap", "--ro-bind", "/", "/", "--dev-bind", "/dev", "/dev", "--proc", "/proc",
-                   *room, "/tmp", *room, "/dev/shm", "--tmpfs", "/run", "--bind", self.copy, self.tree, *cache, "--unshare-pid", "--unshare-ipc",
-                   "--die-with-parent", "--new-session", "--chdir", folder or self.tree,
+                   *room, "/tmp", *room, "/dev/shm", "--tmpfs", "/run", "--bind", self.copy, self.tree, *cache,
+                   "--unshare-pid", "--unshare-ipc", "--die-with-parent", "--new-session",
+                   "--chdir", folder or self.tree,
                    "--setenv", "XDG_CACHE_HOME", self.tree / "cache",
                    "--setenv", "XDG_RUNTIME_DIR", self.tree / "runtime",
                    "--unsetenv", "DISPLAY", "--unsetenv", "WAYLAND_DISPLAY"]
@@ -249,7 +250,7 @@ class Box:
                         ["ninja", "-C", self.tree / "build"]):
             status, output = self.run(command, with_cache=True)
             if status != 0:
-                sys.exit(f"{output}\nmutants: the unchanged project can't be built, see above")
+                sys.exit(f"{output}\nmutants: the unchanged project doesn't build, see above")
         status, output = self.run(["ctest", "--test-dir", "build", "--show-only=json-v1"])
         if status != 0:
             sys.exit(f"{output}\nmutants: CTest can't list the tests, see above")
@@ -279,15 +280,15 @@ def limit_memory():
 
 
 def in_order(tests, file, kills):
-    """The tests of the file's own folder first, then unit tests, then programs, then the rest.
-    Of these, those that have killed most of the file's mutants."""
+    """The tests of the file's own folder first, then unit tests, then other programs, then the rest.
+    Within each group, those first that have killed most of the file's mutants."""
     folder = "unit/" + pathlib.PurePath(file).parent.name
     return sorted(tests, key=lambda t: (not str(t.folder).endswith(folder), t.target == "all",
                                         "/unit/" not in str(t.folder), -kills[file, t.name]))
 
 
 def judge(box, mutant, tests, seconds, kills):
-    """Plants the mutant: "killed", "surviving" or "not compiling", and by what."""
+    """Makes and tests the mutant: "killed", "surviving" or "not compiling", and what killed it."""
     path = box.copy / mutant.file
     source = path.read_text(encoding="utf-8")
     path.write_text(source[:mutant.start] + mutant.text + source[mutant.end:], encoding="utf-8")
@@ -301,7 +302,7 @@ def judge(box, mutant, tests, seconds, kills):
             if status != 0:
                 kills[mutant.file, test.name] += 1
                 failed = re.search(r"\[  FAILED  \] (\S+?)[,\s]", output)
-                return "killed", ("time limit of " if status is None else "") + (
+                return "killed", ("timeout of " if status is None else "") + (
                     failed.group(1) if failed else test.name)
         return "surviving", ""
     finally:
@@ -309,13 +310,13 @@ def judge(box, mutant, tests, seconds, kills):
 
 
 def measure(box, tests):
-    """The seconds of each test, all of which have to pass."""
+    """The duration of each test in seconds. All must pass."""
     seconds = {}
     for test in tests:
         started = time.monotonic()
         status, output = box.run(test.command, test.folder)
         if status != 0:
-            sys.exit(f"{output}\nmutants: without any mistake {test.name} fails, see above")
+            sys.exit(f"{output}\nmutants: {test.name} fails on the unchanged project, see above")
         seconds[test.name] = time.monotonic() - started
     return seconds
 
@@ -336,14 +337,14 @@ def main():
     files = [str(path.relative_to(root)) for path in (root / "src").rglob("*")
              if path.suffix == ".h" or first.tree / path.relative_to(root) in compiled]
     mutants = draw(root, files, count, seed)
-    print("== Running the tests without any mistake", flush=True)
+    print("== Running the tests on the unchanged project", flush=True)
     seconds = measure(first, tests)
     boxes = [first]
     for number in range(2, jobs + 1):
         boxes.append(Box(root, number))
         subprocess.run(["cp", "-a", first.copy, boxes[-1].copy], check=True)
 
-    print(f"== Planting {len(mutants)} mistakes, seed {seed}", flush=True)
+    print(f"== Testing {len(mutants)} mutants, seed {seed}", flush=True)
     kills = collections.Counter()
     waiting, results, lock = queue.SimpleQueue(), collections.defaultdict(list), threading.Lock()
     for mutant in mutants:

@@ -1,4 +1,4 @@
-# This system's Qt 5, its headers and programs, with stub libraries in place of its own.
+# This system's Qt 5: its headers and tools, with stub libraries.
 file(GLOB larkmoor_qt /usr/lib/*/cmake/Qt5/Qt5Config.cmake)
 include(${larkmoor_qt})
 get_filename_component(sdk ${CMAKE_CURRENT_LIST_DIR}/../../../build/mac-sdk ABSOLUTE)

@@ -1,2 +1,2 @@
-# spdlog, for its headers alone.
+# spdlog, only its headers.
 add_library(spdlog::spdlog INTERFACE IMPORTED)

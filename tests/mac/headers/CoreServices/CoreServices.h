@@ -1,6 +1,6 @@
 #pragma once
 
-// The few names of CoreServices that the project uses, as Apple's headers declare them.
+// The part of CoreServices that the project uses, declared as in Apple's headers.
 
 #include <TargetConditionals.h>
 
