@@ -1,15 +1,15 @@
 #!/usr/bin/env bash
 # usage: bsd-test.sh TEST [ARGUMENT...]
-# Runs a test of the scripts with stand-ins first on the path that know only what a Mac's tools know,
-# and that pad their output as these do. TEST is a file of this folder.
+# Runs TEST, a file of this folder, with wrappers of the tools first on the path. They accept only the
+# options of a Mac's tools, and pad their output like them.
 #
-# Some macOS have more than is let through here, sort -z for instance: the oldest decides.
+# The oldest macOS decides: newer ones know more options, sort -z for instance.
 set -euo pipefail
 
 bin=$(mktemp -d "${TMPDIR:-/tmp}/larkmoor-bsd.XXXXXX")
 trap 'rm -rf "$bin"' EXIT
 
-# tool NAME OPTIONS: OPTIONS as getopts takes them.
+# tool NAME OPTIONS: wraps a tool; OPTIONS are in the form of getopts.
 tool() {
   local real
   real=$(command -v "$1") || return 0
@@ -22,7 +22,7 @@ refuse() {
 }
 given=("$@")
 case $name in
-  # Folders come first, then what to look for.
+  # Folders follow the options, then the expression.
   find)
     while getopts ":$options" option; do
       case $option in \?) break ;; esac
@@ -43,11 +43,11 @@ case $name in
         n | c) [ "$name" != head ] || [ "${OPTARG#-}" = "$OPTARG" ] || refuse "-$option $OPTARG" ;;
       esac
     done
-    # Here an option ends with the first word that is none.
+    # BSD tools end their options at the first operand.
     shift $((OPTIND - 1))
     for word in "$@"; do
       case $name:$word in grep:-* | cp:-* | sort:-* | rm:-* | ls:-*)
-        [ "$word" = - ] || [ "${given[$((OPTIND - 2))]}" = -- ] || refuse "$word behind a name" ;;
+        [ "$word" = - ] || [ "${given[$((OPTIND - 2))]}" = -- ] || refuse "$word after an operand" ;;
       esac
     done
     ;;
@@ -94,7 +94,7 @@ tool uname amnoprsv
 tool uniq cdDiuf:s:
 tool wc clmwL
 tool xargs 0optxE:I:J:L:n:P:R:S:s:
-# What a Mac hasn't at all; what the scripts look for before they call it isn't here.
+# Tools that a Mac lacks, except those that the scripts check for before they call them.
 for name in tac shuf timeout realpath sha256sum md5sum numfmt stdbuf setsid; do
   printf '#!/bin/sh\necho "%s: not on a Mac" >&2\nexit 127\n' $name >"$bin/$name"
   chmod +x "$bin/$name"

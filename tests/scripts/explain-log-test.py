@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""scripts/explain-log with the logs of real runs, with made ones, and with garbage.
+"""Runs scripts/explain-log on logs of real runs, on synthetic ones, and on garbage.
 
 usage: explain-log-test.py LAUNCHER QT-PLUGINS
 """
@@ -39,7 +39,7 @@ def titles(text):
 
 
 class Bundle:
-    """A launcher with its own home."""
+    """A bundle with its own home folder."""
 
     def __init__(self, folder):
         self.folder = pathlib.Path(folder)
@@ -72,7 +72,7 @@ class Bundle:
             package.write_bytes(package.read_bytes()[:1100])
 
     def start(self):
-        # Without these Qt and fontconfig leave folders in /tmp and in the home.
+        # Without these, Qt and fontconfig leave folders in /tmp and in the home folder.
         own = {name: self.folder / name for name in ('XDG_CACHE_HOME', 'XDG_RUNTIME_DIR')}
         for folder in own.values():
             folder.mkdir(mode=0o700, exist_ok=True)
@@ -95,7 +95,7 @@ class RealRuns(unittest.TestCase):
     def explained(self):
         return explained(self.bundle.log.read_bytes())
 
-    def test_tells_installation_plain_start_upgrade_and_rollback_apart(self):
+    def test_distinguishes_installation_plain_start_upgrade_and_rollback(self):
         self.bundle.log_everything()
         self.bundle.carry(100)
         self.bundle.start()
@@ -116,7 +116,7 @@ class RealRuns(unittest.TestCase):
                       said)
         self.assertNotIn('?', said)
 
-    def test_tells_a_failed_start_without_a_level_file(self):
+    def test_explains_a_failed_start_without_a_level_file(self):
         self.bundle.carry(100, damaged=True)
         self.bundle.start()
         said = self.explained()
@@ -125,7 +125,7 @@ class RealRuns(unittest.TestCase):
         self.assertNotIn('?', said)
 
 
-class MadeLogs(unittest.TestCase):
+class SyntheticLogs(unittest.TestCase):
     def test_explains_every_error_and_warning_that_the_document_lists(self):
         rows = re.findall(r'^\| `(\[(?:ERROR|WARNING)\] .*?)(?:\\n)?` \| (.*?) \|',
                           (PROJECT / 'docs/log-file.md').read_text(encoding='utf-8'), re.M)
@@ -139,7 +139,7 @@ class MadeLogs(unittest.TestCase):
         self.assertNotIn('As above', said)
         self.assertNotIn('  ?', said)
 
-    def test_takes_each_end_from_a_message_that_the_document_lists(self):
+    def test_recognises_ends_only_by_documented_messages(self):
         document = (PROJECT / 'docs/log-file.md').read_text(encoding='utf-8')
         source = SCRIPT.read_text(encoding='utf-8')
         words = re.findall(r"^    \('([^']*)', '", source, re.M)
@@ -148,7 +148,7 @@ class MadeLogs(unittest.TestCase):
         for said in words:
             self.assertIn(said, document)
 
-    def test_parts_records_that_share_a_line(self):
+    def test_splits_records_that_share_a_line(self):
         said = explained(RUNNING + 'Nov 21 13:05:08 [ERROR] mac/mac-service(9): Cannot unregister '
                          'bundle, /h/Larkmoor.app' + DONE)
         self.assertIn('Cannot unregister bundle, /h/Larkmoor.app\n', said)
@@ -167,26 +167,26 @@ class MadeLogs(unittest.TestCase):
         self.assertIn('killed', titles(said)[0])
         self.assertNotIn('killed', titles(said)[1])
 
-    def test_keeps_a_start_whole_when_a_second_one_meets_it(self):
+    def test_keeps_a_start_together_when_another_interrupts_it(self):
         said = explained(RUNNING + 'Nov 21 13:05:08 [DEBUG] main(51): app has already launched, '
                          'return\n' + DONE)
         self.assertEqual(len(titles(said)), 2)
         self.assertIn(', 2 s,', titles(said)[0])
         self.assertIn('another launcher was running', titles(said)[1])
 
-    def test_parts_starts_by_a_pause_where_no_record_says_it(self):
+    def test_splits_starts_at_a_pause_without_other_evidence(self):
         error = 'Nov 21 %s [ERROR] launcher(99): Failed to upgrade package\n'
         said = explained(error % '23:59:50' + error % '00:00:20' + error % '00:01:20')
         self.assertEqual(len(titles(said)), 2, said)
         self.assertIn(', 30 s,', titles(said)[0])
 
-    def test_tells_the_meaning_of_a_row_of_the_same_errors_once(self):
+    def test_explains_successive_equal_errors_once(self):
         error = "Nov 21 13:05:07 [ERROR] larkmoor-service(1): failed to backup app from '/a' -> '/%d'\n"
         said = explained(error % 1 + error % 2)
         self.assertEqual(said.count("-> '/"), 2)
         self.assertEqual(said.count('Meaning:'), 1)
 
-    def test_reads_generations_from_the_oldest(self):
+    def test_reads_the_oldest_generation_first(self):
         with tempfile.TemporaryDirectory(prefix='larkmoor-test-') as folder:
             names = ['launcher.log', 'launcher.log_0', 'launcher.log_1', 'launcher.log_10']
             for number, name in enumerate(names):
@@ -195,7 +195,7 @@ class MadeLogs(unittest.TestCase):
         stamps = [line[7:15] for line in titles(run.stdout.decode())]
         self.assertEqual(stamps, ['13:05:03', '13:05:02', '13:05:01', '13:05:00'])
 
-    def test_names_a_log_that_cannot_be_read(self):
+    def test_reports_a_log_that_cannot_be_read(self):
         run = explain('/no/such/launcher.log')
         self.assertEqual(run.returncode, 1)
         self.assertIn(b'/no/such/launcher.log: No such file', run.stderr)
@@ -205,12 +205,12 @@ class MadeLogs(unittest.TestCase):
 
 
 class Garbage(unittest.TestCase):
-    def test_shows_lines_that_no_launcher_writes_as_they_are(self):
+    def test_prints_unknown_lines_unchanged(self):
         line = b'\x00\xff\xfe [ERROR] nothing(\x1b[31m) %s \xc3('
         run = explain(text=RUNNING.encode() + line + b'\n' + DONE.encode())
         self.assertIn(b'  ? ' + line + b'\n', run.stdout)
 
-    def test_survives_a_real_log_that_is_damaged_anywhere(self):
+    def test_survives_a_damaged_log(self):
         whole = (RUNNING + "Nov 21 13:05:08 [ERROR] extractor(1): archive_read_extract2 failed: 'x'\n"
                  + DONE).encode()
         chance = random.Random(20261122)
@@ -220,7 +220,7 @@ class Garbage(unittest.TestCase):
         explained(bytes(damaged))
         explained(bytes(chance.randrange(256) for _ in range(200000)))
 
-    def test_takes_time_in_proportion_to_a_line(self):
+    def test_parses_a_long_line_in_linear_time(self):
         stem = 'Nov 21 13:05:07 [INFO] larkmoor-service(1): target_version = ('
         run = subprocess.run([SCRIPT], input=(stem + ', ' * 500000 + '\n').encode(), timeout=60,
                              capture_output=True, check=False)
@@ -240,7 +240,7 @@ class Terminal(unittest.TestCase):
             while True:
                 try:
                     piece = os.read(ours, 4096)
-                except OSError:  # Linux says so when the other side is closed
+                except OSError:  # Linux: the other side is closed
                     break
                 if not piece:
                     break
@@ -256,7 +256,7 @@ class Terminal(unittest.TestCase):
         self.assertNotIn(b'\x1b', self.on_a_terminal(error, TERM='dumb'))
         self.assertNotIn(b'\x1b', explain(text=error).stdout)
 
-    def test_keeps_what_a_log_holds_from_ruling_the_terminal(self):
+    def test_escapes_control_sequences_on_a_terminal(self):
         said = self.on_a_terminal(b'\x1b]0;mine\x07 \x9b \xff\n', NO_COLOR='1')
         self.assertIn(rb'\x1b]0;mine\x07 \x9b \xff', said)
 

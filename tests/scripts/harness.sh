@@ -1,10 +1,9 @@
-# A few words to write tests of the scripts in. A test file sources this, defines functions whose
-# names start with "Test", and ends with "run_tests". Each function runs in a shell and an empty
-# folder of its own.
+# Helpers for tests of the scripts. A test file sources this, defines functions whose names start with
+# "Test", and ends with "run_tests". Each function runs in its own subshell and its own empty folder.
 # shellcheck shell=bash
 set -uo pipefail
 
-# shellcheck disable=SC2034  # for those who source this
+# shellcheck disable=SC2034  # for the files that source this
 SCRIPTS=$(cd "$(dirname "${BASH_SOURCE[0]}")/../../scripts" && pwd -P)
 
 fail() {
@@ -12,32 +11,33 @@ fail() {
   exit 1
 }
 
-# expect_success COMMAND...: its output is in the file "out", its messages are in "err".
+# expect_success COMMAND...: leaves its standard output in the file "out", its standard error in "err".
 expect_success() {
   "$@" >out 2>err || fail "failed: $*" "$(cat out err)"
 }
 
-# expect_failure TEXT COMMAND...: the command fails, and says the text.
+# expect_failure TEXT COMMAND...: the command fails and prints TEXT.
 expect_failure() {
   local text=$1
   shift
-  if "$@" >out 2>err; then fail "succeeded, against expectation: $*" "$(cat out err)"; fi
+  if "$@" >out 2>err; then fail "should have failed: $*" "$(cat out err)"; fi
   expect_said "$text"
 }
 
+# expect_said TEXT: the last command printed TEXT.
 expect_said() {
-  grep -qF -e "$1" out err || fail "nowhere said: $1" "but:" "$(cat out err)"
+  grep -qF -e "$1" out err || fail "not printed: $1" "but:" "$(cat out err)"
 }
 
 expect_not_said() {
-  ! grep -qF -e "$1" out err || fail "said: $1" "$(cat out err)"
+  ! grep -qF -e "$1" out err || fail "printed: $1" "in:" "$(cat out err)"
 }
 
 expect_equal() {
-  [ "$1" = "$2" ] || fail "expected: $1" "but is:   $2"
+  [ "$1" = "$2" ] || fail "expected: $1" "actual:   $2"
 }
 
-# make_client FOLDER BUILD: the least that passes for a client's bundle.
+# make_client FOLDER BUILD: the smallest tree that passes for a client's bundle.
 make_client() {
   mkdir -p "$1/Contents/MacOS" "$1/Contents/Resources"
   printf '#!/bin/sh\nexit 0\n' >"$1/Contents/MacOS/larkmoor-drive-ui"
@@ -48,14 +48,14 @@ make_client() {
 
 readonly SKIPPED=77
 
-# skip REASON: ends a function that can't run here. scripts/test repeats the line in its summary.
+# skip REASON: ends a test function that can't run here. scripts/test repeats the line in its summary.
 skip() {
-  # shellcheck disable=SC2154  # run_tests' own
+  # shellcheck disable=SC2154  # set by run_tests
   printf 'skipped %s: %s\n' "$name" "$*"
   exit $SKIPPED
 }
 
-# Some steps of a test may only read or only run where a program is installed.
+# skip_without PROGRAM: ends a test function that needs a program which is missing here.
 skip_without() { command -v "$1" >/dev/null 2>&1 || skip "$1 is not installed"; }
 
 run_tests() {

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # usage: install-test.sh BUILD
-# Bundles as they ship, started from a folder of their own: the launcher, the sample client and the
-# packages of scripts/make-package together.
+# Starts bundles as they ship, outside the build: the launcher, the sample client and the packages of
+# scripts/make-package together.
 
 # shellcheck source=tests/scripts/harness.sh
 . "$(dirname "$0")/harness.sh"
@@ -10,10 +10,11 @@ BUILD=$(cd "$1" && pwd -P)
 PROJECT=$(dirname "$SCRIPTS")
 export QT_QPA_PLATFORM=offscreen
 
-# The client's stand-in here is a script that leaves a note, so that no process outlives the test.
+# make_note_client BUILD: a stub of the client that leaves a note and ends, so that no process outlives
+# the test.
 make_note_client() {
   make_client client "$1"
-  # shellcheck disable=SC2016  # the variables are the stand-in's
+  # shellcheck disable=SC2016  # expanded by the stub
   printf '#!/bin/sh\necho started >"$HOME/note.part" && mv "$HOME/note.part" "$HOME/note"\n' \
     >client/Contents/MacOS/larkmoor-drive-ui
 }
@@ -24,23 +25,23 @@ make_bundle() {
     "elsewhere/Larkmoor Drive.app"
 }
 
-# at_home COMMAND...: with all that belongs to a user in the test's folder.
+# at_home COMMAND...: runs the command with the user's folders in the test's own.
 at_home() {
   mkdir -p -m 700 home caches runtime
   env HOME="$PWD/home" XDG_CACHE_HOME="$PWD/caches" XDG_RUNTIME_DIR="$PWD/runtime" "$@"
 }
 
-# launch ASSIGNMENT...: starts the bundle with these variables in its environment.
+# launch ASSIGNMENT...: starts the bundle with these environment variables.
 launch() {
   at_home timeout 60 env "$@" "elsewhere/Larkmoor Drive.app/Contents/MacOS/launcher" \
     >launched 2>&1 || fail "the launcher ended with status $?" "$(cat launched)"
 }
 
-# The client is started as a process of its own, so that its note may come later.
+# The launcher doesn't wait for the client, so the note may come later.
 wait_for_note() {
   local deadline=$((SECONDS + 30))
   until [ -e home/note ]; do
-    [ $SECONDS -lt $deadline ] || fail "the client wasn't started" "$(cat home/.Larkmoor/log/*)"
+    [ $SECONDS -lt $deadline ] || fail "the client didn't start" "$(cat home/.Larkmoor/log/*)"
     sleep 0.05
   done
 }
@@ -50,7 +51,7 @@ expect_installed() {
   diff -r --no-dereference client home/.Larkmoor/Larkmoor.app || fail "the installed tree differs"
 }
 
-TestInstallsNamesOutsideAsciiInTheCLocale() {
+TestInstallsNonAsciiNamesInTheCLocale() {
   make_note_client 7
   mkdir "client/Contents/Ärger mit Ümlauten"
   echo 1 >"client/Contents/Ärger mit Ümlauten/größe.txt"
@@ -68,10 +69,10 @@ TestFormatThatConvertsNamesFailsInTheCLocale() {
     "elsewhere/Larkmoor Drive.app"
   launch LC_ALL=C LANG=C
   grep -q "archive_read_next_header failed" home/.Larkmoor/log/launcher.log ||
-    fail "the warning of make-package is needless: pax was installed in the C locale"
+    fail "pax installs in the C locale, so the warning of make-package is wrong"
 }
 
-TestEveryFormatOfTheOrderInstalls() {
+TestEveryFormatInstalls() {
   local form
   make_note_client 7
   for form in gnutar pax ustar cpio zip 7zip; do
@@ -88,16 +89,16 @@ TestBundleNeedsNothingOfTheBuildOrTheSources() {
   skip_without strace
   make_note_client 7
   make_bundle
-  # A leak checker can't work under strace.
+  # LeakSanitizer can't run under strace.
   at_home env ASAN_OPTIONS="${ASAN_OPTIONS:-}:detect_leaks=0" \
     strace -f -qq -e trace=file -o trace "elsewhere/Larkmoor Drive.app/Contents/MacOS/launcher" \
     >launched 2>&1 || fail "the launcher ended with status $?" "$(tail -n 5 launched trace)"
   expect_installed
   grep -q 'Larkmoor Drive.app/Contents/Frameworks/plugins/platforms/libqoffscreen.so' trace ||
     fail "the plug-in wasn't taken from the bundle"
-  # A thread checker reads what it is to leave out.
+  # ThreadSanitizer reads its suppressions.
   ! grep -F "\"$PROJECT/" trace | grep -vF "$PROJECT/tests/tsan/" ||
-    fail "the bundle reaches into the build or the sources"
+    fail "the bundle opens files of the build or the sources"
 }
 
 TestInstalledClientIsTheSampleClient() {
@@ -107,7 +108,7 @@ TestInstalledClientIsTheSampleClient() {
   launch LC_ALL=C
   local pid deadline=$((SECONDS + 30))
   until [ -s home/.Larkmoor/ui.pid ]; do
-    [ $SECONDS -lt $deadline ] || fail "the client wrote no pid file" "$(cat home/.Larkmoor/log/*)"
+    [ $SECONDS -lt $deadline ] || fail "the client wrote no PID file" "$(cat home/.Larkmoor/log/*)"
     sleep 0.05
   done
   pid=$(sed -n 's/^pid="\([0-9]*\)"$/\1/p' home/.Larkmoor/ui.pid)

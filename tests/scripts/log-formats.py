@@ -1,4 +1,4 @@
-"""Prints the log formats of a folder of sources, one a line: component, level, format as written.
+"""Prints the log formats in a folder of sources, one per line: component, level, format as written.
 
 usage: log-formats.py FOLDER
 """
@@ -11,14 +11,14 @@ CALL = re.compile(
     r'LOG_MSG\(\s*LEVEL_(\w+),\s*log_component::(\w+)\(\),\s*((?:"(?:[^"\\]|\\.)*"\s*)+)[,)]'
 )
 LITERAL = re.compile(r'"((?:[^"\\]|\\.)*)"')
-# What the file that declares the macro says of it is no call.
+# Comments show the macro too.
 CALLS = re.compile(r"^(?!\s*//).*\bLOG_MSG\(LEVEL_", re.MULTILINE)
 
 
 def formats_of(text):
     found = CALL.findall(text)
     if len(found) != len(CALLS.findall(text)):
-        sys.exit("a call of LOG_MSG isn't understood: its format must be a literal")
+        sys.exit("can't parse a call of LOG_MSG: its format must be a literal")
     for level, component, literals in found:
         yield component, level, "".join(LITERAL.findall(literals))
 

@@ -1,11 +1,13 @@
 #!/usr/bin/env bash
+# What scripts/make-package packs, refuses and warns about.
+
 # shellcheck source=tests/scripts/harness.sh
 . "$(dirname "$0")/harness.sh"
 
 pack() { "$SCRIPTS/make-package" "$@"; }
 names() { bsdtar -tf "$1"; }
 
-TestSameFolderGivesSameBytesWhateverTimesAndModes() {
+TestSameFolderGivesSameBytesDespiteOtherTimesAndModes() {
   make_client client 7
   echo one >client/Contents/one
   expect_success pack client first.lpk
@@ -16,7 +18,7 @@ TestSameFolderGivesSameBytesWhateverTimesAndModes() {
   cmp first.lpk second.lpk || fail "the packages differ"
 }
 
-# Enough for several jobs, which zstd shares out among its threads.
+# Large enough for zstd to use several threads.
 TestSameFolderGivesSameBytesOnAnyNumberOfCores() {
   make_client client 7
   seq 1 3000000 >client/Contents/numbers
@@ -27,7 +29,7 @@ TestSameFolderGivesSameBytesOnAnyNumberOfCores() {
   done
 }
 
-TestOtherFormatsAreTheSameBytesEachTime() {
+TestOtherFormatsAreReproducible() {
   make_client client 7
   local form
   for form in pax ustar cpio zip 7zip; do
@@ -38,14 +40,14 @@ TestOtherFormatsAreTheSameBytesEachTime() {
   done
 }
 
-# In gzip's header, behind its magic, its method and its flags.
-TestGzipNotesNoTime() {
+# In gzip's header the time follows the magic number, the method and the flags.
+TestGzipRecordsNoTime() {
   make_client client 7
   expect_success pack --filter gzip client out.lpk
   expect_equal " 00 00 00 00" "$(od -An -tx1 -j4 -N4 out.lpk | tr -s ' ' | sed 's/ *$//')"
 }
 
-TestEntriesAreOf1980OrOfTheTimeThatIsGiven() {
+TestEntriesAreDated1980OrSourceDateEpoch() {
   make_client client 7
   expect_success pack client out.lpk
   expect_equal 315532800 "$(times_in out.lpk)"
@@ -53,12 +55,12 @@ TestEntriesAreOf1980OrOfTheTimeThatIsGiven() {
   expect_equal 1000000000 "$(times_in out.lpk)"
 }
 
-# The times of a package's entries, in seconds since 1970.
+# times_in PACKAGE: the times of its entries, in seconds since 1970.
 times_in() {
   bsdtar -cf - --format mtree --options '!all,time' "@$1" | sed -n 's/.*time=\([0-9]*\).*/\1/p' | sort -u
 }
 
-TestPathsMayHoldBlanks() {
+TestPathsMayContainSpaces() {
   make_client "my client/Larkmoor 2.app" 7
   mkdir "the packages" "temporary files"
   expect_success env TMPDIR="$PWD/temporary files" \
@@ -76,21 +78,20 @@ TestLeavesNoTemporaryFiles() {
   expect_equal "" "$(ls -A temporary)"
 }
 
-TestQuietSaysNothing() {
+TestQuietPrintsNothing() {
   make_client client 7
   expect_success pack --quiet client out.lpk
   expect_equal "" "$(cat out err)"
 }
 
-TestOneFolderAndOnePackageAreWanted() {
+TestRequiresOneFolderAndOnePackage() {
   make_client client 7
   expect_failure "name the client's bundle and the package" pack client
   expect_failure "name the client's bundle and the package" pack client out.lpk more.lpk
 }
 
-# As the launcher does: the last value of a key counts, and quotes and a carriage return are no part
-# of it.
-TestReadsTheBuildInAnyForm() {
+# Like the launcher: the last value of a key counts, without quotes and carriage return.
+TestReadsTheBuildNumberInAnyForm() {
   make_client client 7
   local text
   for text in 'build_version=7\nbuild_version=8' 'build_version="8"' 'build_version = 8\r' \
@@ -110,7 +111,7 @@ TestChangedByteGivesOtherBytes() {
   ! cmp -s first.lpk second.lpk || fail "the packages are equal"
 }
 
-TestExecutableIsLastButOneAndInfoIsLast() {
+TestExecutableIsSecondToLastAndInfoIsLast() {
   make_client client 7
   mkdir -p client/Contents/zzz client/Contents/Resources/zzz
   echo z >client/Contents/zzz/z
@@ -120,7 +121,7 @@ Contents/Resources/INFO" "$(names out.lpk | tail -n 2)"
   expect_equal 8 "$(names out.lpk | wc -l | tr -d ' ')"
 }
 
-TestFoldersComeBeforeWhatTheyHold() {
+TestFoldersComeBeforeTheirContents() {
   make_client client 7
   mkdir -p client/Contents/b/c client/Contents/b-c
   echo x >client/Contents/b/c/x
@@ -147,7 +148,7 @@ TestUnpacksToTheSameTree() {
   bsdtar -xf out.lpk -C unpacked || fail "bsdtar can't unpack it"
   diff -r client unpacked || fail "the trees differ"
   expect_equal ../Resources/INFO "$(readlink unpacked/Contents/MacOS/link)"
-  [ -x unpacked/Contents/MacOS/larkmoor-drive-ui ] || fail "the client can't be executed"
+  [ -x unpacked/Contents/MacOS/larkmoor-drive-ui ] || fail "the client isn't executable"
 }
 
 TestHardLinksBecomeFiles() {
@@ -158,7 +159,7 @@ TestHardLinksBecomeFiles() {
   ! bsdtar -tvf out.lpk | grep '^h' || fail "there is a hard link in the package"
 }
 
-TestFiltersByName() {
+TestEveryFilterCanBeReadBack() {
   make_client client 7
   local each
   for each in gzip zstd xz bzip2 none; do
@@ -167,14 +168,14 @@ TestFiltersByName() {
   done
 }
 
-TestDefaultFilterIsZstdWithAWindowThatTheLauncherCanAfford() {
+TestDefaultFilterIsZstdWithASmallWindow() {
   make_client client 7
-  # More than the window, and compressed at once at any level.
+  # Larger than the window, and quick to compress at any level.
   head -c 6000000 /dev/zero >client/Contents/zeros
   local level window
   for level in "" 1 19 22; do
     expect_success pack ${level:+--level $level} client out.lpk
-    zstd -lv out.lpk >list 2>&1 || fail "that is no zstd" "$(cat list)"
+    zstd -lv out.lpk >list 2>&1 || fail "not a zstd file" "$(cat list)"
     window=$(sed -n 's/^Window Size:.*(\([0-9]*\) B)$/\1/p' list)
     [ -z "$(cat err)" ] || fail "level $level: $(cat err)"
     [ "$window" -le 4194304 ] || fail "level $level: the window has $window bytes"
@@ -191,13 +192,13 @@ TestLevelMakesAPackageSmallerOrLarger() {
     expect_success pack --filter $each --level 9 client small.lpk
     [ "$(wc -c <small.lpk)" -lt "$(wc -c <fast.lpk)" ] || fail "$each: the level makes no difference"
   done
-  # Without its option "ultra" zstd takes 19 for 22.
+  # Without its option "ultra", zstd uses level 19 instead of 22.
   expect_success pack --level 19 client 19.lpk
   expect_success pack --level 22 client 22.lpk
-  [ "$(wc -c <22.lpk)" -lt "$(wc -c <19.lpk)" ] || fail "level 22 is none of its own"
+  [ "$(wc -c <22.lpk)" -lt "$(wc -c <19.lpk)" ] || fail "level 22 compresses like level 19"
 }
 
-TestLevelThatThereIsNotIsNamed() {
+TestRefusesUnknownLevels() {
   make_client client 7
   expect_failure "'high' isn't a level" pack --level high client out.lpk
   expect_failure "'x9' isn't a level" pack --level x9 client out.lpk
@@ -207,7 +208,7 @@ TestLevelThatThereIsNotIsNamed() {
   expect_failure "--level needs a value" pack client out.lpk --level
 }
 
-TestMissingZstdIsNamed() {
+TestReportsMissingZstd() {
   make_client client 7
   mkdir bin
   local each
@@ -215,7 +216,7 @@ TestMissingZstdIsNamed() {
   expect_failure "zstd is missing: run scripts/setup" env PATH="$PWD/bin" "$SCRIPTS/make-package" client out.lpk
 }
 
-TestNamesOutsideAsciiWarnInAllFormatsButGnutar() {
+TestWarnsAboutNonAsciiNamesInAllFormatsButGnutar() {
   make_client client 7
   expect_success pack --format pax client out.lpk
   expect_not_said "warning"
@@ -229,47 +230,47 @@ TestNamesOutsideAsciiWarnInAllFormatsButGnutar() {
   done
 }
 
-TestFormatWithAnOrderOfItsOwnWarns() {
+TestWarnsAboutAFormatThatReordersEntries() {
   make_client client 7
   : >client/Contents/empty
   expect_success pack --format 7zip client out.lpk
   expect_said "so INFO isn't the last"
 }
 
-TestRefusesFolderWithoutExecutable() {
+TestRefusesAFolderWithoutTheClient() {
   make_client client 7
   rm client/Contents/MacOS/larkmoor-drive-ui
   expect_failure "has no Contents/MacOS/larkmoor-drive-ui" pack client out.lpk
-  [ ! -e out.lpk ] || fail "there is a package all the same"
+  [ ! -e out.lpk ] || fail "a package was written"
 }
 
-TestRefusesExecutableThatCannotBeExecuted() {
+TestRefusesAClientThatIsNotExecutable() {
   make_client client 7
   chmod -x client/Contents/MacOS/larkmoor-drive-ui
   expect_failure "chmod +x" pack client out.lpk
 }
 
-TestRefusesFolderWithoutInfo() {
+TestRefusesAFolderWithoutInfo() {
   make_client client 7
   rm client/Contents/Resources/INFO
   expect_failure "has no Contents/Resources/INFO" pack client out.lpk
 }
 
-TestRefusesTheInsideOfContents() {
+TestRefusesContentsInsteadOfTheBundle() {
   make_client client 7
   expect_failure "name the folder that has Contents" pack client/Contents out.lpk
 }
 
-TestRefusesMissingFolder() {
+TestRefusesAMissingFolder() {
   expect_failure "isn't a folder" pack client out.lpk
 }
 
-TestRefusesToPackItselfIn() {
+TestRefusesAPackageInsideTheFolder() {
   make_client client 7
   expect_failure "can't be in the folder" pack client client/Contents/out.lpk
 }
 
-TestRefusesLinksOutOfTheTree() {
+TestRefusesSymlinksThatLeadOutside() {
   make_client client 7
   ln -s /etc/passwd client/Contents/absolute
   expect_failure "make it relative" pack client out.lpk
@@ -284,7 +285,7 @@ TestRefusesLinksOutOfTheTree() {
   expect_success pack client out.lpk
 }
 
-TestRefusesLinkThatLeavesThroughAnotherLink() {
+TestRefusesASymlinkThatLeadsOutsideThroughAnother() {
   make_client client 7
   mkdir -p client/Contents/a/b/c
   ln -s a/b/c client/Contents/deep
@@ -314,7 +315,7 @@ TestRefusesNamesThatAMacCannotUnpack() {
   expect_failure "metadata of another file" pack client out.lpk
 }
 
-TestRefusesAFolderAsThePackagesName() {
+TestRefusesAFolderAsThePackage() {
   make_client client 7
   mkdir folder
   expect_failure "can't be the package" pack client folder
@@ -353,19 +354,19 @@ TestRefusesAFileThatCannotBeRead() {
   fi
 }
 
-TestRefusesWhatIsNoFileFolderOrLink() {
+TestRefusesSpecialFiles() {
   make_client client 7
   mkfifo client/Contents/pipe
   expect_failure "neither a file nor a folder nor a symlink" pack client out.lpk
 }
 
-TestUnknownFormatAndFilterAreNamed() {
+TestRefusesUnknownFormatsAndFilters() {
   make_client client 7
   expect_failure "can't write the format tarball" pack --format tarball client out.lpk
   expect_failure "with the filter squeeze" pack --filter squeeze client out.lpk
 }
 
-TestFailureLeavesAnOlderPackageAlone() {
+TestFailureKeepsTheOlderPackage() {
   make_client client 7
   expect_success pack client out.lpk
   cp out.lpk before.lpk
@@ -374,7 +375,7 @@ TestFailureLeavesAnOlderPackageAlone() {
   cmp out.lpk before.lpk || fail "the package has changed"
 }
 
-TestBuildThatIsNoNumberWarns() {
+TestWarnsAboutABuildThatIsNotANumber() {
   make_client client seven
   expect_success pack client out.lpk
   expect_said "under [Version]: the launcher would read"
@@ -392,7 +393,7 @@ TestBuildThatIsNoNumberWarns() {
   expect_not_said "warning"
 }
 
-TestDrawsABarOnATerminal() {
+TestDrawsAProgressBarOnATerminal() {
   skip_without script
   make_client client 7
   expect_success script -qec "'$SCRIPTS/make-package' client out.lpk" /dev/null

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# tests/mutants/mutants.py on a project of one function.
+# Runs tests/mutants/mutants.py on a project of one function.
 
 # shellcheck source=tests/scripts/harness.sh
 . "$(dirname "$0")/harness.sh"
 
 MUTANTS=$(dirname "$SCRIPTS")/tests/mutants/mutants.py
 
-# make_project: its test knows nothing of 0.
+# make_project: a project whose test leaves out 0.
 make_project() {
   mkdir -p tiny/src/foundation tiny/tests/unit/foundation tiny/tests/mutants
   cat >tiny/CMakeLists.txt <<'END'
@@ -47,14 +47,14 @@ END
 
 mutants() { python3 "$MUTANTS" tiny 2 "$@"; }
 
-# The sandbox needs rights that some containers don't give.
+# The sandbox needs privileges that some containers lack.
 skip_without_sandbox() {
   skip_without bwrap
   bwrap --ro-bind / / --dev-bind /dev /dev --proc /proc --unshare-pid true 2>/dev/null ||
-    skip "bwrap can't make a sandbox here"
+    skip "bwrap can't create a sandbox here"
 }
 
-TestEveryMistakeIsJudged() {
+TestEveryMutantIsJudged() {
   skip_without_sandbox
   make_project
   expect_failure "mistakes, seed 1: " mutants 1000 1
@@ -83,19 +83,19 @@ surviving: return number == 1 ? 0 : 1;
 END
   diff expected judged >difference || fail "< expected, > judged:" "$(cat difference)"
   expect_said "19 mistakes, seed 1: 10 killed, 7 surviving, 2 not compiling"
-  [ ! -e tiny/build/mutants ] || fail "the copies are left behind"
+  [ ! -e tiny/build/mutants ] || fail "the copies were left behind"
 }
 
-TestASeedDrawsTheSameMistakesAgain() {
+TestASeedRepeatsTheSameMutants() {
   skip_without_sandbox
   make_project
   mutants 2 5 >first
   mutants 2 5 >second
   grep -q 'mistakes, seed 5: ' first || fail "$(cat first)"
-  diff <(grep -e '->' first | sort) <(grep -e '->' second | sort) || fail "others the second time"
+  diff <(grep -e '->' first | sort) <(grep -e '->' second | sort) || fail "the second run made other mutants"
 }
 
-TestAnEntryOfTheListThatIsNoMistakeIsRefused() {
+TestRefusesAnEquivalentThatIsNotAMutant() {
   skip_without_sandbox
   make_project
   printf -- '- return 5;\n' >>tiny/tests/mutants/equivalent.txt

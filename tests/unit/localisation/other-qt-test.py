@@ -1,5 +1,4 @@
-"""Compiles the catalogues with the programs of the other Qt, and compares with what the build's own
-made of them.
+"""Compiles the catalogues with the programs of the other Qt, and compares the results with the build's.
 
 usage: other-qt-test.py LOCALISATION-FOLDER-OF-THE-BUILD LRELEASE RCC
 """
@@ -23,8 +22,8 @@ def read(*parts):
 
 
 def resource(source):
-    """The format versions that a compiled resource names, and its files: flags and stored bytes by
-    name. The order of the files is the compiler's."""
+    """Returns the format versions of a compiled resource, and its files: flags and stored bytes by
+    name. Compilers order the files differently."""
     arrays = {name.decode(): bytes(int(byte, 16) for byte in re.findall(rb'0x(\w+)', re.sub(rb'//.*', b'', body)))
               for name, body in re.findall(
                   rb'static const unsigned char qt_resource_(\w+)\[\] = \{(.*?)\};', source, re.DOTALL)}
@@ -49,7 +48,7 @@ class OtherQt(unittest.TestCase):
             subprocess.run([LRELEASE, '-silent', os.path.join(SOURCES, 'catalogues', name + '.ts'),
                             '-qm', os.path.join(cls.folder.name, name + '.qm')], check=True)
 
-    def test_the_programs_are_the_other_qts(self):
+    def test_the_programs_belong_to_the_other_qt(self):
         own = re.search(rb'version (\d)', read(BUILD, 'texts.cpp')[:500]).group(1).decode()
         for program in LRELEASE, RCC:
             version = subprocess.run([program, '-version'], check=True, capture_output=True, text=True)
@@ -59,7 +58,7 @@ class OtherQt(unittest.TestCase):
         self.assertEqual(len(self.names), 20)
         for name in self.names:
             with self.subTest(name):
-                # assertEqual would look for minutes for the difference.
+                # assertEqual would take minutes to describe the difference.
                 self.assertTrue(read(self.folder.name, name + '.qm') == read(BUILD, name + '.qm'))
 
     def test_the_resource_has_the_same_files(self):

@@ -1,111 +1,15 @@
-"""Feeds scripts/check-catalogues broken catalogues and looks for each finding, and has
-scripts/update-catalogues follow a changed table."""
+"""Runs scripts/check-catalogues on faulty catalogues, and expects the finding."""
 
-import contextlib
-import io
-import json
 import os
 import re
-import runpy
-import shutil
-import subprocess
 import sys
-import tempfile
 import unittest
-import unittest.mock
 
 sys.dont_write_bytecode = True
-ROOT = os.path.abspath(os.path.join(os.path.dirname(__file__), '..', '..', '..'))
-sys.path.insert(0, os.path.join(ROOT, 'scripts', 'lib'))
-import catalogues
-
-ROWS = r'''// A table in little.
-ROW(0, "nas", "NAS")
-ROW(1, "btn_ok", "OK")
-ROW(2, "file_count", "%1 of %2 files")
-ROW(3, "msi_title", "{\\DlgFont8}[ProductName] Setup")
-ROW(4, "msi_button_next", "&Next")
-ROW(5, "open_folder", "Open folder")
-ROW(6, "tray_opendir", "Open folder")
-ROW(7, "double", "One.  Two.")
-ROW(8, "hidden", "All done\u200b.")
-ROW(9, "add", "File added: ")
-'''
-
-GERMAN = {
-    'NAS': 'NAS',
-    'OK': 'OK',
-    '%1 of %2 files': '%1 von %2 Dateien',
-    '{\\DlgFont8}[ProductName] Setup': '{\\DlgFont8}[ProductName] einrichten',
-    '&Next': '&Weiter',
-    'Open folder': 'Ordner öffnen',
-    'One.  Two.': 'Eins. Zwei.',
-    'All done\u200b.': 'Fertig.',
-    'File added: ': 'Datei hinzugefügt: ',
-}
+from catalogue_folder import GERMAN, ROWS, CatalogueFolder
 
 
-class InAFolder(unittest.TestCase):
-    def setUp(self):
-        self.folder = tempfile.mkdtemp()
-        self.addCleanup(shutil.rmtree, self.folder)
-        for inner in ('catalogues', 'glossary'):
-            os.mkdir(os.path.join(self.folder, inner))
-        self.write_table(ROWS)
-        self.list_names('enu', 'deu', 'chs', 'cht', 'rus', 'hun', 'dan')
-
-    def write_table(self, rows):
-        self.write('str-table-rows.inc', rows)
-        self.groups = catalogues.rows_by_text(
-            catalogues.read_rows(os.path.join(self.folder, 'str-table-rows.inc')))
-
-    def list_names(self, *names):
-        files = ''.join(f'<file>{name}.qm</file>' for name in names)
-        self.write('texts.qrc', f'<RCC><qresource>{files}</qresource></RCC>')
-
-    def write(self, name, text):
-        with open(os.path.join(self.folder, name), 'w', encoding='utf-8') as file:
-            file.write(text)
-
-    def write_catalogue(self, name, changes=None, base=None):
-        translations = dict(GERMAN if base is None else base, **(changes or {}))
-        path = os.path.join(self.folder, 'catalogues', name + '.ts')
-        catalogues.write_catalogue(path, self.groups, {
-            source: catalogues.Message(source, text) for source, text in translations.items()})
-        if not os.path.exists(os.path.join(self.folder, 'glossary', name + '.json')):
-            self.write_glossary({}, name)
-        return path
-
-    def write_glossary(self, fields, name='deu'):
-        self.write(f'glossary/{name}.json', json.dumps(fields))
-
-    def edit(self, path, old, new):
-        with open(path, encoding='utf-8') as file:
-            text = file.read()
-        self.assertIn(old, text)
-        with open(path, 'w', encoding='utf-8') as file:
-            file.write(text.replace(old, new, 1))
-
-    def read(self, name):
-        with open(os.path.join(self.folder, name), encoding='utf-8') as file:
-            return file.read()
-
-    def run_script(self, script, *arguments):
-        """In this process, since an interpreter takes longer to start than a script to run."""
-        output, errors = io.StringIO(), io.StringIO()
-        command = [script, '--localisation', self.folder, *arguments]
-        with unittest.mock.patch.object(sys, 'argv', command), \
-                contextlib.redirect_stdout(output), contextlib.redirect_stderr(errors), \
-                self.assertRaises(SystemExit) as end:
-            runpy.run_path(os.path.join(ROOT, 'scripts', script), run_name='__main__')
-        self.assertEqual(errors.getvalue(), '')
-        return end.exception.code or 0, output.getvalue()
-
-    def check(self, *names):
-        return self.run_script('check-catalogues', *names)
-
-
-class CheckCatalogues(InAFolder):
+class CheckCatalogues(CatalogueFolder):
     def assert_finds(self, fault, changes, name='deu', base=None):
         self.write_catalogue(name, changes, base)
         status, output = self.check(name)
@@ -119,24 +23,24 @@ class CheckCatalogues(InAFolder):
         self.assertEqual((status, output), (0, f'1 catalogues of {len(self.groups)} texts: '
                                                'no findings\n'))
 
-    def test_passes_a_sound_catalogue(self):
+    def test_accepts_a_correct_catalogue(self):
         self.assert_clean('deu')
 
-    def test_names_catalogue_row_and_text_of_a_finding(self):
+    def test_prints_catalogue_row_and_text_of_a_finding(self):
         output = self.assert_finds('lost', {'%1 of %2 files': '%1 Dateien'})
         self.assertEqual(output, 'deu: row 2 file_count: placeholder lost "%2"\n'
                                  '    English      "%1 of %2 files"\n'
                                  '    translation  "%1 Dateien"\n'
                                  f'1 catalogues of {len(self.groups)} texts: 1 findings\n')
 
-    def test_names_every_row_that_shares_the_text(self):
+    def test_prints_every_row_that_shares_the_text(self):
         self.assert_finds('deu: row 5 open_folder, 6 tray_opendir: doubled blank',
                           {'Open folder': 'Ordner  öffnen'})
 
     def test_finds_an_added_placeholder(self):
         self.assert_finds('placeholder added "%3"', {'%1 of %2 files': '%1 %2 %3 Dateien'})
 
-    def test_finds_a_placeholder_that_is_there_twice(self):
+    def test_finds_a_repeated_placeholder(self):
         self.assert_finds('placeholder added "%1"', {'%1 of %2 files': '%1 %1 %2 Dateien'})
 
     def test_finds_a_changed_placeholder(self):
@@ -146,7 +50,7 @@ class CheckCatalogues(InAFolder):
     def test_accepts_placeholders_in_another_order(self):
         self.assert_clean('deu', {'%1 of %2 files': 'Von %2 Dateien %1'})
 
-    def test_finds_a_missing_text(self):
+    def test_finds_a_missing_message(self):
         path = self.write_catalogue('deu')
         self.edit(path, '<source>OK</source>', '<source>Yes</source>')
         status, output = self.check('deu')
@@ -154,26 +58,26 @@ class CheckCatalogues(InAFolder):
         self.assertIn('deu: row 1 btn_ok: missing\n    English      "OK"', output)
         self.assertIn('deu: not in the string table\n    English      "Yes"', output)
 
-    def test_finds_a_text_that_is_there_twice(self):
+    def test_finds_a_duplicate_message(self):
         path = self.write_catalogue('deu')
         self.edit(path, '<source>OK</source>', '<source>NAS</source>')
         self.assertIn('deu: row 0 nas: there twice', self.check('deu')[1])
 
-    def test_finds_a_text_that_nobody_has_translated(self):
+    def test_finds_an_untranslated_message(self):
         output = self.assert_finds('row 1 btn_ok: untranslated', {'OK': ''})
         self.assertEqual(output.count('row 1 btn_ok'), 1)
 
-    def test_finds_an_empty_text_that_counts_as_finished(self):
+    def test_finds_an_empty_translation_marked_as_finished(self):
         path = self.write_catalogue('deu')
         self.edit(path, '<translation>OK<', '<translation><')
         self.assertIn('row 1 btn_ok: empty', self.check('deu')[1])
 
-    def test_finds_a_text_that_a_translator_left_unfinished(self):
+    def test_finds_an_unfinished_translation(self):
         path = self.write_catalogue('deu')
         self.edit(path, '<translation>&amp;Weiter', '<translation type="unfinished">&amp;Weiter')
         self.assertIn('row 4 msi_button_next: marked as unfinished', self.check('deu')[1])
 
-    def test_finds_another_context(self):
+    def test_finds_a_wrong_context(self):
         path = self.write_catalogue('deu')
         self.edit(path, '<name>global</name>', '<name>Launcher</name>')
         self.assertIn('in the context "Launcher"', self.check('deu')[1])
@@ -193,7 +97,7 @@ class CheckCatalogues(InAFolder):
         self.assert_finds('markup lost "[ProductName]"', {source: '{\\DlgFont8}Setup Assistent'})
         self.assert_finds('markup lost "{\\DlgFont8}"', {source: '[ProductName] einrichten'})
 
-    def test_finds_markup_with_another_number_of_backslashes(self):
+    def test_finds_markup_with_a_different_number_of_backslashes(self):
         self.assert_finds('markup lost "{\\DlgFont8}" and added "{\\\\DlgFont8}"', {
             '{\\DlgFont8}[ProductName] Setup': '{\\\\DlgFont8}[ProductName] einrichten'})
 
@@ -208,12 +112,12 @@ class CheckCatalogues(InAFolder):
     def test_finds_an_added_escape(self):
         self.assert_finds('markup added "\\n"', {'Open folder': 'Ordner\\nöffnen'})
 
-    def test_finds_doubled_blanks_where_the_source_has_none(self):
+    def test_finds_added_double_spaces(self):
         self.assert_finds('doubled blank', {'Open folder': 'Ordner  öffnen'})
         self.assert_finds('doubled blank', {'Open folder': 'Ordner\u00a0 öffnen'})
         self.assert_clean('deu', {'One.  Two.': 'Eins.  Zwei.'})
 
-    def test_finds_added_blanks_at_the_ends(self):
+    def test_finds_added_leading_and_trailing_spaces(self):
         self.assert_finds('blank at the beginning', {'Open folder': ' Ordner öffnen'})
         self.assert_finds('blank at the end', {'Open folder': 'Ordner öffnen '})
 
@@ -230,10 +134,10 @@ class CheckCatalogues(InAFolder):
         self.assertEqual(output.count('untranslated'), 21)
         self.assert_clean('deu', {'Text 0': 'Wort 0'}, base={text: text for text in self.groups})
 
-    def test_finds_too_few_texts_that_read_like_their_source(self):
+    def test_finds_too_few_texts_equal_to_their_source(self):
         self.assert_finds('1 texts read like their source', {'OK': 'In Ordnung'})
 
-    def test_finds_another_count_in_the_languages_that_have_the_fewest_and_the_most(self):
+    def test_expects_other_counts_in_the_languages_with_the_fewest_and_the_most(self):
         base = dict(GERMAN, **self.chinese('資料夾'))
         self.assert_clean('cht', base=base)
         self.assert_finds('cht: 3 texts read like their source, but 2 do, such as names and '
@@ -298,7 +202,7 @@ class CheckCatalogues(InAFolder):
         self.write_table(rows)
         return {'NAS': 'NAS', 'OK': 'OK'}
 
-    def test_asks_for_the_longer_term_where_two_would_match(self):
+    def test_requires_the_longer_of_two_matching_terms(self):
         base = self.glossary_table({'link': 'verknüpf', 'sharing link|get link': 'freigabelink'},
                                    pair='Link this computer', share='Sharing link', get='Get link')
         right = {'Link this computer': 'Computer verknüpfen', 'Sharing link': 'Freigabelink',
@@ -310,7 +214,7 @@ class CheckCatalogues(InAFolder):
         self.assert_finds('the glossary says "verknüpf" for "link"',
                           {'Link this computer': 'Freigabelink'}, base=base)
 
-    def test_does_not_take_the_word_of_another_term_that_holds_this_one(self):
+    def test_does_not_accept_a_longer_word_that_belongs_to_another_term(self):
         base = self.glossary_table({'connection': 'ligaç', 'sharing link': 'hiperligaç'},
                                    connection='Connection lost', share='Sharing link')
         self.assert_clean('deu', {'Connection lost': 'Ligação perdida',
@@ -319,17 +223,17 @@ class CheckCatalogues(InAFolder):
                           {'Connection lost': 'Hiperligação perdida',
                            'Sharing link': 'Hiperligação'}, base=base)
 
-    def test_finds_a_word_that_two_terms_have_in_common(self):
+    def test_finds_a_word_shared_by_two_terms(self):
         for connection, link in (('연결', '링크|연결'), ('bağlantı', 'bağl'), ('связ', 'связь')):
             self.write_glossary({'terms': {'connection': connection, 'link': link}})
             self.assert_finds('deu: the glossary has one word for "connection" and "link": ', {})
 
-    def test_accepts_a_word_that_a_term_and_its_own_part_have_in_common(self):
+    def test_accepts_a_word_shared_by_a_term_and_a_part_of_it(self):
         self.write_glossary({'terms': {'folder': 'ordner', 'shared folder': 'ordner, freigegeben',
                                        'connect|connection': 'verbind', 'disconnect': 'verbind'}})
         self.assert_clean('deu')
 
-    def test_finds_a_mark_without_its_space(self):
+    def test_finds_a_punctuation_mark_without_its_space(self):
         self.write_glossary({'spaces': {'before': ':?»', 'after': '«', 'character': 'U+00A0'}})
         self.assert_clean('deu', {'OK': 'À 12:30\u00a0: «\u00a0OK\u00a0»\u00a0?', '&Next': '&NAS',
                                   'Open folder': 'Open folder',
@@ -345,7 +249,7 @@ class CheckCatalogues(InAFolder):
     def dialog(self, *buttons):
         return self.glossary_table({}, **{f'msi_{key}': f'&{key}' for key in buttons})
 
-    def test_finds_an_accelerator_that_one_dialog_has_twice(self):
+    def test_finds_a_duplicate_accelerator_in_a_dialog(self):
         base = self.dialog('button_retry', 'button_ignore', 'button_next')
         right = {'&button_retry': '&Wiederholen', '&button_ignore': '&Ignorieren',
                  '&button_next': '&Weiter'}
@@ -357,48 +261,48 @@ class CheckCatalogues(InAFolder):
         self.assertIn('in the dialog of an error', output)
         self.assertEqual(output.count('accelerator'), 2)
 
-    def test_finds_a_doubled_accelerator_of_the_english_table(self):
+    def test_finds_a_duplicate_accelerator_in_the_english_table(self):
         self.write_table('ROW(0, "msi_button_yes", "&Yes")\nROW(1, "msi_button_no", "Na&y")\n')
         self.assert_finds('row 1 msi_button_no: the accelerator Y is taken in the dialog of an error',
                           {}, 'enu', {text: text for text in self.groups})
 
-    def test_finds_a_term_that_begins_with_a_turkish_capital(self):
+    def test_recognises_a_term_that_starts_with_a_turkish_capital(self):
         base = self.glossary_table({'cancel': 'iptal', 'slow': 'ağır|ısı'},
                                    cancel='Cancel', slow='Slow', heat='Slowly')
         self.assert_clean('deu', {'Cancel': 'İptal', 'Slow': 'AĞIR', 'Slowly': 'Isı'}, base)
 
-    def test_repeats_why_a_text_is_kept_with_a_finding_in_it(self):
+    def test_prints_why_a_text_is_kept_with_its_finding(self):
         self.write_glossary({'kept': {'tray_opendir': 'so heißt es hier'}})
         self.assert_clean('deu')
         output = self.assert_finds('doubled blank', {'Open folder': 'Ordner  öffnen'})
         self.assertIn('    kept         so heißt es hier\n', output)
         self.assertNotIn('kept', self.assert_finds('added "%1"', {'OK': '%1'}))
 
-    def test_finds_a_kept_text_that_is_no_row_or_has_no_reason(self):
+    def test_finds_a_kept_text_that_is_not_a_row_or_has_no_reason(self):
         self.write_glossary({'kept': {'btn_okay': 'kurz', 'nas': ' '}})
         output = self.assert_finds('deu: the glossary names "btn_okay" as kept, which is no row of '
                                    'the string table', {})
         self.assertIn('deu: the glossary names "nas" as kept without words', output)
 
-    def test_finds_a_field_that_a_glossary_does_not_have(self):
+    def test_finds_an_unknown_field_of_a_glossary(self):
         self.write_glossary({'folder': 'ordner'})
         self.assert_finds('deu: cannot be read: the glossary has a field "folder"; it knows '
                           '"terms", "spaces", "kept", "fixed"', {})
 
-    def test_finds_a_changed_text_that_is_fixed(self):
+    def test_finds_a_changed_translation_of_a_fixed_text(self):
         self.write_glossary({'fixed': {'add': 'Datei hinzugefügt: ', 'nas': 'NAS'}})
         self.assert_clean('deu')
         self.assert_finds('deu: row 9 add: is fixed and reads "Datei hinzugefügt: "',
                           {'File added: ': 'Neue Datei: '})
 
-    def test_finds_a_fixed_text_of_the_table_that_was_changed_with_its_catalogue(self):
+    def test_finds_a_fixed_text_changed_in_both_table_and_catalogue(self):
         self.write_glossary({'fixed': {'btn_ok': 'OK'}}, 'enu')
         self.assert_clean('enu', base={text: text for text in self.groups})
         self.write_table(ROWS.replace('"OK"', '"Okay"'))
         self.assert_finds('enu: row 1 btn_ok: is fixed and reads "OK"', {}, 'enu',
                           {text: text for text in self.groups})
 
-    def test_finds_a_catalogue_and_a_glossary_that_the_resource_does_not_list(self):
+    def test_finds_a_catalogue_and_a_glossary_missing_in_the_resource(self):
         self.list_names('deu')
         self.write_catalogue('deu')
         self.write_catalogue('rus')
@@ -443,21 +347,21 @@ class CheckCatalogues(InAFolder):
         self.edit(path, '>&amp;Weiter<', '><numerusform>&amp;Weiter</numerusform><')
         self.assertIn('row 4 msi_button_next: has plural or length forms', self.check('deu')[1])
 
-    def test_holds_three_placeholders_for_lost(self):
+    def test_accepts_only_the_known_lost_placeholders(self):
         self.write_table(ROWS.replace('"file_count"', '"status_desc_syncing"')
                          .replace('%1 of %2 files', '%1 files'))
         self.assert_clean('hun', {'%1 files': 'Szinkron'})
         self.assert_finds('placeholder added "%1"', {'%1 files': 'Szinkron %1'}, 'hun')
         self.assert_finds('placeholder lost "%1"', {'%1 files': 'Dateien'})
 
-    def test_reports_a_catalogue_that_is_missing_or_damaged(self):
+    def test_reports_a_missing_or_damaged_catalogue(self):
         status, output = self.check('deu')
         self.assertEqual(status, 1)
         self.assertIn('deu: cannot be read: ', output)
         self.write('catalogues/deu.ts', '<TS version="2.1"><context>')
         self.assertIn('deu: cannot be read: ', self.check('deu')[1])
 
-    def test_checks_all_that_the_resource_lists(self):
+    def test_checks_every_catalogue_of_the_resource(self):
         self.list_names('enu', 'deu')
         self.write_catalogue('enu', base={text: text for text in self.groups})
         self.write_catalogue('deu', {'Open folder': ''})
@@ -466,115 +370,10 @@ class CheckCatalogues(InAFolder):
         self.assertIn('2 catalogues', output)
         self.assertIn('deu: row 5 open_folder', output)
 
-    def test_explains_itself(self):
+    def test_prints_its_help(self):
         status, output = self.check('-h')
         self.assertEqual(status, 0)
         self.assertIn('usage: scripts/check-catalogues', output)
-
-
-class UpdateCatalogues(InAFolder):
-    def setUp(self):
-        super().setUp()
-        self.list_names('enu', 'deu')
-        self.write_catalogue('deu')
-        self.write_glossary({}, 'enu')
-        self.run_script('update-catalogues')
-
-    def test_writes_the_english_catalogue(self):
-        self.assertEqual(self.check()[0], 0)
-
-    def test_changes_nothing_that_is_up_to_date(self):
-        before = self.read('catalogues/deu.ts')
-        self.assertEqual(self.run_script('update-catalogues'),
-                         (0, 'enu: 9 texts, 0 of them untranslated\n'
-                             'deu: 9 texts, 0 of them untranslated\n'))
-        self.assertEqual(self.read('catalogues/deu.ts'), before)
-
-    def test_leaves_a_new_text_to_the_translator_and_keeps_the_others(self):
-        self.write('str-table-rows.inc', ROWS + 'ROW(10, "new", "Brand new")\n')
-        _, output = self.run_script('update-catalogues')
-        self.assertIn('deu: 10 texts, 1 of them untranslated', output)
-        _, findings = self.check()
-        self.assertIn('deu: row 10 new: untranslated', findings)
-        self.assertIn(' 1 findings', findings)
-
-    def test_drops_a_text_that_has_left_the_table_and_says_what_it_read(self):
-        self.write('str-table-rows.inc', ROWS.replace('Open folder', 'Show folder'))
-        _, output = self.run_script('update-catalogues')
-        self.assertIn('deu: dropped "Open folder", which read "Ordner öffnen"', output)
-        self.assertNotIn('Ordner', self.read('catalogues/deu.ts'))
-
-    def german(self, entry):
-        """The German catalogue with this in the place of the message "&Next"."""
-        text = self.read('catalogues/deu.ts')
-        self.write('catalogues/deu.ts', re.sub(
-            r' *<message>\n *<source>&amp;Next.*?</message>\n', lambda _: entry, text,
-            flags=re.DOTALL))
-
-    def message(self, kind, text, note=''):
-        return (f'<message><source>&amp;Next</source>{note}'
-                f'<translation{kind}>{text}</translation></message>\n')
-
-    def test_keeps_an_unfinished_translation_unfinished(self):
-        self.german(self.message(' type="unfinished"', 'Weiter?'))
-        _, output = self.run_script('update-catalogues')
-        self.assertIn('deu: 9 texts, 1 of them untranslated', output)
-        self.assertIn('<translation type="unfinished">Weiter?</translation>',
-                      self.read('catalogues/deu.ts'))
-
-    def test_keeps_the_comment_of_a_translator(self):
-        note = '<translatorcomment>Knopf; &lt;kurz&gt;</translatorcomment>'
-        self.german(self.message('', '&amp;Weiter', note))
-        self.run_script('update-catalogues')
-        self.assertIn(note, self.read('catalogues/deu.ts'))
-        self.assertEqual(self.check('deu')[0], 0)
-
-    def test_prefers_a_finished_translation_to_a_vanished_one(self):
-        finished = self.message('', '&amp;Weiter')
-        vanished = self.message(' type="vanished"', '&amp;Nächstes')
-        unfinished = self.message(' type="unfinished"', '&amp;Vor')
-        for entries in (finished + vanished + unfinished, unfinished + vanished + finished):
-            self.german(entries)
-            _, output = self.run_script('update-catalogues')
-            self.assertIn('<translation>&amp;Weiter</translation>', self.read('catalogues/deu.ts'))
-            self.assertIn('deu: dropped "&Next", which read "&Nächstes"', output)
-            self.assertIn('deu: dropped "&Next", which read "&Vor"', output)
-            self.assertEqual(self.check('deu')[0], 0)
-
-    def test_offers_a_vanished_translation_when_its_text_is_back(self):
-        self.german(self.message(' type="vanished"', '&amp;Weiter'))
-        self.run_script('update-catalogues')
-        self.assertIn('<translation type="unfinished">&amp;Weiter</translation>',
-                      self.read('catalogues/deu.ts'))
-
-    def test_says_what_a_dropped_comment_was(self):
-        self.write_table(ROWS.replace('&Next', '&Continue'))
-        self.german(self.message('', '&amp;Weiter',
-                                 '<translatorcomment>Knopf</translatorcomment>'))
-        _, output = self.run_script('update-catalogues')
-        self.assertIn('deu: dropped "&Next", which read "&Weiter"', output)
-        self.assertIn('deu: dropped "&Next", with the comment "Knopf"', output)
-
-    def test_leaves_plural_forms_to_the_translator(self):
-        self.german('<message numerus="yes"><source>&amp;Next</source><translation>'
-                    '<numerusform>&amp;Weiter</numerusform></translation></message>\n')
-        self.run_script('update-catalogues')
-        self.assertIn('<translation type="unfinished">&amp;Weiter</translation>',
-                      self.read('catalogues/deu.ts'))
-
-    def test_changes_nothing_and_names_the_file_when_a_catalogue_is_damaged(self):
-        self.write('catalogues/deu.ts', '<TS version="2.1"><context>')
-        run = subprocess.run([sys.executable, os.path.join(ROOT, 'scripts', 'update-catalogues'),
-                              '--localisation', self.folder],
-                             capture_output=True, encoding='utf-8', check=False)
-        self.assertEqual(run.returncode, 1)
-        self.assertRegex(run.stderr, r'^update-catalogues: .*deu\.ts is not well-formed XML: .*\n$')
-        self.assertEqual(self.read('catalogues/deu.ts'), '<TS version="2.1"><context>')
-
-    def test_starts_a_language_that_has_no_catalogue(self):
-        os.remove(os.path.join(self.folder, 'catalogues', 'deu.ts'))
-        _, output = self.run_script('update-catalogues')
-        self.assertIn('deu: 9 texts, 9 of them untranslated', output)
 
 
 if __name__ == '__main__':

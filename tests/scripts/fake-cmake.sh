@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# preset-stand-in.sh TOOL ARGUMENT...: stands in the place of cmake or ctest. With a preset it only
-# looks whether the tool has that one. A build without one prints what it would do; anything else is
-# the tool's own business.
+# usage: fake-cmake.sh TOOL ARGUMENT...
+# Replaces TOOL, which is cmake or ctest. With a preset, it only checks that the preset exists. A build
+# without one prints the commands that it would run. Everything else runs TOOL.
 tool=$1
 shift
 case " $* " in
