@@ -49,10 +49,10 @@ class Witness : public QObject {
         dialog.screen()->grabWindow(0, place.x(), place.y(), place.width(), place.height());
     if (char const* file = getenv("LARKMOOR_TEST_WITNESS_PICTURE")) screen.save(file);
     own_grab = true;
-    QPixmap const anew = dialog.grab();
+    QPixmap const repainted = dialog.grab();
     own_grab = false;
     return screen.toImage().convertToFormat(QImage::Format_RGB32) ==
-           anew.toImage().convertToFormat(QImage::Format_RGB32);
+           repainted.toImage().convertToFormat(QImage::Format_RGB32);
   }
 
  private:

@@ -34,7 +34,7 @@ class CheckCatalogues(CatalogueFolder):
                                  f'1 catalogues of {len(self.groups)} texts: 1 findings\n')
 
     def test_prints_every_row_that_shares_the_text(self):
-        self.assert_finds('deu: row 5 open_folder, 6 tray_opendir: doubled blank',
+        self.assert_finds('deu: row 5 open_folder, 6 tray_opendir: double space',
                           {'Open folder': 'Ordner  öffnen'})
 
     def test_finds_an_added_placeholder(self):
@@ -61,7 +61,7 @@ class CheckCatalogues(CatalogueFolder):
     def test_finds_a_duplicate_message(self):
         path = self.write_catalogue('deu')
         self.edit(path, '<source>OK</source>', '<source>NAS</source>')
-        self.assertIn('deu: row 0 nas: there twice', self.check('deu')[1])
+        self.assertIn('deu: row 0 nas: occurs twice', self.check('deu')[1])
 
     def test_finds_an_untranslated_message(self):
         output = self.assert_finds('row 1 btn_ok: untranslated', {'OK': ''})
@@ -102,7 +102,7 @@ class CheckCatalogues(CatalogueFolder):
             '{\\DlgFont8}[ProductName] Setup': '{\\\\DlgFont8}[ProductName] einrichten'})
 
     def test_finds_a_style_that_is_no_longer_first(self):
-        self.assert_finds('"{\\DlgFont8}" no longer stands first', {
+        self.assert_finds('"{\\DlgFont8}" is no longer first', {
             '{\\DlgFont8}[ProductName] Setup': '[ProductName]{\\DlgFont8} einrichten'})
 
     def test_finds_a_lost_and_an_added_accelerator(self):
@@ -113,8 +113,8 @@ class CheckCatalogues(CatalogueFolder):
         self.assert_finds('markup added "\\n"', {'Open folder': 'Ordner\\nöffnen'})
 
     def test_finds_added_double_spaces(self):
-        self.assert_finds('doubled blank', {'Open folder': 'Ordner  öffnen'})
-        self.assert_finds('doubled blank', {'Open folder': 'Ordner\u00a0 öffnen'})
+        self.assert_finds('double space', {'Open folder': 'Ordner  öffnen'})
+        self.assert_finds('double space', {'Open folder': 'Ordner\u00a0 öffnen'})
         self.assert_clean('deu', {'One.  Two.': 'Eins.  Zwei.'})
 
     def test_finds_added_leading_and_trailing_spaces(self):
@@ -274,7 +274,7 @@ class CheckCatalogues(CatalogueFolder):
     def test_prints_why_a_text_is_kept_with_its_finding(self):
         self.write_glossary({'kept': {'tray_opendir': 'so heißt es hier'}})
         self.assert_clean('deu')
-        output = self.assert_finds('doubled blank', {'Open folder': 'Ordner  öffnen'})
+        output = self.assert_finds('double space', {'Open folder': 'Ordner  öffnen'})
         self.assertIn('    kept         so heißt es hier\n', output)
         self.assertNotIn('kept', self.assert_finds('added "%1"', {'OK': '%1'}))
 

@@ -311,9 +311,9 @@ TEST_F(PostUpgrade, OpensTheUsersBundleAndLogsNothing) {
 
 TEST_F(PostUpgrade, UnregistersTheBundleBeforeItOpensIt) {
   InstallClient();
-  InstallTool("#!/bin/sh\ntest -e started && exit 9\necho \"$@\" > told\n");
+  InstallTool("#!/bin/sh\ntest -e started && exit 9\necho \"$@\" > arguments\n");
   EXPECT_EQ(MacService::LaunchPerUserBin(), 0);
-  EXPECT_EQ(test::ReadFile(home / "told"), "-u " + App() + "\n");
+  EXPECT_EQ(test::ReadFile(home / "arguments"), "-u " + App() + "\n");
   EXPECT_TRUE(ClientStarts());
   EXPECT_THAT(log.OwnLines(), IsEmpty());
 }

@@ -40,10 +40,11 @@ TEST_F(BundleOnMac, CannotBeUnregisteredWithoutTheTool) {
 }
 
 TEST_F(BundleOnMac, IsUnregisteredByTheTool) {
-  test::WriteFile(folder / "registration-tool", "#!/bin/sh\necho \"$#:$1:$2\" > told\nexit 4\n");
+  test::WriteFile(folder / "registration-tool",
+                  "#!/bin/sh\necho \"$#:$1:$2\" > arguments\nexit 4\n");
   chmod("registration-tool", 0755);
   EXPECT_EQ(platform::ForgetBundle(QStringLiteral("/x/Larkmoor.app")), 4);
-  EXPECT_EQ(test::ReadFile(folder / "told"), "2:-u:/x/Larkmoor.app\n");
+  EXPECT_EQ(test::ReadFile(folder / "arguments"), "2:-u:/x/Larkmoor.app\n");
 }
 
 TEST_F(BundleOnMac, IsOpenedByTheDesktop) {

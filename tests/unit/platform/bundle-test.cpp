@@ -53,9 +53,9 @@ TEST_F(Bundle, CountsAsUnregisteredWithoutARegistrationTool) {
 }
 
 TEST_F(Bundle, IsUnregisteredByTheTool) {
-  InstallTool("#!/bin/sh\necho \"$#:$1:$2\" > told\n");
+  InstallTool("#!/bin/sh\necho \"$#:$1:$2\" > arguments\n");
   EXPECT_EQ(platform::ForgetBundle(App()), 0);
-  EXPECT_EQ(test::ReadFile(folder / "told"), "2:-u:" + App().toStdString() + "\n");
+  EXPECT_EQ(test::ReadFile(folder / "arguments"), "2:-u:" + App().toStdString() + "\n");
 }
 
 TEST_F(Bundle, ReportsTheToolsFailure) {
