@@ -16,13 +16,10 @@
 namespace {
 
 using test::CapturedCerr;
+using test::Utf16;
 using testing::MatchesRegex;
 
 constexpr char kInvalid[] = "ab\xFF";
-
-std::u16string Utf16(ustring const& s) {
-  return reinterpret_cast<char16_t const*>(s.c_str_utf16());
-}
 
 // ---- UTF-16 and normalisation ----
 

@@ -3,25 +3,14 @@
 #include <gmock/gmock.h>
 
 #include <map>
-#include <stdexcept>
 #include <string>
 
 #include "support/ustring-probe.h"
 
 namespace {
 
-std::u16string Utf16(ustring const& s) {
-  return reinterpret_cast<char16_t const*>(s.c_str_utf16());
-}
-
-std::string ErrorOf(void (*call)(ustring&), ustring& s) {
-  try {
-    call(s);
-  } catch (std::out_of_range const& error) {
-    return error.what();
-  }
-  return "no error";
-}
+using test::ErrorOf;
+using test::Utf16;
 
 // ---- substr ----
 

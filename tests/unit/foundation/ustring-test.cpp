@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include <sstream>
-#include <stdexcept>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -14,25 +13,14 @@
 namespace {
 
 using test::CapturedCerr;
+using test::ErrorOf;
+using test::Utf16;
 using testing::MatchesRegex;
 
 constexpr char kInvalid[] = "ab\xFF";
 
 unsigned short const* Units(char16_t const* s) {
   return reinterpret_cast<unsigned short const*>(s);
-}
-
-std::u16string Utf16(ustring const& s) {
-  return reinterpret_cast<char16_t const*>(s.c_str_utf16());
-}
-
-std::string ErrorOf(void (*call)(ustring&), ustring& s) {
-  try {
-    call(s);
-  } catch (std::out_of_range const& error) {
-    return error.what();
-  }
-  return "no error";
 }
 
 // ---- construction ----
