@@ -79,7 +79,7 @@ class Bundle:
         environment = {'PATH': os.environ['PATH'], 'HOME': str(self.folder / 'home'),
                        'LC_ALL': 'C.UTF-8', 'QT_QPA_PLATFORM': 'offscreen',
                        **{name: str(folder) for name, folder in own.items()}}
-        for name in ('ASAN_OPTIONS', 'LSAN_OPTIONS', 'TSAN_OPTIONS', 'UBSAN_OPTIONS'):
+        for name in ('ASAN_OPTIONS', 'LSAN_OPTIONS', 'TSAN_OPTIONS', 'UBSAN_OPTIONS', 'QT_NO_GLIB'):
             if name in os.environ:
                 environment[name] = os.environ[name]
         subprocess.run([self.contents / 'MacOS/launcher'], env=environment, check=True, timeout=60,
