@@ -41,7 +41,7 @@ void ReadVersions(ustring const& path, VersionField const (&fields)[N]) {
 ustring GetAppBackupDir(ustring const& path, int index) {
   ustring first = path + "_tmp";
   if (index == 0) return first;
-  char postfix[8] = "";
+  char postfix[8];
   if (snprintf(postfix, sizeof postfix, "%d", index) < 0) {
     LOG_MSG(LEVEL_ERROR, log_component::service(),
             "[ERROR] larkmoor-service(%d): snprintf failed (continuing without postfix)");

@@ -90,7 +90,10 @@ TEST(FSCopyFault, ClosesTheSourceThenFlushesAndClosesTheTargetThenFreesTheBuffer
           return 0;
         };
         calls.close = [&](int file) {
-          if (file == source) steps.push_back("close the source");
+          if (file == source) {
+            steps.push_back("close the source");
+            EXPECT_TRUE(fs::exists(folder / "source")) << "removed while it was open";
+          }
           if (file == target) steps.push_back("close the target");
         };
         calls.free = [&](void* block) {
