@@ -281,7 +281,8 @@ TEST(FSRemove, StopsAtTheFirstFolderThatCannotBeRemoved) {
     for (std::string const name : {"tree/a/inner", "tree/b/inner"}) {
       WriteFile(folder / (name + "/file"), "");
       fs::create_directories(folder / (name + "/closed"));
-      fs::permissions(folder / (name + "/closed"), fs::perms(0300));  // stays, and its folder with it
+      fs::permissions(folder / (name + "/closed"),
+                      fs::perms(0300));  // stays, and its folder with it
     }
     EXPECT_EQ(FSRemove(folder / "tree", false), -3);
     // The volume chooses which of the two comes first.

@@ -55,6 +55,24 @@ TEST(UstringSearch, FindsBackwards) {
   EXPECT_EQ(s.rfind("longer than the text"), ustring::npos);
 }
 
+template <typename Pattern>
+void ExpectSearchesOfTheWholeString(Pattern const& first, Pattern const& last) {
+  ustring const s("ab");
+  EXPECT_EQ(s.find(first), 0U);
+  EXPECT_EQ(s.rfind(last), 1U);
+  EXPECT_EQ(s.find_first_of(first), 0U);
+  EXPECT_EQ(s.find_first_not_of(last), 0U);
+  EXPECT_EQ(s.find_last_of(last), 1U);
+  EXPECT_EQ(s.find_last_not_of(first), 1U);
+}
+
+TEST(UstringSearch, CoversTheWholeStringByDefault) {
+  ExpectSearchesOfTheWholeString('a', 'b');
+  ExpectSearchesOfTheWholeString<char const*>("a", "b");
+  ExpectSearchesOfTheWholeString<std::string>("a", "b");
+  ExpectSearchesOfTheWholeString<ustring>("a", "b");
+}
+
 TEST(UstringSearch, FindsBytesInAndOutsideOfASet) {
   ustring const s("xxabxx");
   EXPECT_EQ(s.find_first_of("ba"), 2U);

@@ -25,6 +25,18 @@ unsigned short const* Units(char16_t const* s) {
 
 // ---- construction ----
 
+TEST(Ustring, TakesWholeStringsAndSingleCharactersByDefault) {
+  ustring s;
+  EXPECT_EQ(s.assign(ustring("ab")), "ab");
+  EXPECT_EQ(s.append(ustring("cd")), "abcd");
+  EXPECT_EQ(s.assign(std::string("ab")), "ab");
+  EXPECT_EQ(s.append(std::string("cd")), "abcd");
+  EXPECT_EQ(s.assign('a'), "a");
+  EXPECT_EQ(s.append('b'), "ab");
+  EXPECT_EQ(s.assign(static_cast<unsigned short>('a')), "a");
+  EXPECT_EQ(s.append(static_cast<unsigned short>('b')), "ab");
+}
+
 TEST(Ustring, StartsEmptyWithACapacityOfFour) {
   ustring const s;
   EXPECT_TRUE(s.empty());

@@ -50,13 +50,24 @@ class Watch : public QObject {
                      [this](int value) { events.push_back(std::to_string(value)); });
   }
   bool eventFilter(QObject* object, QEvent* event) override {
-    if (object == dialog_ && event->type() == QEvent::Show) events.emplace_back("show");
-    if (object == dialog_ && event->type() == QEvent::Hide) events.emplace_back("hide");
+    if (object != dialog_) return false;
+    if (event->type() == QEvent::Show) events.emplace_back("show");
+    if (event->type() == QEvent::Hide) {
+      events.emplace_back("hide");
+      shown_ms = since_paint_.elapsed();
+    }
+    if (event->type() == QEvent::Paint) {
+      painted_text = dialog_->labelText();
+      since_paint_.start();
+    }
     return false;
   }
   std::vector<std::string> events;
+  QString painted_text;  ///< the label when the dialog was last painted
+  qint64 shown_ms = -1;  ///< from then until it was hidden
 
  private:
+  QElapsedTimer since_paint_;
   QProgressDialog* dialog_;
   QProgressBar* bar_ = nullptr;
 };
@@ -248,6 +259,45 @@ TEST_F(LauncherTest, ShowsThreeEntriesAsThirdsAndStaysAt100UntilHidden) {
   EXPECT_EQ(Dialog()->labelText(), "Larkmoor Drive is ready.");
 }
 
+TEST_F(LauncherTest, LeavesItsLastStateOnTheScreenForAFrame) {
+  constexpr int kFrameMs = 17;
+  Carry({Client()});
+  Launcher launcher;
+  Watch const watch(Dialog());
+  EXPECT_TRUE(RunToTheEnd(&launcher));
+  EXPECT_EQ(watch.painted_text, "Larkmoor Drive is ready.");
+  EXPECT_GE(watch.shown_ms, kFrameMs);
+}
+
+/// A window that appears late: its first paint event with the ready text comes again later.
+class LateWindow : public QObject {
+ public:
+  explicit LateWindow(QProgressDialog* dialog) : dialog_(dialog) { qApp->installEventFilter(this); }
+
+  bool eventFilter(QObject* object, QEvent* event) override {
+    constexpr int kDelayMs = 100;
+    if (object != dialog_ || event->type() != QEvent::Paint || was_late_) return false;
+    if (dialog_->labelText() != "Larkmoor Drive is ready.") return false;
+    was_late_ = true;
+    QCoreApplication::postEvent(dialog_, new QEvent(QEvent::User));
+    QTimer::singleShot(kDelayMs, dialog_, SLOT(update()));
+    return true;
+  }
+
+ private:
+  QProgressDialog* dialog_;
+  bool was_late_ = false;
+};
+
+TEST_F(LauncherTest, WaitsForAWindowThatAppearsLate) {
+  Carry({Client()});
+  Launcher launcher;
+  Watch const watch(Dialog());
+  LateWindow const late(Dialog());
+  EXPECT_TRUE(RunToTheEnd(&launcher));
+  EXPECT_EQ(watch.painted_text, "Larkmoor Drive is ready.");
+}
+
 TEST_F(LauncherTest, NeverShowsTheDialogWhenThereIsNothingToDo) {
   Install();
   Launcher launcher;
@@ -258,6 +308,18 @@ TEST_F(LauncherTest, NeverShowsTheDialogWhenThereIsNothingToDo) {
   EXPECT_THAT(watch.events, ElementsAre("100"));
   EXPECT_EQ(Dialog()->labelText(), "Larkmoor Drive is initializing...");
   EXPECT_THAT(log.OwnLines(), Contains("[DEBUG] launcher(0): no need to upgrade"));
+}
+
+TEST_F(LauncherTest, WaitsForNoWindowWhenThereIsNothingToDo) {
+  Install();
+  Launcher launcher;
+  int nested_loops = 0;
+  auto const counting = QObject::connect(
+      QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
+      [&nested_loops] { nested_loops += QThread::currentThread()->loopLevel() > 1 ? 1 : 0; });
+  EXPECT_TRUE(RunToTheEnd(&launcher));
+  QObject::disconnect(counting);
+  EXPECT_EQ(nested_loops, 0);
 }
 
 TEST_F(LauncherTest, KeepsBarAndLabelAfterAFailureAndFinishes) {

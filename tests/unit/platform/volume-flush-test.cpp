@@ -1,6 +1,7 @@
 #include "platform/volume-flush.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <cerrno>
 #include <filesystem>
@@ -30,6 +31,14 @@ TEST(FlushVolume, FailsForAMissingPath) {
   errno = 0;
   EXPECT_EQ(platform::FlushVolume((folder / "none").c_str()), -1);
   EXPECT_EQ(errno, ENOENT);
+}
+
+TEST(FlushVolume, DoesNotWaitForTheWriterOfAFifo) {
+  test::TempDir folder;
+  ASSERT_EQ(mkfifo((folder / "fifo").c_str(), 0600), 0);
+  errno = 0;
+  EXPECT_EQ(platform::FlushVolume((folder / "fifo").c_str()), -1);
+  EXPECT_EQ(errno, EINVAL);
 }
 
 TEST(FlushVolume, LeavesNoDescriptorOpen) {
