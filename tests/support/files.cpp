@@ -20,7 +20,6 @@
 namespace fs = std::filesystem;
 
 namespace test {
-namespace {
 
 void MakeRemovable(fs::path const& folder) {
   std::error_code ignored;
@@ -29,8 +28,6 @@ void MakeRemovable(fs::path const& folder) {
     if (!entry.is_symlink(ignored) && entry.is_directory(ignored)) MakeRemovable(entry.path());
   }
 }
-
-}  // namespace
 
 TempDir::TempDir() {
   // Not mkdtemp, whose names may hold a K: then there is a second spelling, with the Kelvin sign,

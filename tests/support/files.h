@@ -10,6 +10,10 @@
 /// Files and folders for tests. All functions throw on failure, which fails the test.
 namespace test {
 
+/// Gives the owner all permissions for the folders of a tree, so that it can be removed. Ignores
+/// errors.
+void MakeRemovable(std::filesystem::path const& folder);
+
 /// A unique temporary folder, removed with everything in it, unreadable folders included, at the
 /// end of the scope. Its path is absolute and contains no symlink.
 class TempDir {

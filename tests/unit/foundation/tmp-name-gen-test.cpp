@@ -153,6 +153,22 @@ TEST(TmpNameGen, FirstCallReturnsTheStreamOfTheStandardCipher) {
   EXPECT_EQ(output, expected);
 }
 
+TEST(TmpNameGen, InitialisesThePermutationOfTheStandardCipherFromWholeKeys) {
+  Bytes key;
+  Bytes expected;
+  for (std::size_t i = 0; i < 256; ++i) {
+    key[i] = static_cast<unsigned char>(7 * i + 1);
+    expected[i] = static_cast<unsigned char>(i);
+  }
+  for (unsigned i = 0, j = 0; i < 256; ++i) {
+    j = (j + expected[i] + key[i]) & 255;
+    std::swap(expected[i], expected[j]);
+  }
+  Bytes sbox;
+  TmpNameGen::rc4_init(sbox.data(), key.data());
+  EXPECT_EQ(sbox, expected);
+}
+
 TEST(TmpNameGen, BytesAfterTheKeysTerminatorCount) {
   Bytes short_sbox;
   Bytes long_sbox;
