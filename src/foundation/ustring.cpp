@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <functional>
-#include <istream>
+#include <istream>  // IWYU pragma: keep
 #include <new>
 #include <ostream>
 #include <stdexcept>

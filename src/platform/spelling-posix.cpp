@@ -2,11 +2,10 @@
 
 #include <linux/magic.h>
 #include <sys/stat.h>
-#include <sys/vfs.h>
+#include <sys/statfs.h>
 #include <unicode/bytestream.h>
 #include <unicode/locid.h>
 #include <unicode/normalizer2.h>
-#include <unicode/stringpiece.h>
 #include <unicode/unistr.h>
 #include <unicode/ustring.h>
 
