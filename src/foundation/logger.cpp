@@ -159,7 +159,6 @@ void Logger::LogMsg2(Level level, ustring const& component, char const* format, 
 }
 
 void Logger::ReloadLogFile() {
-  Start();
   if (IsStandardType()) return;
   CloseLogFile();
   if (!OpenLogFile(log_path)) log_fp = nullptr;

@@ -51,9 +51,8 @@ class SpawnPlan {
 
   bool Run(QByteArray program) {
     char* const arguments[] = {program.data(), nullptr};
-    pid_t ignored = 0;
-    return posix_spawn(&ignored, program.constData(), &actions_, &attributes_, arguments,
-                       environ) == 0;
+    return posix_spawn(nullptr, program.constData(), &actions_, &attributes_, arguments, environ) ==
+           0;
   }
 
  private:

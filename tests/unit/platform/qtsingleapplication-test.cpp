@@ -96,8 +96,8 @@ class SingleInstance : public testing::Test {
   SingleInstance() : program(folder / "guard-holder") {
     fs::copy_file(LARKMOOR_TEST_GUARD_HOLDER, program);
   }
-  static void MakeOld(fs::path const& file) {
-    fs::last_write_time(file, fs::file_time_type::clock::now() - std::chrono::hours(1));
+  static void MakeOld(fs::path const& file, std::chrono::seconds age = std::chrono::hours(1)) {
+    fs::last_write_time(file, fs::file_time_type::clock::now() - age);
   }
   test::TempDir folder;
   std::string program;
@@ -143,7 +143,7 @@ TEST_F(SingleInstance, IsFreeAfterItsHolderWasKilledBeforeWritingItsPid) {
     lock = holder.Lock();
   }
   fs::resize_file(lock, 0);
-  MakeOld(lock);
+  MakeOld(lock, std::chrono::seconds(11));
   Asker next(program);
   EXPECT_EQ(next.Answer(), "first");
   next.Release();
@@ -223,24 +223,39 @@ TEST_F(SingleInstance, IsHeldByTheFirstStartThatMakesTheFolder) {
   EXPECT_EQ(test::Run(options).out, "first second\n");
 }
 
-// The program is found from its own folder, whatever is mounted above.
-TEST_F(SingleInstance, IsHeldBesideTheTemporaryFilesWhereMemoryTakesNone) {
-  std::string const prepare =
-      "mount -t tmpfs -o ro none /dev/shm && mount -t tmpfs none /run && mount -t tmpfs none /tmp";
+/// Runs the program with these mounts of its own and then a command. Returns what both print, or
+/// nothing if the system allows no such mounts. The program is found from its own folder, whatever
+/// is mounted above.
+std::string OutputWithMounts(std::string const& mounts, std::string const& command) {
   std::string const in_namespace = "exec unshare --user --map-root-user --mount sh -c ";
-  if (test::Run({{"sh", "-c", in_namespace + "'" + prepare + "'"}, {}, "", "", false}).status !=
-      0) {
-    GTEST_SKIP() << "this system allows no user namespace, or no mount in one";
+  if (test::Run({{"sh", "-c", in_namespace + "'" + mounts + "'"}, {}, "", "", false}).status != 0) {
+    return {};
   }
   test::Process::Options options;
   options.folder = fs::path(LARKMOOR_TEST_GUARD_HOLDER).parent_path();
   // A sanitizer may not find its suppressions below the mounts.
   options.environment = {
       {"QT_QPA_PLATFORM", "offscreen"}, {"LSAN_OPTIONS", ""}, {"TSAN_OPTIONS", ""}};
-  options.arguments = {"sh", "-c",
-                       in_namespace + "'" + prepare +
-                           " && { ./guard-holder once < /dev/null; ls -d /tmp/larkmoor-*; }'"};
-  EXPECT_EQ(test::Run(options).out, "first\n/tmp/larkmoor-launcher-0\n");
+  options.arguments = {
+      "sh", "-c",
+      in_namespace + "'" + mounts + " && { ./guard-holder once < /dev/null; " + command + "; }'"};
+  return test::Run(options).out;
+}
+
+TEST_F(SingleInstance, IsHeldBesideTheTemporaryFilesWhereMemoryTakesNone) {
+  std::string const output = OutputWithMounts(
+      "mount -t tmpfs -o ro none /dev/shm && mount -t tmpfs none /run && mount -t tmpfs none /tmp",
+      "ls -d /tmp/larkmoor-*");
+  if (output.empty()) GTEST_SKIP() << "this system allows no user namespace, or no mount in one";
+  EXPECT_EQ(output, "first\n/tmp/larkmoor-launcher-0\n");
+}
+
+TEST_F(SingleInstance, IsHeldInTheUsersRuntimeFolderIfThereIsOne) {
+  std::string const output = OutputWithMounts(
+      "mount -t tmpfs none /dev/shm && mount -t tmpfs none /run && mkdir -p -m 700 /run/user/0",
+      "ls /dev/shm");
+  if (output.empty()) GTEST_SKIP() << "this system allows no user namespace, or no mount in one";
+  EXPECT_EQ(output, "first\n") << "and no folder elsewhere";
 }
 
 }  // namespace
