@@ -170,8 +170,11 @@ class Bundle:
         self.resources = self.root / "Contents/Resources"
         self.package = self.resources / "package/larkmoor.lpk"
         self.carried = None
-        for made in (programs, platforms, self.package.parent, self.home):
+        # Qt makes a runtime folder in /tmp if there is none.
+        self.runtime = folder / "runtime"
+        for made in (programs, platforms, self.package.parent, self.home, self.runtime):
             made.mkdir(parents=True)
+        self.runtime.chmod(0o700)
         shutil.copy(build / "src/launcher/launcher", programs)
         for peer in peers:
             shutil.copy(build / "bench" / peer, programs)
@@ -191,7 +194,8 @@ class Bundle:
         return self.home / ".Larkmoor/Larkmoor.app"
 
     def environment(self, display=None, fonts=None):
-        chosen = {"HOME": str(self.home), "LC_ALL": "C.UTF-8", "PATH": os.environ["PATH"],
+        chosen = {"HOME": str(self.home), "XDG_RUNTIME_DIR": str(self.runtime),
+                  "LC_ALL": "C.UTF-8", "PATH": os.environ["PATH"],
                   "QT_QPA_PLATFORM": "xcb" if display else "offscreen"}
         if display:
             chosen["DISPLAY"] = display

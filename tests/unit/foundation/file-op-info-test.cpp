@@ -264,6 +264,19 @@ TEST(GetFileInfo, FailsInAFolderWithoutSearchPermission) {
   });
 }
 
+TEST(GetFileInfo, KeepsWhatStatFoundIfThePathHasNoNormalForm) {
+  TempDir folder;
+  std::string const name = "\xFF.txt";
+  WriteFile(folder / name, "bytes");
+  _FILE_INFO_tag info = Marked();
+  EXPECT_EQ(GetFileInfo(folder / name, info), -1);
+  EXPECT_TRUE(info.exists);
+  EXPECT_EQ(Text(info.path), folder / name);
+  EXPECT_EQ(Text(info.name), name);
+  EXPECT_EQ(info.size, 5);
+  EXPECT_EQ(info.type, FILE_TYPE_REGULAR);
+}
+
 TEST(GetFileInfo, ResolvesTheFoldersAbove) {
   TempDir folder;
   WriteFile(folder / "real/sub/file", "");
