@@ -7,7 +7,7 @@
 #include <functional>
 #include <istream>  // IWYU pragma: keep
 #include <new>
-#include <ostream>
+#include <ostream>  // IWYU pragma: keep
 #include <stdexcept>
 #include <utility>
 
