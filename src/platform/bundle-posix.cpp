@@ -51,8 +51,9 @@ class SpawnPlan {
 
   bool Run(QByteArray program) {
     char* const arguments[] = {program.data(), nullptr};
-    return posix_spawn(nullptr, program.constData(), &actions_, &attributes_, arguments, environ) ==
-           0;
+    pid_t ignored;
+    return posix_spawn(&ignored, program.constData(), &actions_, &attributes_, arguments,
+                       environ) == 0;
   }
 
  private:

@@ -39,8 +39,8 @@ BLIND = re.compile(r"^script-(bsd-.*|make-package|bundle|setup|configure|mutants
 HEAVY = {"faults", "fuzz", "lint", "includes", "powercut", "mac"}
 MEMORY = 4 << 30
 
-WITHOUT_CODE = re.compile(
-    r"""//[^\n]*|/\*.*?\*/|__attribute__\(\(.*?\)\)\)|"(?:\\.|[^"\\\n])*"|(?<!\w)'(?:\\.|[^'\\\n])+'|^[ ]*\#(?:\\\n|[^\n])*""",
+COMMENTS_AND_LITERALS = re.compile(
+    r"""//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"|(?<!\w)'(?:\\.|[^'\\\n])+'|^[ ]*\#(?:\\\n|[^\n])*""",
     re.DOTALL | re.MULTILINE)
 # An operator has a space on both sides, unlike a template's bracket, a pointer or a sign.
 SWAPS = {
@@ -71,13 +71,13 @@ DECLARATION = re.compile(r"(?!delete |throw |emit )[\w:<>,]+(?: const)?(?: |[*&]
 
 
 def blanked(source):
-    """The source with comments, attributes, directives and the contents of literals replaced by spaces."""
+    """The source with comments, directives and the contents of literals replaced by spaces."""
     def blank(match):
         text = match.group()
         quoted = text[0] in "\"'"
         inside = re.sub(r"[^\n]", " ", text[1:-1] if quoted else text)
         return text[0] + inside + text[-1] if quoted else inside
-    return WITHOUT_CODE.sub(blank, source)
+    return COMMENTS_AND_LITERALS.sub(blank, source)
 
 
 def closing(code, at):
@@ -135,7 +135,7 @@ def edits(source):
         if end > 0 and "= delete" not in code[start:end] and code[:start].rstrip()[-1:] in ";{}:)" \
                 and not DECLARATION.match(code, start, end):
             yield start, end, ""
-    for match in WITHOUT_CODE.finditer(source):
+    for match in COMMENTS_AND_LITERALS.finditer(source):
         text = match.group()
         if text[0] == '"':
             yield (*match.span(), '"X' + text[1:])

@@ -50,24 +50,13 @@ class Watch : public QObject {
                      [this](int value) { events.push_back(std::to_string(value)); });
   }
   bool eventFilter(QObject* object, QEvent* event) override {
-    if (object != dialog_) return false;
-    if (event->type() == QEvent::Show) events.emplace_back("show");
-    if (event->type() == QEvent::Hide) {
-      events.emplace_back("hide");
-      shown_ms = since_paint_.elapsed();
-    }
-    if (event->type() == QEvent::Paint) {
-      painted_text = dialog_->labelText();
-      since_paint_.start();
-    }
+    if (object == dialog_ && event->type() == QEvent::Show) events.emplace_back("show");
+    if (object == dialog_ && event->type() == QEvent::Hide) events.emplace_back("hide");
     return false;
   }
   std::vector<std::string> events;
-  QString painted_text;  ///< the label when the dialog was last painted
-  qint64 shown_ms = -1;  ///< from then until it was hidden
 
  private:
-  QElapsedTimer since_paint_;
   QProgressDialog* dialog_;
   QProgressBar* bar_ = nullptr;
 };
@@ -259,14 +248,35 @@ TEST_F(LauncherTest, ShowsThreeEntriesAsThirdsAndStaysAt100UntilHidden) {
   EXPECT_EQ(Dialog()->labelText(), "Larkmoor Drive is ready.");
 }
 
+constexpr int kFrameMs = 17;
+
+/// Measures how long the ready text is on the screen. Sees events before the dialog's own filters.
+class ReadyClock : public QObject {
+ public:
+  explicit ReadyClock(QProgressDialog* dialog) : dialog_(dialog) { qApp->installEventFilter(this); }
+
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (object != dialog_) return false;
+    if (event->type() == QEvent::Paint && !since_paint_.isValid() &&
+        dialog_->labelText() == "Larkmoor Drive is ready.") {
+      since_paint_.start();
+    }
+    if (event->type() == QEvent::Hide && since_paint_.isValid()) shown_ms = since_paint_.elapsed();
+    return false;
+  }
+  qint64 shown_ms = -1;  ///< -1 if it was never painted
+
+ private:
+  QProgressDialog* dialog_;
+  QElapsedTimer since_paint_;
+};
+
 TEST_F(LauncherTest, LeavesItsLastStateOnTheScreenForAFrame) {
-  constexpr int kFrameMs = 17;
   Carry({Client()});
   Launcher launcher;
-  Watch const watch(Dialog());
+  ReadyClock clock(Dialog());
   EXPECT_TRUE(RunToTheEnd(&launcher));
-  EXPECT_EQ(watch.painted_text, "Larkmoor Drive is ready.");
-  EXPECT_GE(watch.shown_ms, kFrameMs);
+  EXPECT_GE(clock.shown_ms, kFrameMs);
 }
 
 /// A window that appears late: its first paint event with the ready text comes again later.
@@ -275,7 +285,7 @@ class LateWindow : public QObject {
   explicit LateWindow(QProgressDialog* dialog) : dialog_(dialog) { qApp->installEventFilter(this); }
 
   bool eventFilter(QObject* object, QEvent* event) override {
-    constexpr int kDelayMs = 100;
+    constexpr int kDelayMs = 2 * kFrameMs;
     if (object != dialog_ || event->type() != QEvent::Paint || was_late_) return false;
     if (dialog_->labelText() != "Larkmoor Drive is ready.") return false;
     was_late_ = true;
@@ -292,10 +302,10 @@ class LateWindow : public QObject {
 TEST_F(LauncherTest, WaitsForAWindowThatAppearsLate) {
   Carry({Client()});
   Launcher launcher;
-  Watch const watch(Dialog());
-  LateWindow const late(Dialog());
+  ReadyClock clock(Dialog());
+  LateWindow late(Dialog());
   EXPECT_TRUE(RunToTheEnd(&launcher));
-  EXPECT_EQ(watch.painted_text, "Larkmoor Drive is ready.");
+  EXPECT_GE(clock.shown_ms, kFrameMs);
 }
 
 TEST_F(LauncherTest, NeverShowsTheDialogWhenThereIsNothingToDo) {

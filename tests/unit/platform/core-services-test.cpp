@@ -289,8 +289,12 @@ TEST(VolumePath, DoesNotFitIntoABufferThatIsTooSmall) {
   ASSERT_EQ(FSPathMakeRef(reinterpret_cast<UInt8 const*>(path.c_str()), &ref, nullptr), noErr);
   std::string buffer(path.size() + 2, '#');
   auto* const bytes = reinterpret_cast<UInt8*>(buffer.data());
-  EXPECT_EQ(FSRefMakePath(&ref, bytes, static_cast<UInt32>(path.size())), pathTooLongErr);
-  EXPECT_EQ(FSRefMakePath(&ref, bytes, 0), pathTooLongErr);
+  OSStatus const status = FSRefMakePath(&ref, bytes, static_cast<UInt32>(path.size()));
+  EXPECT_NE(status, noErr);
+#ifndef __APPLE__
+  EXPECT_EQ(status, pathTooLongErr);
+#endif
+  EXPECT_NE(FSRefMakePath(&ref, bytes, 0), noErr);
   EXPECT_EQ(buffer.back(), '#');
   EXPECT_EQ(FSRefMakePath(&ref, bytes, static_cast<UInt32>(path.size() + 1)), noErr);
   EXPECT_EQ(buffer.c_str(), path);

@@ -168,6 +168,15 @@ TEST(FindByNormalForm, HasNoFormOfBytesThatAreNoText) {
   EXPECT_EQ(found, "before");
 }
 
+TEST(FindByNormalForm, SearchesEachFolderOnce) {
+  test::TempDir folder;
+  std::string deep = folder.path();
+  for (int i = 0; i < 30; ++i) deep += "/K";  // with a second spelling, the Kelvin sign
+  fs::create_directories(deep);
+  std::string found;
+  EXPECT_FALSE(platform::FindByNormalForm((deep + "/missing").c_str(), true, found));
+}
+
 TEST(Lstat, FindsAnotherSpellingOnlyWhereNamesAreToBlame) {
   test::TempDir folder;
   std::string const composed = folder / "\u00FC";
