@@ -262,6 +262,25 @@ TEST(FSRemove, FailsForAFileThatCannotBeRemoved) {
   });
 }
 
+TEST(FSRemove, StopsAtTheFirstFileThatCannotBeRemoved) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root can make files of two owners";
+  constexpr int kFilesOfEach = 10;
+  TempDir folder;
+  test::GiveAway(folder.path().c_str());
+  fs::create_directory(folder / "tree");
+  for (int i = 0; i < kFilesOfEach; ++i) {
+    WriteFile(folder / ("tree/roots-" + std::to_string(i)), "");
+    std::string const own = folder / ("tree/own-" + std::to_string(i));
+    WriteFile(own, "");
+    test::GiveAway(own.c_str());
+  }
+  fs::permissions(folder / "tree", fs::perms(01777));  // in which users remove only their own files
+  test::RunUnprivileged([&folder] { EXPECT_EQ(FSRemove(folder / "tree", false), -3); });
+  auto const left =
+      std::distance(fs::directory_iterator(folder / "tree"), fs::directory_iterator());
+  EXPECT_GT(left, kFilesOfEach);
+}
+
 TEST(FSRemove, FailsForAnEntryThatCannotBeStatted) {
   TempDir folder;
   WriteFile(folder / "tree/file", "");

@@ -1,4 +1,5 @@
 #include <gmock/gmock.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <cstring>
@@ -48,6 +49,19 @@ TEST(FSMktemp, LogsAFailureAndLeavesThePathUnchanged) {
               ElementsAre(testing::AllOf(
                   testing::StartsWith("[ERROR] file-op(#): mkstemp(" + folder / "none/"),
                   testing::EndsWith(std::string("): ") + strerror(ENOENT)))));
+}
+
+TEST(FSMktemp, TakesDescriptorZeroIfItIsFree) {
+  TempDir folder;
+  int const standard_input = dup(STDIN_FILENO);
+  close(STDIN_FILENO);
+  ustring path;
+  int const result = FSMktemp(folder.path().c_str(), path);
+  if (standard_input >= 0) {
+    dup2(standard_input, STDIN_FILENO);
+    close(standard_input);
+  }
+  EXPECT_EQ(result, 0);
 }
 
 TEST(FSMktemp, LeavesNoDescriptorOpen) {

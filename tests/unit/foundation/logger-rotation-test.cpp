@@ -41,6 +41,14 @@ TEST_F(LoggerTest, RotatesOnceOneMebibyteAndOneByteAreWritten) {
   EXPECT_EQ(LoggerProbe::PrivateCount(), 1U);
 }
 
+TEST_F(LoggerTest, RotationLeavesFilesOfSimilarNamesAlone) {
+  std::string const other = LogPath() + "_-1";
+  WriteFile(other, "other");
+  ASSERT_EQ(OpenFile(), 0);
+  WriteRecordOf(kRotateAt);
+  EXPECT_EQ(ReadFile(other), "other");
+}
+
 TEST_F(LoggerTest, RotatesAtExactlyTheLimit) {
   ASSERT_EQ(OpenFile(), 0);
   WriteRecordOf(kRotateAt);
