@@ -35,8 +35,8 @@ Test = collections.namedtuple("Test", "name command folder target")
 BUILD = "build/mutants"
 EQUIVALENT = "tests/mutants/equivalent.txt"
 # These tests depend neither on src/ nor on what is built from it.
-BLIND = re.compile(r"^script-(bsd-.*|make-package|bundle|setup|configure|mutants)$|^reference$|catalogue")
-HEAVY = {"faults", "fuzz", "lint", "includes", "powercut", "mac"}
+BLIND = re.compile(r"^script-(make-package|bundle|setup|configure|mutants)$|^reference$|catalogue")
+HEAVY = {"bsd", "faults", "fuzz", "lint", "includes", "powercut", "mac"}
 MEMORY = 4 << 30
 
 COMMENTS_AND_LITERALS = re.compile(
