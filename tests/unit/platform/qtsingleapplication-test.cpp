@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <map>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -32,7 +33,9 @@ struct Pipe {
 /// guard, so each test uses its own copy.
 class Asker {
  public:
-  explicit Asker(std::string const& program) {
+  /// The environment is added to ours.
+  explicit Asker(std::string const& program,
+                 std::map<std::string, std::string> const& environment = {}) {
     Pipe const in;
     Pipe const out;
     pid_ = fork();
@@ -40,6 +43,7 @@ class Asker {
       dup2(in.read_end(), STDIN_FILENO);
       dup2(out.write_end(), STDOUT_FILENO);
       setenv("QT_QPA_PLATFORM", "offscreen", 1);
+      for (auto const& [name, value] : environment) setenv(name.c_str(), value.c_str(), 1);
       execl(program.c_str(), program.c_str(), nullptr);
       _exit(127);
     }
@@ -196,12 +200,8 @@ TEST_F(SingleInstance, DistinguishesExecutables) {
 TEST_F(SingleInstance, IsIndependentOfTheEnvironment) {
   Asker first(program);
   ASSERT_EQ(first.Answer(), "first");
-  setenv("TMPDIR", folder.path().c_str(), 1);
-  setenv("XDG_RUNTIME_DIR", folder.path().c_str(), 1);
-  Asker second(program);
+  Asker second(program, {{"TMPDIR", folder.path()}, {"XDG_RUNTIME_DIR", folder.path()}});
   EXPECT_EQ(second.Answer(), "second");
-  unsetenv("TMPDIR");
-  unsetenv("XDG_RUNTIME_DIR");
 }
 
 // What a start finds after a boot: none of the folders that a lock can be in. Root may change the
