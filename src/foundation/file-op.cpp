@@ -135,7 +135,7 @@ int MakePrefixes(char* text, char*& end, bool replace, mode_t mode) {
     end += std::strcspn(end, "/");
     bool const is_last = end[0] == '\0' || end[1] == '\0';
     *end = '\0';
-    if (MakePrefix(text, replace, is_last, mode) < 0) return -1;
+    if (MakePrefix(text, replace, is_last, mode) != 0) return -1;
     if (is_last) return 0;
     *end = '/';
   }
@@ -159,12 +159,12 @@ int WriteAll(int target, char const* bytes, ssize_t count) {
 int CopyBytes(int source, int target, char* buffer) {
   for (;;) {
     ssize_t const count = read(source, buffer, kCopyBufferSize);
-    if (count == 0) return 0;
     if (count < 0) {
       LOG_MSG(LEVEL_ERROR, log_component::file_op(),
               "[ERROR] file-op(%d): CopyFile: read: %s (%d)\n", strerror(errno), errno);
       return -1;
     }
+    if (count == 0) return 0;
     if (int const result = WriteAll(target, buffer, count)) return result;
   }
 }

@@ -92,7 +92,7 @@ int Logger::Initialize(Type type, ustring const& log_file, ustring const& level_
                        int rotate_count) {
   Start();
   DestroySharedData();
-  DestroyLock();
+  DestroyLock();  // for a new one
   InitializeLock();
   InitializeFileLock();
   InitializeSharedData();
@@ -123,7 +123,6 @@ int Logger::Initialize(Type type, ustring const& log_file, ustring const& level_
 }
 
 void Logger::Destroy() {
-  Start();
   log_initialized = false;
   if (log_type == TYPE_FILE) {
     CloseLogFile();
@@ -165,7 +164,6 @@ void Logger::ReloadLogFile() {
 }
 
 int Logger::Rotate() {
-  Start();
   for (int i = rotate_cnt - 2; i >= 0; --i) {
     std::rename(GenerationName(log_path, i).text, GenerationName(log_path, i + 1).text);
   }
@@ -218,7 +216,7 @@ bool Logger::Start() {
     new (&log_level_room.object) std::map<ustring, int>;
     new (&log_path_room.object) ustring;
     log_fp = stderr;
-    return true;
+    return true;  // that it is made
   }();
   return made;
 }

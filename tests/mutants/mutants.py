@@ -61,7 +61,7 @@ CONDITION = re.compile(r"\b(?:if|while) \((?=.*\))")
 RETURN = re.compile(r"\breturn ([^;{}\"]+);")
 CHOICE = re.compile(r"(?<=\? )([^?:;]+?)( : )([^?:;]+?)(?=[;,)])")
 # Two arguments, except where their order makes no difference.
-PAIR = re.compile(r"(?<!swap\()(?<!::min\()(?<!::max\()(?<!strcmp\()(?<=[\w>]\()([\w.>*&-]+)(, )([\w.>*&-]+)(?=\))")
+PAIR = re.compile(r"(?<!swap\()(?<!::min\()(?<!::max\()(?<!strcmp\()(?<!Needed\()(?<=[\w>]\()([\w.>*&-]+)(, )([\w.>*&-]+)(?=\))")
 STATEMENT = re.compile(r"^[ ]+(?!(?:return|using|friend|static|constexpr|case|default|for|if|while|do|"
                        r"else|switch|struct|class|private|public)\b)(?=(?:delete |throw |emit |\*|\+\+|--)?\w)", re.MULTILINE)
 INNER = re.compile(r"(?<=\) )(?=(?:delete |throw |emit |\*|\+\+|--)?\w[\w:.>*-]*(?:\(| [-+|]?= |;))"

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "foundation/file-op.h"
+#include "platform/core-services.h"
 #include "support/file-op-log.h"
 #include "support/files.h"
 #include "system-calls.h"
@@ -21,6 +22,7 @@ using test::ReadTree;
 using test::SystemCalls;
 using test::TempDir;
 using test::WriteFile;
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -30,6 +32,11 @@ namespace {
 void MakeRenamesCrossVolumes(SystemCalls& calls) {
   calls.rename = [](char const*, char const*) { return FailWith(EXDEV); };
 }
+
+/// The buffer size of the last FSRefMakePath that failed, as each does while `ref_has_no_path` is
+/// set.
+UInt32 refused_size = 0;
+bool ref_has_no_path = false;
 
 /// Makes reading a folder fail at entry number `at`.
 void BreakListing(SystemCalls& calls, int at) {
@@ -51,6 +58,17 @@ bool OnVolume(unsigned long type, bool (*query)(ustring const&)) {
 
 }  // namespace
 
+// FSRefMakePath, through --wrap.
+extern "C" {
+OSStatus __real__Z13FSRefMakePathPK5FSRefPhj(FSRef const* ref, UInt8* path, UInt32 max_path_size);
+OSStatus __wrap__Z13FSRefMakePathPK5FSRefPhj(FSRef const* ref, UInt8* path, UInt32 max_path_size);
+OSStatus __wrap__Z13FSRefMakePathPK5FSRefPhj(FSRef const* ref, UInt8* path, UInt32 max_path_size) {
+  if (!ref_has_no_path) return __real__Z13FSRefMakePathPK5FSRefPhj(ref, path, max_path_size);
+  refused_size = max_path_size;
+  return pathTooLongErr;
+}
+}
+
 TEST(GetFileInfoFault, FailsForAFileOfUnknownType) {
   TempDir folder;
   WriteFile(folder / "file", "12345");
@@ -62,6 +80,33 @@ TEST(GetFileInfoFault, FailsForAFileOfUnknownType) {
   };
   _FILE_INFO_tag info;
   EXPECT_EQ(GetFileInfo(folder / "file", info), -1);
+}
+
+TEST(GetFileInfoFault, FailsForAFileThatVanishesAfterItsStat) {
+  TempDir folder;
+  WriteFile(folder / "file", "");
+  FileOpLog const log;
+  SystemCalls calls;
+  calls.lstat = [](char const* path, struct stat* info) {
+    int const result = test::LibraryLstat(path, info);
+    unlink(path);
+    return result;
+  };
+  _FILE_INFO_tag info;
+  EXPECT_EQ(GetFileInfo(folder / "file", info), -1);
+  EXPECT_THAT(log.Lines(), Contains("[ERROR] file-op(#): FSPathMakeRef: -43"));
+}
+
+TEST(GetFileInfoFault, FailsIfTheStoredPathIsTooLong) {
+  TempDir folder;
+  WriteFile(folder / "file", "");
+  FileOpLog const log;
+  _FILE_INFO_tag info;
+  ref_has_no_path = true;
+  EXPECT_EQ(GetFileInfo(folder / "file", info), -1);
+  ref_has_no_path = false;
+  EXPECT_EQ(refused_size, 4096);
+  EXPECT_THAT(log.Lines(), Contains("[ERROR] file-op(#): FSPathMakeRef: -2110"));
 }
 
 TEST(GetFileInfoFault, SignExtendsTheDeviceNumberFrom32Bits) {

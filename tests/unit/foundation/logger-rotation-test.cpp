@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -102,6 +103,21 @@ TEST_F(LoggerTest, DepthOf50Keeps49OldFilesTheYoungestFirst) {
   EXPECT_EQ(Generations(), expected);
   EXPECT_EQ(*LoggerProbe::SharedCount(), 120U);
   EXPECT_EQ(LoggerProbe::PrivateCount(), 120U);
+}
+
+long OpenFiles() {
+  return std::distance(fs::directory_iterator("/dev/fd"), fs::directory_iterator());
+}
+
+TEST_F(LoggerTest, FormerLogFilesAreClosed) {
+  ASSERT_EQ(OpenFile(), 0);
+  long const open = OpenFiles();
+  RotateLocked();
+  EXPECT_EQ(OpenFiles(), open);
+  Logger::ReloadLogFile();
+  EXPECT_EQ(OpenFiles(), open);
+  Logger::Destroy();
+  EXPECT_EQ(OpenFiles(), open - 1);
 }
 
 /// A path of this many bytes below a folder; makes the folders above its last name.

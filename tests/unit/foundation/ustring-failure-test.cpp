@@ -8,6 +8,7 @@
 #include <new>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "foundation/ustring.h"
 #include "support/captured-cerr.h"
@@ -18,9 +19,12 @@
 
 namespace {
 
+using testing::ElementsAre;
 using testing::MatchesRegex;
 
 int allocations_left = -1;  // -1: all succeed
+bool fails_once = false;    // only the next allocation after these
+std::vector<size_t> sizes;  // that malloc() was asked for
 std::set<void*> blocks;     // that are in use
 bool no_instance = false;
 UErrorCode instance_status = U_ZERO_ERROR;
@@ -28,9 +32,9 @@ UErrorCode normalize_status = U_ZERO_ERROR;
 
 bool Refused() {
   if (allocations_left < 0) return false;
-  if (allocations_left == 0) return true;
-  --allocations_left;
-  return false;
+  bool const refused = allocations_left == 0;
+  if (!refused || fails_once) --allocations_left;
+  return refused;
 }
 
 #define LARKMOOR_TEXT_OF(x) #x
@@ -53,6 +57,7 @@ void* __wrap_realloc(void* block, size_t size);
 void __wrap_free(void* block);
 
 void* __wrap_malloc(size_t size) {
+  sizes.push_back(size);
   return Refused() ? nullptr : *blocks.insert(__real_malloc(size)).first;
 }
 void* __wrap_realloc(void* block, size_t size) {
@@ -90,6 +95,7 @@ class UstringFailure : public testing::Test {
  protected:
   void TearDown() override {
     allocations_left = -1;
+    fails_once = false;
     no_instance = false;
     instance_status = U_ZERO_ERROR;
     normalize_status = U_ZERO_ERROR;
@@ -122,6 +128,17 @@ TEST_F(UstringFailure, ConstructionWithoutMemoryThrowsAndLeaksNothing) {
   ExpectBadAlloc(2, [&] {  // the buffers exist, but can't grow
     ustring const s(reinterpret_cast<unsigned short const*>(wide.c_str()));
   });
+}
+
+TEST_F(UstringFailure, ConstructionFreesTheSecondBufferIfOnlyTheFirstFails) {
+  fails_once = true;
+  ExpectBadAlloc(0, [] { ustring const s; });
+}
+
+TEST_F(UstringFailure, EmptyStringHasRoomForFourUnitsOfEach) {
+  sizes.clear();
+  ustring const s;
+  EXPECT_THAT(sizes, ElementsAre(4, 4 * sizeof(unsigned short)));
 }
 
 TEST_F(UstringFailure, AppendWithoutMemoryThrowsAndKeepsTheString) {
