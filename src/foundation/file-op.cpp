@@ -319,7 +319,8 @@ int FSMKDirP(ustring const& path, char** stop, bool replace, unsigned short mode
   if (copy == nullptr) return -1;
 
   bool const has_own_mode = mode != kModeOfUmask;
-  mode_t const old_mask = has_own_mode ? umask(0) : mode_t{0};
+  mode_t old_mask = {};
+  if (has_own_mode) old_mask = umask(0);
   char* end = nullptr;
   int const result =
       MakePrefixes(copy.get(), end, replace, has_own_mode ? mode_t{mode} : mode_t{0777});

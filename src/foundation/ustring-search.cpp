@@ -30,14 +30,13 @@ unsigned char Fold(char c) {
 
 int Identity(char c) { return static_cast<unsigned char>(c); }
 
-/// The difference of the first bytes that differ, among the first n.
+/// The difference of the first bytes that differ, or 0.
 template <class Map>
-int Difference(char const* a, char const* b, unsigned long n, Map map) {
-  for (; n != 0; ++a, ++b, --n) {
+int Difference(char const* a, char const* b, Map map) {
+  for (;; ++a, ++b) {
     int const difference = map(*a) - map(*b);
     if (difference != 0 || *a == '\0') return difference;
   }
-  return 0;
 }
 
 }  // namespace
@@ -107,15 +106,14 @@ ustring& ustring::trim(char const* set) {
 // ---- comparison ----
 
 int ustring::compare(ustring const& other) const {
-  return std::strcmp(data, other.data) == 0 ? 0 : Difference(data, other.data, npos, Identity);
+  return std::strcmp(data, other.data) == 0 ? 0 : Difference(data, other.data, Identity);
 }
 
 int ustring::compare(ustring const& other, unsigned long n) const {
   unsigned long const bytes = std::min(n, data_length + 1);
-  return std::strncmp(data, other.data, bytes) == 0 ? 0
-                                                    : Difference(data, other.data, bytes, Identity);
+  return std::strncmp(data, other.data, bytes) == 0 ? 0 : Difference(data, other.data, Identity);
 }
 
 int ustring::compare(ustring const& a, ustring const& b, bool ignore_case) {
-  return ignore_case ? Difference(a.data, b.data, npos, Fold) : a.compare(b);
+  return ignore_case ? Difference(a.data, b.data, Fold) : a.compare(b);
 }

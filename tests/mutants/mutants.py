@@ -122,7 +122,8 @@ def edits(source):
     for match in RETURN.finditer(code):
         value = source[slice(*match.span(1))]
         for new in ("0", "-1") if re.fullmatch(r"-?\d+|\w+Err", value) else ("{}", f"!({value})"):
-            if new != value and value not in ("true", "false", "nullptr", "*this") and "\n" not in value:
+            if (value, new) != ("noErr", "0") and new != value and "\n" not in value \
+                    and value not in ("true", "false", "nullptr", "*this"):
                 yield (*match.span(1), new)
     for pattern in (CHOICE, PAIR):
         for match in pattern.finditer(code):

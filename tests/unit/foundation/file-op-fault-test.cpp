@@ -69,6 +69,13 @@ OSStatus __wrap__Z13FSRefMakePathPK5FSRefPhj(FSRef const* ref, UInt8* path, UInt
 }
 }
 
+TEST(FSMKDirPFault, FailsWithoutMemory) {
+  TempDir folder;
+  SystemCalls calls;
+  calls.strdup = [](char const*) { return static_cast<char*>(nullptr); };
+  EXPECT_EQ(FSMKDirP(folder / "new", nullptr, false, 0755), -1);
+}
+
 TEST(GetFileInfoFault, FailsForAFileOfUnknownType) {
   TempDir folder;
   WriteFile(folder / "file", "12345");

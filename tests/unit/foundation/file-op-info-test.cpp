@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <string>
 
+#include "foundation/file-op-internal.h"
 #include "foundation/file-op.h"
 #include "support/file-op-log.h"
 #include "support/files.h"
@@ -59,6 +60,10 @@ int TypeOf(std::string const& path) {
 }
 
 }  // namespace
+
+TEST(ToNfc, NormalisesANameWithoutAnyAscii) {
+  EXPECT_EQ(file_op::ToNfc("\xE2\x84\xAB"), "\xC3\x85");  // Angstrom sign
+}
 
 TEST(FSParentPath, IsEverythingBeforeTheLastSlash) {
   EXPECT_EQ(Text(FSParentPath("/a/b")), "/a");

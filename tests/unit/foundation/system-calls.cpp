@@ -6,6 +6,8 @@
 #include <cerrno>
 #include <cstdio>
 
+extern "C" void* __real_malloc(std::size_t size);
+
 namespace {
 
 test::SystemCalls* taken_over = nullptr;
@@ -52,6 +54,8 @@ ssize_t LibraryWrite(int file, void const* bytes, std::size_t count) {
   static auto* const call = Library<ssize_t(int, void const*, std::size_t)>("write");
   return call(file, bytes, count);
 }
+
+void* LibraryMalloc(std::size_t size) { return __real_malloc(size); }
 
 }  // namespace test
 
@@ -102,7 +106,18 @@ int close(int file) {
   return call(file);
 }
 
-// Through --wrap, because a sanitizer has its own free().
+// Through --wrap, because a sanitizer has functions of its own.
+void* __wrap_malloc(std::size_t size);
+void* __wrap_malloc(std::size_t size) {
+  return taken_over != nullptr && taken_over->malloc ? taken_over->malloc(size)
+                                                     : __real_malloc(size);
+}
+char* __real_strdup(char const* text);
+char* __wrap_strdup(char const* text);
+char* __wrap_strdup(char const* text) {
+  return taken_over != nullptr && taken_over->strdup ? taken_over->strdup(text)
+                                                     : __real_strdup(text);
+}
 void __real_free(void* block);
 void __wrap_free(void* block);
 void __wrap_free(void* block) {

@@ -25,6 +25,9 @@ struct SystemCalls {
   std::function<ssize_t(int file, void* bytes, std::size_t count)> read;
   std::function<ssize_t(int file, void const* bytes, std::size_t count)> write;
   std::function<int(int file)> fsync;
+  // As called from this program.
+  std::function<void*(std::size_t size)> malloc;
+  std::function<char*(char const* text)> strdup;
 
   // Only observed: the library's function runs as well. free() only as called from this program.
   std::function<void(int file)> close;
@@ -40,5 +43,6 @@ int LibraryLstat(char const* path, struct stat* info);
 int LibraryStatfs(char const* path, struct statfs* info);
 ssize_t LibraryRead(int file, void* bytes, std::size_t count);
 ssize_t LibraryWrite(int file, void const* bytes, std::size_t count);
+void* LibraryMalloc(std::size_t size);
 
 }  // namespace test
