@@ -12,6 +12,7 @@
 #include "platform/core-services.h"
 #include "support/file-op-log.h"
 #include "support/files.h"
+#include "support/unprivileged.h"
 #include "system-calls.h"
 
 namespace fs = std::filesystem;
@@ -279,6 +280,20 @@ TEST(FSRenameFault, MovesAFolderWithItsContentAcrossVolumes) {
   EXPECT_FALSE(fs::exists(folder / "source"));
 }
 
+TEST(FSRenameFault, FailsForAnUnreadableFolderAcrossVolumes) {
+  TempDir folder;
+  fs::create_directory(folder / "closed");
+  test::GiveAway(folder.path().c_str());
+  test::GiveAway((folder / "closed").c_str());
+  test::RunUnprivileged([&folder] {
+    fs::permissions(folder / "closed", fs::perms(0300));
+    SystemCalls calls;
+    MakeRenamesCrossVolumes(calls);
+    EXPECT_EQ(FSRename(folder / "closed", folder / "target", false), -3);
+    EXPECT_TRUE(fs::exists(folder / "closed"));
+  });
+}
+
 TEST(FSRenameFault, ReportsSuccessForOtherKindsAcrossVolumesWithoutMovingThem) {
   TempDir folder;
   fs::create_symlink("text", folder / "link");
@@ -357,6 +372,19 @@ TEST(FSRenameFault, DistinguishesTheErrorsOfRename) {
   EXPECT_EQ(result_of(ENAMETOOLONG), -100);
   EXPECT_EQ(result_of(EACCES), -3);
   EXPECT_EQ(result_of(ENOSPC), -3);
+}
+
+TEST(FSRemoveFault, PassesOverAnEntryThatVanishes) {
+  TempDir folder;
+  WriteFile(folder / "tree/file", "");
+  SystemCalls calls;
+  calls.fstatat = [&](int, char const*, struct stat*, int) {
+    fs::remove(folder / "tree/file");
+    return FailWith(ENOENT);
+  };
+  EXPECT_EQ(FSRemove(folder / "tree", false), 0);
+  calls.fstatat = nullptr;
+  EXPECT_FALSE(fs::exists(folder / "tree"));
 }
 
 TEST(FSRemoveFault, TreatsAReadErrorAsTheEndOfTheListing) {

@@ -79,6 +79,14 @@ int lstat(char const* path, struct stat* info) noexcept {
   return test::LibraryLstat(path, info);
 }
 
+int fstatat(int folder, char const* name, struct stat* info, int flags) noexcept {
+  if (taken_over != nullptr && taken_over->fstatat) {
+    return taken_over->fstatat(folder, name, info, flags);
+  }
+  static auto* const call = Library<int(int, char const*, struct stat*, int)>("fstatat");
+  return call(folder, name, info, flags);
+}
+
 int statfs(char const* path, struct statfs* info) noexcept {
   if (taken_over != nullptr && taken_over->statfs) return taken_over->statfs(path, info);
   return test::LibraryStatfs(path, info);
