@@ -76,6 +76,11 @@ TEST(UstringNormalize, ComposesAndDecomposes) {
   EXPECT_EQ(UstringProbe::WideLength(composed.normalize(ustring::NFD)), 2U);
 }
 
+TEST(UstringNormalize, AllocatesNoMoreThanTheResultNeeds) {
+  ustring const result = ustring::normalize("twenty characters ..", ustring::NFC);
+  EXPECT_EQ(UstringProbe::WideCapacity(result), 21U);
+}
+
 TEST(UstringNormalize, OfAnEmptyStringIsEmpty) {
   CapturedCerr const cerr;
   EXPECT_TRUE(ustring().normalize(ustring::NFC).empty());
