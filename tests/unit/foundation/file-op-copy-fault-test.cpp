@@ -88,6 +88,7 @@ TEST(FSCopyFault, ClosesTheSourceThenFlushesAndClosesTheTargetThenFreesTheBuffer
           return 0;
         };
         calls.close = [&](int file) {
+          EXPECT_TRUE(file == source || file == target) << file;
           if (file == source) {
             steps.push_back("close the source");
             EXPECT_TRUE(fs::exists(folder / "source")) << "removed while it was open";

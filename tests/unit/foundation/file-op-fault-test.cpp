@@ -70,6 +70,18 @@ OSStatus __wrap__Z13FSRefMakePathPK5FSRefPhj(FSRef const* ref, UInt8* path, UInt
 }
 }
 
+TEST(FSUTimeFault, SetsWholeSeconds) {
+  SystemCalls calls;
+  calls.lutimes = [](char const*, timeval const* times) {
+    EXPECT_EQ(times[0].tv_sec, 1000);
+    EXPECT_EQ(times[0].tv_usec, 0);
+    EXPECT_EQ(times[1].tv_sec, 2000);
+    EXPECT_EQ(times[1].tv_usec, 0);
+    return 0;
+  };
+  EXPECT_EQ(FSUTime("/any", 1000, 2000), 0);
+}
+
 TEST(FSMKDirPFault, FailsWithoutMemory) {
   TempDir folder;
   SystemCalls calls;
@@ -105,13 +117,15 @@ TEST(GetFileInfoFault, FailsForAFileThatVanishesAfterItsStat) {
   EXPECT_THAT(log.Lines(), Contains("[ERROR] file-op(#): FSPathMakeRef: -43"));
 }
 
-TEST(GetFileInfoFault, FailsIfTheStoredPathIsTooLong) {
+TEST(GetFileInfoFault, FailsLikeFSGetRealPathIfTheStoredPathIsTooLong) {
   TempDir folder;
   WriteFile(folder / "file", "");
   FileOpLog const log;
   _FILE_INFO_tag info;
   ref_has_no_path = true;
   EXPECT_EQ(GetFileInfo(folder / "file", info), -1);
+  ustring path = folder / "file";
+  EXPECT_EQ(FSGetRealPath(path), -1);
   ref_has_no_path = false;
   EXPECT_EQ(refused_size, 4096);
   EXPECT_THAT(log.Lines(), Contains("[ERROR] file-op(#): FSPathMakeRef: -2110"));

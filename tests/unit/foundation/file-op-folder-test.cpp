@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
+#include <iterator>
 #include <string>
 
 #include "foundation/file-op.h"
@@ -54,6 +55,17 @@ TEST(FSMKDirP, MakesRelativeFolders) {
   WorkingFolder const here(folder.path());
   EXPECT_EQ(FSMKDirP("a/b", nullptr, false, kUmaskMode), 0);
   EXPECT_TRUE(fs::is_directory(folder / "a/b"));
+}
+
+TEST(FSMKDirP, CutsAtNoOtherCharacterThanASlash) {
+  TempDir folder;
+  std::string name;
+  for (char c = ' '; c <= '~'; ++c) {
+    if (c != '/') name += c;
+  }
+  EXPECT_EQ(FSMKDirP(folder / (name + "/sub"), nullptr, false, kUmaskMode), 0);
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()), 1);
+  EXPECT_TRUE(fs::is_directory(folder / (name + "/sub")));
 }
 
 TEST(FSMKDirP, StopsAtTheEndOfThePath) {
@@ -193,11 +205,14 @@ TEST(FSMKDir, MakesFoldersAboveOnlyWhenRecursive) {
 
 TEST(FSMKDir, AppliesTheUmask) {
   TempDir folder;
-  Umask const mask(027);
-  EXPECT_EQ(FSMKDir(folder / "one", false), 0);
-  EXPECT_EQ(FSMKDir(folder / "two/three", true), 0);
-  EXPECT_EQ(ModeOf(folder / "one"), 0750U);
-  EXPECT_EQ(ModeOf(folder / "two/three"), 0750U);
+  for (mode_t const mask : {mode_t{027}, mode_t{0}}) {
+    Umask const set(mask);
+    std::string const path = folder / std::to_string(mask);
+    EXPECT_EQ(FSMKDir(path, false), 0);
+    EXPECT_EQ(ModeOf(path), 0777U & ~mask);
+    EXPECT_EQ(FSMKDir(path + "-above/inside", true), 0);
+    EXPECT_EQ(ModeOf(path + "-above/inside"), 0777U & ~mask);
+  }
 }
 
 TEST(FSMKDir, IsBlockedByAFile) {

@@ -79,6 +79,12 @@ int lstat(char const* path, struct stat* info) noexcept {
   return test::LibraryLstat(path, info);
 }
 
+int lutimes(char const* path, timeval const* times) noexcept {
+  if (taken_over != nullptr && taken_over->lutimes) return taken_over->lutimes(path, times);
+  static auto* const call = Library<int(char const*, timeval const*)>("lutimes");
+  return call(path, times);
+}
+
 int fstatat(int folder, char const* name, struct stat* info, int flags) noexcept {
   if (taken_over != nullptr && taken_over->fstatat) {
     return taken_over->fstatat(folder, name, info, flags);

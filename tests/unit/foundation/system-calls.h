@@ -2,6 +2,7 @@
 
 #include <dirent.h>
 #include <sys/stat.h>
+#include <sys/time.h>
 #include <sys/vfs.h>
 
 #include <cstddef>
@@ -21,6 +22,7 @@ struct SystemCalls {
   std::function<int(char const* from, char const* to)> rename;
   std::function<int(DIR* dir, dirent* buffer, dirent** entry)> readdir_r;
   std::function<int(char const* path, struct stat* info)> lstat;
+  std::function<int(char const* path, timeval const* times)> lutimes;
   std::function<int(int folder, char const* name, struct stat* info, int flags)> fstatat;
   std::function<int(char const* path, struct statfs* info)> statfs;
   std::function<ssize_t(int file, void* bytes, std::size_t count)> read;
