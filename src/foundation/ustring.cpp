@@ -86,7 +86,7 @@ void KeepPart(Unit*& buffer, unsigned long& length, unsigned long& capacity, Uni
 /// What `s.substr(pos, n)` would return, up to its first NUL.
 std::string_view Part(std::string const& s, unsigned long pos, unsigned long n) {
   if (pos > s.size()) throw std::out_of_range("basic_string::substr");
-  return {s.data() + pos, Length(s.data() + pos, std::min(n, s.size() - pos))};
+  return {s.data() + pos, Length(s.data() + pos, n)};
 }
 
 }  // namespace
