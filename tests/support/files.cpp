@@ -66,6 +66,14 @@ Umask::Umask(mode_t mask) : former_(umask(mask)) {}
 
 Umask::~Umask() { umask(former_); }
 
+ClosedInput::ClosedInput() : former_(dup(STDIN_FILENO)) { close(STDIN_FILENO); }
+
+ClosedInput::~ClosedInput() {
+  if (former_ < 0) return;
+  dup2(former_, STDIN_FILENO);
+  close(former_);
+}
+
 unsigned ModeOf(fs::path const& path) {
   return static_cast<unsigned>(fs::symlink_status(path).permissions() & fs::perms::mask);
 }

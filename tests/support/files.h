@@ -60,6 +60,18 @@ class Umask {
   mode_t const former_;
 };
 
+/// Closes standard input until the end of the scope, so that the next file opened is descriptor 0.
+class ClosedInput {
+ public:
+  ClosedInput();
+  ~ClosedInput();
+  ClosedInput(ClosedInput const&) = delete;
+  ClosedInput& operator=(ClosedInput const&) = delete;
+
+ private:
+  int const former_;
+};
+
 /// The permission bits of a file; of a symlink, its own.
 unsigned ModeOf(std::filesystem::path const& path);
 

@@ -31,6 +31,16 @@ constexpr std::size_t kCopyBlock = 33554432;
 
 }  // namespace
 
+TEST(FSCopy, TakesDescriptorZeroIfItIsFree) {
+  TempDir folder;
+  WriteFile(folder / "source", "bytes");
+  {
+    test::ClosedInput const closed;
+    EXPECT_EQ(FSCopy(folder / "source", folder / "target", false), 0);
+  }
+  EXPECT_EQ(ReadFile(folder / "target"), "bytes");
+}
+
 TEST(FSCopy, CopiesTheBytes) {
   TempDir folder;
   std::string const bytes("one\0two\n\xFF", 9);

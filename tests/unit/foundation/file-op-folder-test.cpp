@@ -275,6 +275,16 @@ TEST(FSMKDirFromRoot, MakesOneFolderAfterAnother) {
                           "[DEBUG] file-op(#): FSMKDirFromRoot: create " + root + "/a/b"));
 }
 
+TEST(FSMKDirFromRoot, StopsAtEachOfTwoSlashes) {
+  TempDir folder;
+  std::string const root = folder.path();
+  FileOpLog const log;
+  EXPECT_EQ(FSMKDirFromRoot(root + "/a//b", root), 0);
+  EXPECT_THAT(log.Messages(), IsEmpty());
+  EXPECT_THAT(log.Lines(),
+              testing::Contains("[DEBUG] file-op(#): FSMKDirFromRoot: create " + root + "/a/"));
+}
+
 TEST(FSMKDirFromRoot, MakesNothingForTheRootItself) {
   TempDir folder;
   FileOpLog const log;

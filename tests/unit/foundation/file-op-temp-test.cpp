@@ -1,5 +1,4 @@
 #include <gmock/gmock.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <cstring>
@@ -53,15 +52,9 @@ TEST(FSMktemp, LogsAFailureAndLeavesThePathUnchanged) {
 
 TEST(FSMktemp, TakesDescriptorZeroIfItIsFree) {
   TempDir folder;
-  int const standard_input = dup(STDIN_FILENO);
-  close(STDIN_FILENO);
+  test::ClosedInput const closed;
   ustring path;
-  int const result = FSMktemp(folder.path().c_str(), path);
-  if (standard_input >= 0) {
-    dup2(standard_input, STDIN_FILENO);
-    close(standard_input);
-  }
-  EXPECT_EQ(result, 0);
+  EXPECT_EQ(FSMktemp(folder.path().c_str(), path), 0);
 }
 
 TEST(FSMktemp, LeavesNoDescriptorOpen) {
