@@ -39,6 +39,9 @@ void MakeRenamesCrossVolumes(SystemCalls& calls) {
 UInt32 refused_size = 0;
 bool ref_has_no_path = false;
 
+/// The type of every volume, unless null.
+char const* volume_type = nullptr;
+
 /// Makes reading a folder fail at entry number `at`.
 void BreakListing(SystemCalls& calls, int at) {
   calls.readdir_r = [at, count = 0](DIR* dir, dirent* buffer, dirent** entry) mutable {
@@ -59,8 +62,21 @@ bool OnVolume(unsigned long type, bool (*query)(ustring const&)) {
 
 }  // namespace
 
-// FSRefMakePath, through --wrap.
+// Functions of the platform layer, through --wrap.
 extern "C" {
+int __real__ZN8platform14FileSystemNameEPKcRNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEE(
+    char const* path, std::string& name);
+int __wrap__ZN8platform14FileSystemNameEPKcRNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEE(
+    char const* path, std::string& name);
+int __wrap__ZN8platform14FileSystemNameEPKcRNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEE(
+    char const* path, std::string& name) {
+  int const result =
+      __real__ZN8platform14FileSystemNameEPKcRNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEE(
+          path, name);
+  if (volume_type != nullptr) name = volume_type;
+  return result;
+}
+
 OSStatus __real__Z13FSRefMakePathPK5FSRefPhj(FSRef const* ref, UInt8* path, UInt32 max_path_size);
 OSStatus __wrap__Z13FSRefMakePathPK5FSRefPhj(FSRef const* ref, UInt8* path, UInt32 max_path_size);
 OSStatus __wrap__Z13FSRefMakePathPK5FSRefPhj(FSRef const* ref, UInt8* path, UInt32 max_path_size) {
@@ -245,6 +261,13 @@ TEST(IsMountPointFault, IsTrueOnlyForNetworkVolumes) {
   EXPECT_FALSE(OnVolume(MSDOS_SUPER_MAGIC, isMountPoint));
   EXPECT_FALSE(OnVolume(TMPFS_MAGIC, isMountPoint));
   EXPECT_FALSE(OnVolume(EXT4_SUPER_MAGIC, isMountPoint));
+}
+
+TEST(IsMountPointFault, IsTrueForAFileServerOfAMac) {
+  volume_type = "afpfs";
+  EXPECT_TRUE(isMountPoint("/"));
+  volume_type = nullptr;
+  EXPECT_FALSE(isMountPoint("/"));
 }
 
 TEST(IsMountPointFault, IsFalseForALocalMountPoint) { EXPECT_FALSE(isMountPoint("/proc")); }
