@@ -122,8 +122,7 @@ void ustring::init() { allocate(kFirstCapacity, kFirstCapacity); }
 // Allocates at once what appending to an empty string would end with.
 void ustring::init(std::string_view a, std::string_view b) {
   unsigned long const needed = Needed(a.size(), b.size());
-  bool const fits_empty = needed <= kFirstCapacity && needed >= kFirstCapacity / 2;
-  allocate(fits_empty ? kFirstCapacity : needed, kFirstCapacity);
+  allocate(needed == 1 ? 1 : std::max(needed, kFirstCapacity), kFirstCapacity);
   std::memcpy(data, a.data(), a.size());
   if (!b.empty()) std::memcpy(data + a.size(), b.data(), b.size());
   Terminate(data, data_length, a.size() + b.size());
@@ -308,7 +307,7 @@ ustring& ustring::append_data(char const* s, unsigned long n) {
 
 std::string_view ustring::part(unsigned long pos, unsigned long n) const {
   if (pos > data_length) throw std::out_of_range("substr");
-  return {data + pos, Length(data + pos, n < data_length - pos ? n : npos)};
+  return {data + pos, Length(data + pos, n)};
 }
 
 ustring ustring::substr(unsigned long pos, unsigned long n) const { return {part(pos, n), {}}; }
