@@ -106,6 +106,8 @@ TEST_F(MacServiceTest, HasOneInstanceForCallersWithoutAnObject) {
 
 TEST_F(MacServiceTest, FindsTheExecutableWhateverItsKind) {
   EXPECT_FALSE(service.PerUserBinPathExist());
+  fs::create_directories(fs::path(Executable()).parent_path());
+  EXPECT_FALSE(service.PerUserBinPathExist());
   test::WriteFile(Executable(), "not executable");
   EXPECT_TRUE(service.PerUserBinPathExist());
   fs::remove(Executable());
@@ -201,6 +203,15 @@ TEST_F(StopService, SignalsNobodyWhenThePidFileHoldsNoPid) {
   }
   EXPECT_THAT(the_system.signals, IsEmpty());
   EXPECT_THAT(log.OwnLines(), ElementsAre(line, line, line));
+}
+
+TEST_F(StopService, FindsAPidFileBehindASymlink) {
+  test::WriteFile(PidFile(), "pid=4711\n");
+  fs::create_directory_symlink(".", home / "link");
+  setenv("HOME", (home / "link").c_str(), 1);
+  the_system.answer = [](int) { return ESRCH; };
+  service.StopService();
+  EXPECT_THAT(the_system.signals, ElementsAre(Pair(4711, SIGTERM)));
 }
 
 TEST_F(StopService, ReturnsAtOnceAndSilentlyForAStalePid) {
