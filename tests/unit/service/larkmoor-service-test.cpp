@@ -255,6 +255,15 @@ TEST_F(FSCopyPathTest, FailsForAFolderWithSuchAFileAndLogsItsPath) {
                 To() + "/a'");
 }
 
+TEST_F(FSCopyPathTest, StopsAtTheFirstFileThatCannotBeCopied) {
+  for (char const* name : {"/a", "/b"}) {
+    WriteFile(From() + name, "1");
+    fs::create_directories(To() + name);
+  }
+  EXPECT_EQ(Copy(), -1);
+  EXPECT_EQ(log.OwnLines().size(), 2U) << "the copy and one failure";
+}
+
 TEST_F(FSCopyPathTest, FailsForAMissingSource) {
   EXPECT_EQ(Copy(), -1);
   EXPECT_THAT(log.OwnLines(),
@@ -284,7 +293,8 @@ TEST_F(FSCopyPathTest, CountsAnUnreadableFolderAsCopied) {
   pid_t const child = fork();
   if (child == 0) {
     if (geteuid() == 0 && setuid(65534) != 0) _exit(2);
-    _exit(Copy() == 0 ? 0 : 1);
+    EXPECT_EQ(Copy(), 0);
+    _exit(HasFailure() ? 1 : 0);
   }
   int status = -1;
   ASSERT_EQ(waitpid(child, &status, 0), child);
