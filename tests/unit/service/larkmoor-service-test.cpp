@@ -87,6 +87,13 @@ TEST_F(VersionLoading, ReadsTheFourValuesOfTheUsersInstallation) {
   EXPECT_TRUE(service.target_build_version.empty());
 }
 
+TEST_F(VersionLoading, ReadsTheUsersInstallationBehindASymlink) {
+  WriteFile(UserInfo(), "[Version]\nbuild_version=100\n");
+  MoveHomeBehindSymlink();
+  service.LoadSourceVersion();
+  EXPECT_STREQ(service.source_build_version.c_str(), "100");
+}
+
 TEST_F(VersionLoading, LeavesTheFieldsOfAbsentKeysUnchanged) {
   WriteFile(UserInfo(), "[Version]\nbuild_version=100\n");
   service.source_minor_version = "kept";
@@ -238,6 +245,13 @@ TEST_F(FSCopyPathTest, CopiesOneFile) {
   EXPECT_EQ(test::ReadFile(To()), "1");
   EXPECT_EQ(test::ReadFile(From()), "1");
   EXPECT_THAT(log.OwnLines(), ElementsAre(CopyLine()));
+}
+
+TEST_F(FSCopyPathTest, CopiesFromBehindASymlink) {
+  WriteFile(From(), "1");
+  MoveHomeBehindSymlink();
+  EXPECT_EQ(service.FSCopyPath((home / "link/from").c_str(), To().c_str()), 0);
+  EXPECT_EQ(test::ReadFile(To()), "1");
 }
 
 TEST_F(FSCopyPathTest, ReportsSuccessForASingleFileThatCannotBeCopied) {

@@ -173,6 +173,18 @@ TEST_F(PrepareUserEnv, RollsBackWhenThePackageIsMissing) {
   EXPECT_EQ(log.OwnLines().back(), kRolledBack);
 }
 
+TEST_F(PrepareUserEnv, RollsBackInAHomeBehindASymlink) {
+  WriteFile(App() + "/old", "1");
+  test::Tree const before = ReadTree(UserRoot());
+  MoveHomeBehindSymlink();
+  service.unpack = [this] {
+    EXPECT_TRUE(fs::exists(Backup(0) + "/old"));
+    return -1;
+  };
+  EXPECT_EQ(service.PrepareUserEnv(), -1);
+  EXPECT_EQ(ReadTree(UserRoot()), before);
+}
+
 TEST_F(PrepareUserEnv, RollsBackOverAPartialNewTree) {
   WriteFile(App() + "/old", "1");
   test::Tree const before = ReadTree(UserRoot());

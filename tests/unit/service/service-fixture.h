@@ -71,6 +71,13 @@ class ServiceTest : public testing::Test {
            Backup(index) + "'" + end;
   }
 
+  /// Makes the path of the user's home lead through a symlink. The other functions' paths don't.
+  void MoveHomeBehindSymlink() {
+    std::filesystem::create_directory_symlink(".", home / "link");
+    setenv("HOME", (home / "link").c_str(), 1);
+    service.app_path = Service::GetUserLarkmoorAppInstallPath();
+  }
+
   void CarryPackage(std::vector<Entry> const& entries) {
     WriteFile(Resources() + "/package/larkmoor.lpk", MakeArchive(entries));
   }
