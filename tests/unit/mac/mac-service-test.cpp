@@ -37,9 +37,8 @@ struct System {
 extern "C" int kill(pid_t pid, int signal) {
   the_system.signals.emplace_back(pid, signal);
   int const error = the_system.answer(signal);
-  if (error == 0) return 0;
-  errno = error;
-  return -1;
+  errno = error != 0 ? error : ESRCH;  // after a success, errno means nothing
+  return error != 0 ? -1 : 0;
 }
 
 extern "C" unsigned sleep(unsigned seconds) {
