@@ -214,12 +214,12 @@ TEST_F(PrepareUserEnv, RemovesTheBackupOfACrashedRunAfterAFirstInstallation) {
   EXPECT_FALSE(fs::exists(Backup(0)));
 }
 
-TEST_F(PrepareUserEnv, LeavesBackupsAboveItsOwnNumberAlone) {
+TEST_F(PrepareUserEnv, LeavesOtherNumbersThanThoseUpToItsOwnAlone) {
   WriteFile(App() + "/live", "1");
-  WriteFile(Backup(3) + "/stale", "1");
+  for (int index : {-1, 1}) WriteFile(Backup(index) + "/stale", "1");
   service.unpack = [] { return 0; };
   EXPECT_EQ(service.PrepareUserEnv(), 0);
-  EXPECT_TRUE(fs::exists(Backup(3) + "/stale"));
+  for (int index : {-1, 1}) EXPECT_TRUE(fs::exists(Backup(index) + "/stale"));
 }
 
 TEST_F(PrepareUserEnv, RollsBackToThePartialTreeOfACrashedRunAndLeavesTheOldBackup) {
