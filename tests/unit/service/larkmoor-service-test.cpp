@@ -22,8 +22,11 @@ using test::Entry;
 using test::ReadTree;
 using test::ServiceTest;
 using test::WriteFile;
+using testing::Each;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
 using ServicePaths = ServiceTest;
 
@@ -226,6 +229,7 @@ TEST_F(FSCopyPathTest, CopiesAnEmptyFolder) {
   fs::create_directory(From());
   EXPECT_EQ(Copy(), 0);
   EXPECT_TRUE(fs::is_empty(To()));
+  EXPECT_THAT(log.Lines(), Each(Not(HasSubstr(From() + "/")))) << "dot entries aren't statted";
 }
 
 TEST_F(FSCopyPathTest, FailsForAFolderIfTheDiskIsFull) {
