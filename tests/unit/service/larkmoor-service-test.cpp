@@ -3,8 +3,6 @@
 #include <gmock/gmock.h>
 #include <stdlib.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
@@ -13,6 +11,7 @@
 
 #include "service-fixture.h"
 #include "support/files.h"
+#include "support/unprivileged.h"
 
 namespace fs = std::filesystem;
 
@@ -306,17 +305,8 @@ TEST_F(FSCopyPathTest, FailsWhenTheDestinationIsAFile) {
 TEST_F(FSCopyPathTest, CountsAnUnreadableFolderAsCopied) {
   WriteFile(From() + "/a", "1");
   chmod(From().c_str(), 0);
-  // Permissions restrict only ordinary users, so a child copies as one.
-  chmod(home.path().c_str(), 0777);
-  pid_t const child = fork();
-  if (child == 0) {
-    if (geteuid() == 0 && setuid(65534) != 0) _exit(2);
-    EXPECT_EQ(Copy(), 0);
-    _exit(HasFailure() ? 1 : 0);
-  }
-  int status = -1;
-  ASSERT_EQ(waitpid(child, &status, 0), child);
-  EXPECT_EQ(status, 0);
+  test::GiveAway(home.path().c_str());
+  test::RunUnprivileged([this] { EXPECT_EQ(Copy(), 0); });
   EXPECT_EQ(log.OwnLines().back(),
             "[WARNING] larkmoor-service(0): FSCopyPath: failed to create handle  for src '" +
                 From() + "' failed");
