@@ -4,7 +4,6 @@
 #include <QByteArray>
 #include <QCryptographicHash>  // IWYU pragma: keep
 #include <QString>
-#include <cerrno>
 
 #include "platform/qtsingleapplication.h"
 
@@ -28,7 +27,7 @@ QByteArray LockFolder() {
   if (IsPrivateFolder(runtime)) return runtime;
   for (char const* shared : {"/dev/shm", "/tmp"}) {
     QByteArray own = QByteArray(shared) + "/larkmoor-launcher-" + uid;
-    if (mkdir(own.constData(), S_IRWXU) != 0 && errno != EEXIST) continue;
+    mkdir(own.constData(), S_IRWXU);  // unless it exists
     if (IsPrivateFolder(own)) return own;
   }
   return {};

@@ -224,10 +224,10 @@ TEST_F(SingleInstance, IsHeldByTheFirstStartThatMakesTheFolder) {
   EXPECT_EQ(test::Run(options).out, "first second\n");
 }
 
-/// Runs the program with these mounts of its own and then a command. Returns what both print, or no
-/// string if the system allows no such mounts. The program is found from its own folder, whatever
-/// is mounted above.
-std::optional<std::string> OutputWithMounts(std::string const& mounts, std::string const& command) {
+/// Runs the program with these mounts of its own, which include one for /tmp. Returns what it
+/// prints and the folder of its lock, or no string if the system allows no such mounts. The program
+/// is found from its own folder, whatever is mounted above.
+std::optional<std::string> LockWithMounts(std::string const& mounts) {
   std::string const in_namespace = "exec unshare --user --map-root-user --mount sh -c ";
   if (test::Run({{"sh", "-c", in_namespace + "'" + mounts + "'"}, {}, "", "", false}).status != 0) {
     return std::nullopt;
@@ -237,27 +237,53 @@ std::optional<std::string> OutputWithMounts(std::string const& mounts, std::stri
   // A sanitizer may not find its suppressions below the mounts.
   options.environment = {
       {"QT_QPA_PLATFORM", "offscreen"}, {"LSAN_OPTIONS", ""}, {"TSAN_OPTIONS", ""}};
-  options.arguments = {
-      "sh", "-c",
-      in_namespace + "'" + mounts + " && { ./guard-holder once < /dev/null; " + command + "; }'"};
+  options.arguments = {"sh", "-c",
+                       in_namespace + "'" + mounts +
+                           " && mkfifo /tmp/input && ./guard-holder once < /tmp/input |"
+                           " { exec 3> /tmp/input && read -r answer && echo \"$answer\" &&"
+                           " find /run /dev/shm /tmp -name \"larkmoor-launcher-*[0-9a-f].lock\" "
+                           "-printf \"%h\\n\"; }'"};
   return test::Run(options).out;
 }
 
 TEST_F(SingleInstance, IsHeldBesideTheTemporaryFilesWhereMemoryTakesNone) {
-  auto const output = OutputWithMounts(
-      "mount -t tmpfs -o ro none /dev/shm && mount -t tmpfs none /run && mount -t tmpfs none /tmp",
-      "ls -d /tmp/larkmoor-*");
+  auto const output = LockWithMounts(
+      "mount -t tmpfs -o ro none /dev/shm && mount -t tmpfs none /run && mount -t tmpfs none /tmp");
   if (!output) GTEST_SKIP() << "this system allows no user namespace, or no mount in one";
   EXPECT_EQ(output, "first\n/tmp/larkmoor-launcher-0\n");
 }
 
-TEST_F(SingleInstance, IsHeldInTheUsersRuntimeFolderIfThereIsOne) {
-  auto const output = OutputWithMounts(
-      "mount -t tmpfs none /dev/shm && mount -t tmpfs none /tmp && mount -t tmpfs none /run && "
-      "mkdir -p -m 700 /run/user/0",
-      "ls -A /dev/shm /tmp");
+constexpr char kFreshFolders[] =
+    "mount -t tmpfs none /dev/shm && mount -t tmpfs none /tmp && mount -t tmpfs none /run";
+
+TEST_F(SingleInstance, IsHeldInMemory) {
+  auto const output = LockWithMounts(kFreshFolders);
   if (!output) GTEST_SKIP() << "this system allows no user namespace, or no mount in one";
-  EXPECT_EQ(output, "first\n/dev/shm:\n\n/tmp:\n");
+  EXPECT_EQ(output, "first\n/dev/shm/larkmoor-launcher-0\n");
+}
+
+TEST_F(SingleInstance, IsHeldInTheUsersRuntimeFolderIfThereIsOne) {
+  auto const output =
+      LockWithMounts(kFreshFolders + std::string(" && mkdir -p -m 700 /run/user/0"));
+  if (!output) GTEST_SKIP() << "this system allows no user namespace, or no mount in one";
+  EXPECT_EQ(output, "first\n/run/user/0\n");
+}
+
+TEST_F(SingleInstance, IsHeldInNoFolderThatOthersCanWriteTo) {
+  for (char const* const mode : {"720", "702"}) {
+    auto const output =
+        LockWithMounts(kFreshFolders + std::string(" && mkdir -p -m ") + mode + " /run/user/0");
+    if (!output) GTEST_SKIP() << "this system allows no user namespace, or no mount in one";
+    EXPECT_EQ(output, "first\n/dev/shm/larkmoor-launcher-0\n") << mode;
+  }
+}
+
+TEST_F(SingleInstance, AdmitsAStartThatFindsNoFolder) {
+  auto const output =
+      LockWithMounts(kFreshFolders + std::string(" && mkdir -m 777 /dev/shm/larkmoor-launcher-0"
+                                                 " /tmp/larkmoor-launcher-0"));
+  if (!output) GTEST_SKIP() << "this system allows no user namespace, or no mount in one";
+  EXPECT_EQ(output, "first\n");
 }
 
 }  // namespace
