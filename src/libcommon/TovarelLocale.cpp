@@ -21,7 +21,7 @@ constexpr char kIsLanguageInstalled[] = "bool TovarelLocale::isLanguageInstalled
 
 constexpr int kLanguageCount = 20;
 
-char const* const grgszLanguages[kLanguageCount + 1] = {
+char const* const grgszLanguages[] = {
     "enu", "cht", "chs", "jpn", "deu", "krn", "fra", "ita", "esn", "ptb",   "rus",
     "dan", "nor", "sve", "nld", "plk", "hun", "ptg", "trk", "csy", nullptr,
 };
@@ -81,7 +81,7 @@ QString getStrLanguageFallSafe() { return qstrLanguageFallSafe; }
 QString getLanguageAbbrByID(int id) {
   // The conversion to unsigned rejects negative ids too. The id after the last language reads the
   // terminating null pointer, which makes an empty string.
-  if (static_cast<unsigned>(id) > static_cast<unsigned>(kLanguageCount)) return QString();
+  if (static_cast<unsigned>(id) > static_cast<unsigned>(kLanguageCount)) return {};
   return QString(grgszLanguages[id]);
 }
 

@@ -17,7 +17,8 @@ constexpr bool EachRowStandsAtItsId() {
 #undef ROW
   return next == kRowCount;
 }
-static_assert(EachRowStandsAtItsId(), "an id is frozen: rows are not moved, inserted or removed");
+// An id is frozen: rows are not moved, inserted or removed.
+static_assert(EachRowStandsAtItsId());
 
 char const* stab[kRowCount];  // the default English texts, UTF-8
 char const* ktab[kRowCount];  // the keys, ASCII
