@@ -35,12 +35,12 @@ bool IsDotsOrNothing(char const* name, std::size_t length) {
 /// Whether the string, symlinks aside, could be a resolved path: absolute, with a name between any
 /// two slashes and after the last one.
 bool IsPlainAbsolute(char const* path) {
-  if (path[0] != '/') return false;
-  for (char const* slash = path; *slash != '\0';) {
-    char const* const name = slash + 1;
-    std::size_t const length = std::strcspn(name, "/");
-    if (IsDotsOrNothing(name, length)) return false;
-    slash = name + length;
+  if (*path != '/') return false;
+  while (*path == '/') {
+    ++path;
+    std::size_t const length = std::strcspn(path, "/");
+    if (IsDotsOrNothing(path, length)) return false;
+    path += length;
   }
   return true;
 }
@@ -53,7 +53,7 @@ bool LeadsThroughNoLink(char const* path, bool follow_leaf) {
   how.flags = static_cast<decltype(how.flags)>(O_PATH | O_CLOEXEC | (follow_leaf ? 0 : O_NOFOLLOW));
   how.resolve = RESOLVE_NO_SYMLINKS;
   long const descriptor = syscall(SYS_openat2, AT_FDCWD, path, &how, sizeof(how));
-  if (descriptor < 0) return false;
+  if (descriptor == -1) return false;
   close(static_cast<int>(descriptor));
   return true;
 }
@@ -76,11 +76,11 @@ OSStatus ResolveParent(char const* path, char const* name, char (&resolved)[PATH
 }
 
 OSStatus Resolve(char const* path, bool follow_leaf, char (&resolved)[PATH_MAX]) {
-  std::size_t const length = std::strlen(path);
-  if (length >= sizeof(resolved)) return pathTooLongErr;
+  std::size_t const size = std::strlen(path) + 1;
+  if (size > sizeof(resolved)) return pathTooLongErr;
 
   if (IsPlainAbsolute(path) && LeadsThroughNoLink(path, follow_leaf)) {
-    std::memcpy(resolved, path, length + 1);
+    std::memcpy(resolved, path, size);
     return noErr;
   }
   char const* const slash = std::strrchr(path, '/');

@@ -8,6 +8,7 @@
 #include <unicode/normalizer2.h>
 #include <unicode/unistr.h>
 #include <unicode/ustring.h>
+#include <unicode/utf8.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -28,11 +29,11 @@ bool IsUtf8(std::string const& text) {
 
 /// Empty for invalid UTF-8.
 std::string Normalised(icu::Normalizer2 const* (*form)(UErrorCode&), std::string const& text) {
-  std::string result;
-  if (!IsUtf8(text)) return result;
+  if (!IsUtf8(text)) return {};
   UErrorCode status = U_ZERO_ERROR;
   icu::Normalizer2 const* const normalizer = form(status);
-  if (U_FAILURE(status)) return result;
+  if (U_FAILURE(status)) return {};
+  std::string result;
   icu::StringByteSink<std::string> sink(&result);
   normalizer->normalizeUTF8(0, text, sink, nullptr, status);
   return U_SUCCESS(status) ? result : std::string();
@@ -45,9 +46,8 @@ std::string Composed(std::string const& text) {
 /// Whether other names can have this one's normal form. Three ASCII characters are the normal form
 /// of others: of the Kelvin sign, the Greek question mark and the Greek varia.
 bool HasTwins(std::string_view name) {
-  return std::any_of(name.begin(), name.end(), [](char c) {
-    return static_cast<unsigned char>(c) >= 128 || c == 'K' || c == ';' || c == '`';
-  });
+  return std::any_of(name.begin(), name.end(),
+                     [](char c) { return !U8_IS_SINGLE(c) || c == 'K' || c == ';' || c == '`'; });
 }
 
 bool Exists(std::string const& path, bool follow) {
@@ -72,9 +72,8 @@ std::vector<std::string> NamesOfForm(std::string const& composed, std::string co
                                      std::vector<std::string> const& except) {
   std::vector<std::string> names;
   for (std::string const& name : NamesIn(folder)) {
-    if (!HasTwins(name) && name != composed) continue;
-    if (std::find(except.begin(), except.end(), name) != except.end()) continue;
-    if (Composed(name) == composed) names.push_back(name);
+    bool const is_new = std::find(except.begin(), except.end(), name) == except.end();
+    if (is_new && HasTwins(name) && Composed(name) == composed) names.push_back(name);
   }
   return names;
 }

@@ -9,7 +9,7 @@ namespace platform {
 
 int FlushVolume(char const* path) {
   int const file = open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-  if (file < 0) return -1;
+  if (file == -1) return -1;
   int result = syncfs(file);
   // File systems without a journal (ext2, FAT) write their metadata after syncfs has flushed the
   // disk, which leaves it in the disk's cache. fsync flushes again.

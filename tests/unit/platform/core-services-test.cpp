@@ -108,7 +108,9 @@ TEST(VolumePath, OfAMissingFileDoesNotExist) {
 
 TEST(VolumePath, RemovesDotsAndExtraSlashes) {
   Places const places;
+  fs::create_directory(places / "Mac OS X");
   for (auto const& look : {Followed, Itself}) {
+    EXPECT_EQ(look(places / "Mac OS X/../real/file"), places / "real/file");
     EXPECT_EQ(look(places / "real/./file"), places / "real/file");
     EXPECT_EQ(look(places / "real/sub/../file"), places / "real/file");
     EXPECT_EQ(look(places / "real//file"), places / "real/file");
@@ -173,11 +175,9 @@ TEST(VolumePath, IsFoundByNormalFormAndSpelledAsStored) {
     std::string stands;
     std::string asked;
   };
-  Pair const pairs[] = {{kDecomposed, kComposed},
-                        {kComposed, kDecomposed},
-                        {kHalfHangul, kHangul},
-                        {kOldQa, kQa},
-                        {"10\xE2\x84\xAA", "10K"}};
+  Pair const pairs[] = {
+      {kDecomposed, kComposed},  {kComposed, kDecomposed}, {kHalfHangul, kHangul}, {kOldQa, kQa},
+      {"10\xE2\x84\xAA", "10K"}, {"\u037E", ";"},          {"\u1FEF", "`"}};
   for (Pair const& pair : pairs) {
     TempDir const folder;
     WriteFile(folder / (pair.stands + "/" + pair.stands), "");
@@ -261,6 +261,8 @@ TEST(VolumePath, IsNotFoundByInvalidUtf8) {
   EXPECT_EQ(Itself(folder / "\xFF"), folder / "\xFF");
   EXPECT_EQ(Itself(folder / "\xFE"), "status -43");
   EXPECT_EQ(Itself(folder / "\xEF\xBF\xBD"), "status -43");
+  WriteFile(folder / (decomposed + "\xFF"), "");
+  EXPECT_EQ(Itself(folder / (std::string(kComposed) + "\xFF")), "status -43");
   // Entries below it are found nevertheless.
   EXPECT_EQ(Itself(folder / (std::string("\xFF/") + kComposed)), folder / ("\xFF/" + decomposed));
 }
@@ -313,7 +315,7 @@ TEST(VolumePath, ThatIsTooLongIsRejected) {
   std::string const part = "/" + std::string(200, 'd');
   WorkingFolder const here(places / "real");
   std::string const link = places / "deep";
-  while (deep.size() + part.size() < 4095) {
+  while (deep.size() + part.size() < 4094) {
     fs::create_directory(part.substr(1));
     fs::current_path(part.substr(1));
     deep += part;
@@ -322,6 +324,14 @@ TEST(VolumePath, ThatIsTooLongIsRejected) {
   fs::create_directory(std::string(250, 'e'));
   EXPECT_EQ(Itself(link), link);
   EXPECT_EQ(Itself(link + "/" + std::string(250, 'e')), "status -2110");
+  WriteFile(std::string(250, 'e') + "/file", "");
+  EXPECT_EQ(Itself(link + "/" + std::string(250, 'e') + "/file"), "status -2110");
+
+  // The longest path that fits.
+  std::string const longest = "/" + std::string(4095 - deep.size() - 1, 'f');
+  WriteFile(longest.substr(1), "");
+  EXPECT_EQ(Itself(deep + longest), deep + longest);
+  EXPECT_EQ(Itself(link + longest), deep + longest);
 }
 
 TEST(VolumePath, SkipsAnUnreadableFolderOfTheOtherNormalForm) {
@@ -346,7 +356,10 @@ TEST(VolumePath, OfASymlinkWhoseNameEndsInADotIsItsOwn) {
 TEST(VolumePath, IsFoundByListingTheWorkingFolder) {
   TempDir const folder;
   std::string const kelvin = "\u212A";
-  WriteFile(folder / kelvin, "");
+  // Other names, whatever order they are listed in.
+  for (char const* const name : {"a", "b", "\u00FC", kelvin.c_str(), "c", "d", "\u00E4"}) {
+    WriteFile(folder / name, "");
+  }
   WorkingFolder const here(folder.path());
   EXPECT_EQ(Itself("K"), folder / kelvin);
 }

@@ -1,9 +1,13 @@
 // The stored spelling on a volume that ignores case. No such volume is available, so a folder with
 // a faked type and a faked lstat represents it.
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <linux/magic.h>
+#include <linux/openat2.h>
+#include <sys/syscall.h>  // IWYU pragma: keep
 #include <unicode/normalizer2.h>
 #include <unicode/unistr.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <cstdint>
@@ -11,6 +15,7 @@
 #include <string>
 
 #include "../foundation/system-calls.h"
+#include "platform/core-services.h"
 #include "platform/file-system-name.h"
 #include "platform/spelling-posix.h"
 #include "platform/volume-flush.h"
@@ -177,6 +182,51 @@ TEST(FindByNormalForm, SearchesEachFolderOnce) {
   EXPECT_FALSE(platform::FindByNormalForm((deep + "/missing").c_str(), true, found));
 }
 
+TEST(FindByNormalForm, SearchesAFolderOfTheOtherFormOnce) {
+  test::TempDir folder;
+  std::string stands = folder.path();
+  std::string asked = folder.path();
+  for (int i = 0; i < 5; ++i) {
+    stands += "/u\u0308";
+    asked += "/\u00FC";
+  }
+  fs::create_directories(stands);
+  if (fs::exists(asked)) GTEST_SKIP() << "the volume takes both forms for one name";
+  test::SystemCalls calls;
+  int searches = 0;
+  calls.lstat = [&searches](char const* path, struct stat* info) {
+    ++searches;
+    return test::LibraryLstat(path, info);
+  };
+  std::string found;
+  EXPECT_FALSE(platform::FindByNormalForm((asked + "/missing").c_str(), false, found));
+  EXPECT_EQ(searches, 1);
+}
+
+TEST(FSPathMakeRef, TakesAResolvedPathInOneLookup) {
+  test::TempDir folder;
+  std::string const link = folder / "link";
+  fs::create_symlink("nothing", link);
+  open_how how = {};
+  how.flags = O_PATH | O_CLOEXEC;
+  long const root = syscall(SYS_openat2, AT_FDCWD, "/", &how, sizeof(how));
+  if (root < 0) GTEST_SKIP() << "this system lacks the call, or denies it";
+  close(static_cast<int>(root));
+  test::SystemCalls calls;
+  bool looked_again = false;
+  calls.lstat = [&looked_again](char const* path, struct stat* info) {
+    looked_again = true;
+    return test::LibraryLstat(path, info);
+  };
+  calls.close = [](int file) { EXPECT_NE(fcntl(file, F_GETFD) & FD_CLOEXEC, 0); };
+  FSRef ref;
+  EXPECT_EQ(FSPathMakeRefWithOptions(reinterpret_cast<UInt8 const*>(link.c_str()),
+                                     kFSPathMakeRefDoNotFollowLeafSymlink, &ref, nullptr),
+            noErr);
+  EXPECT_EQ(ref.path, link);
+  EXPECT_FALSE(looked_again);
+}
+
 TEST(Lstat, FindsAnotherSpellingOnlyWhereNamesAreToBlame) {
   test::TempDir folder;
   std::string const composed = folder / "\u00FC";
@@ -190,6 +240,8 @@ TEST(Lstat, FindsAnotherSpellingOnlyWhereNamesAreToBlame) {
     return -1;
   };
   struct stat info;
+  errno = EIO;
+  EXPECT_EQ(platform::Lstat((folder / "u\u0308").c_str(), info), 0);
   for (int const of_names : {ENOENT, ENOTDIR, EACCES, ENAMETOOLONG}) {
     error = of_names;
     EXPECT_EQ(platform::Lstat(composed.c_str(), info), 0) << strerror(error);
@@ -204,6 +256,14 @@ TEST(Lstat, FindsAnotherSpellingOnlyWhereNamesAreToBlame) {
   error = ENOTDIR;
   EXPECT_EQ(platform::Lstat(composed.c_str(), info), -1);
   EXPECT_EQ(errno, ENOTDIR);
+}
+
+TEST(Lstat, FindsADanglingSymlinkOfAnotherSpelling) {
+  test::TempDir folder;
+  fs::create_symlink("nothing", folder / "u\u0308");
+  struct stat info = {};
+  EXPECT_EQ(platform::Lstat((folder / "\u00FC").c_str(), info), 0);
+  EXPECT_TRUE(S_ISLNK(info.st_mode));
 }
 
 TEST(FileSystemName, IsThatOfTheTypeOrEmpty) {
@@ -228,7 +288,8 @@ TEST(FlushVolume, FlushesWhatItOpensBehindTheVolume) {
   test::TempDir folder;
   test::SystemCalls calls;
   int flushed = 0;
-  calls.fsync = [&flushed](int) {
+  calls.fsync = [&flushed](int file) {
+    EXPECT_NE(fcntl(file, F_GETFD) & FD_CLOEXEC, 0);
     ++flushed;
     return 0;
   };
