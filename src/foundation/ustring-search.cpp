@@ -110,8 +110,7 @@ int ustring::compare(ustring const& other) const {
 }
 
 int ustring::compare(ustring const& other, unsigned long n) const {
-  unsigned long const bytes = std::min(n, data_length + 1);
-  return std::strncmp(data, other.data, bytes) == 0 ? 0 : Difference(data, other.data, Identity);
+  return std::strncmp(data, other.data, n) == 0 ? 0 : Difference(data, other.data, Identity);
 }
 
 int ustring::compare(ustring const& a, ustring const& b, bool ignore_case) {

@@ -35,13 +35,13 @@ TEST(TmpNameGen, NamesHaveEightCharactersOfTheAlphabet) {
   }
 }
 
-TEST(TmpNameGen, NamesUseTheWholeAlphabet) {
-  std::set<char> seen;
+TEST(TmpNameGen, NamesUseTheWholeAlphabetInEachPlace) {
+  std::set<char> seen[8];
   for (int i = 0; i < 10000; ++i) {
     std::string const name = TmpNameGen::getInstance()->getTmpName().c_str();
-    seen.insert(name.begin(), name.end());
+    for (std::size_t place = 0; place < 8; ++place) seen[place].insert(name[place]);
   }
-  EXPECT_EQ(seen, std::set<char>(kAlphabet, kAlphabet + 64));
+  EXPECT_THAT(seen, testing::Each(std::set<char>(kAlphabet, kAlphabet + 64)));
 }
 
 TEST(TmpNameGen, ConsecutiveNamesDiffer) {
@@ -130,6 +130,16 @@ TEST(TmpNameGen, EmptyKeyIsFilledFromRand) {
   std::srand(static_cast<unsigned>(seed));
   for (unsigned char& byte : expected) byte = static_cast<unsigned char>(std::rand() & 255);
   EXPECT_EQ(key, expected);
+}
+
+TEST(TmpNameGen, FillsNoMoreThanTheKey) {
+  for (unsigned char const after : {'a', 'b'}) {
+    Bytes sbox;
+    unsigned char key[257] = {};
+    key[256] = after;
+    TmpNameGen::rc4_init(sbox.data(), key);
+    EXPECT_EQ(key[256], after);
+  }
 }
 
 TEST(TmpNameGen, NonemptyKeyIsUnchanged) {

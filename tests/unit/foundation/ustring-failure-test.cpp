@@ -153,6 +153,14 @@ TEST_F(UstringFailure, AppendWithoutMemoryThrowsAndKeepsTheString) {
   EXPECT_EQ(s.append("defgh"), "abcdefgh");
 }
 
+TEST_F(UstringFailure, ChangeThatFitsExactlyNeedsNoMemory) {
+  ustring s("abcdefgh");
+  allocations_left = 0;
+  EXPECT_NO_THROW(s.assign("hgfedcba"));
+  allocations_left = -1;
+  EXPECT_EQ(s, "hgfedcba");
+}
+
 TEST_F(UstringFailure, AssignWithoutMemoryThrowsAndLeavesTheTargetEmpty) {
   ustring s("abc");
   ExpectBadAlloc(0, [&] { s.assign("longer than that"); });
