@@ -231,6 +231,12 @@ TEST_F(FSCopyPathTest, CopiesAnEmptyFolder) {
   EXPECT_THAT(log.Lines(), Each(Not(HasSubstr(From() + "/")))) << "dot entries aren't statted";
 }
 
+TEST_F(FSCopyPathTest, MakesTheFoldersAboveItsDestination) {
+  fs::create_directory(From());
+  EXPECT_EQ(service.FSCopyPath(From().c_str(), (To() + "/deep/down").c_str()), 0);
+  EXPECT_TRUE(fs::is_empty(To() + "/deep/down"));
+}
+
 TEST_F(FSCopyPathTest, FailsForAFolderIfTheDiskIsFull) {
   if (!fs::exists("/dev/full")) GTEST_SKIP() << "this system has no /dev/full";
   WriteFile(From() + "/a", "1");
