@@ -1,6 +1,9 @@
 #include "launcher/launcher.h"
 
 #include <gmock/gmock.h>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 #include <stdlib.h>
 #include <sys/stat.h>
 
@@ -10,11 +13,13 @@
 #include <QEventLoop>
 #include <QFont>
 #include <QMetaMethod>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
+#include <atomic>
 #include <chrono>
 #include <thread>
 
@@ -119,6 +124,18 @@ class LauncherTest : public testing::Test {
   test::LogCapture log;
 };
 
+/// Finds the worker of a launcher that is made later: moving it to its thread sends it an event.
+class WorkerFinder : public QObject {
+ public:
+  WorkerFinder() { qApp->installEventFilter(this); }
+
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (event->type() == QEvent::ThreadChange) worker = qobject_cast<Worker*>(object);
+    return false;
+  }
+  QPointer<Worker> worker;
+};
+
 /// The class's own signals and slots, in order.
 std::vector<std::string> Members(QMetaObject const& meta) {
   std::vector<std::string> members;
@@ -205,7 +222,13 @@ TEST_F(LauncherTest, SetsTheLabelAndShowsTheDialogOnRequest) {
 }
 
 TEST_F(LauncherTest, HandlesSignalsOfTheAdapterLikeThoseOfItsWorker) {
+  WorkerFinder finder;
   Launcher launcher;
+  ASSERT_NE(finder.worker, nullptr);
+  emit finder.worker->sigUpdateProgress(4, 3);
+  emit finder.worker->sigSetLabelText(QStringLiteral("from the worker"));
+  EXPECT_EQ(Dialog()->value(), 75);
+  EXPECT_EQ(Dialog()->labelText(), "from the worker");
   Notify_Adapter::GetInstance()->UpdateProgress(4, 1);
   Notify_Adapter::GetInstance()->UpdateDialogText(QStringLiteral("from below"));
   EXPECT_EQ(Dialog()->value(), 25);
@@ -241,11 +264,15 @@ TEST_F(LauncherTest, BatchesNotificationsWhileTheWindowIsVisible) {
 
 TEST_F(LauncherTest, ShowsThreeEntriesAsThirdsAndStaysAt100UntilHidden) {
   Carry({Entry::Folder("Contents"), Entry::Folder("Contents/MacOS"), Client()});
+  WorkerFinder finder;
   Launcher launcher;
+  ASSERT_NE(finder.worker, nullptr);
+  QSignalSpy progress(finder.worker, SIGNAL(sigUpdateProgress(int, int)));
   Watch watch(Dialog());
   EXPECT_TRUE(RunToTheEnd(&launcher));
   EXPECT_THAT(watch.events, ElementsAre("show", "33", "66", "100", "hide"));
   EXPECT_EQ(Dialog()->labelText(), "Larkmoor Drive is ready.");
+  EXPECT_THAT(progress, ElementsAre(QVariantList{100, 100}));
 }
 
 constexpr int kFrameMs = 17;
@@ -279,24 +306,29 @@ TEST_F(LauncherTest, LeavesItsLastStateOnTheScreenForAFrame) {
   EXPECT_GE(clock.shown_ms, kFrameMs);
 }
 
-/// A window that appears late: its first paint event with the ready text comes again later.
+/// A window that appears late: paint events with the ready text come again later, while the
+/// launcher waits for them.
 class LateWindow : public QObject {
  public:
-  explicit LateWindow(QProgressDialog* dialog) : dialog_(dialog) { qApp->installEventFilter(this); }
+  explicit LateWindow(QProgressDialog* dialog) : dialog_(dialog) {
+    qApp->installEventFilter(this);
+    again_.setSingleShot(true);
+    QObject::connect(&again_, SIGNAL(timeout()), dialog, SLOT(update()));
+  }
 
   bool eventFilter(QObject* object, QEvent* event) override {
     constexpr int kDelayMs = 2 * kFrameMs;
-    if (object != dialog_ || event->type() != QEvent::Paint || was_late_) return false;
+    if (object != dialog_ || event->type() != QEvent::Paint) return false;
     if (dialog_->labelText() != "Larkmoor Drive is ready.") return false;
-    was_late_ = true;
+    if (QThread::currentThread()->loopLevel() > 1) return false;
     QCoreApplication::postEvent(dialog_, new QEvent(QEvent::User));
-    QTimer::singleShot(kDelayMs, dialog_, SLOT(update()));
+    again_.start(kDelayMs);
     return true;
   }
 
  private:
   QProgressDialog* dialog_;
-  bool was_late_ = false;
+  QTimer again_;
 };
 
 TEST_F(LauncherTest, WaitsForAWindowThatAppearsLate) {
@@ -359,6 +391,47 @@ TEST_F(LauncherTest, EndsProperlyWhenTheWorkerFinishesBeforeTheLoopStarts) {
   while (!done()) QThread::yieldCurrentThread();
   EXPECT_EQ(QApplication::exec(), 0);
 }
+
+TEST_F(LauncherTest, JoinsItsThreadBeforeItEndsTheLoop) {
+  Install();
+  WorkerFinder finder;
+  Launcher launcher;
+  ASSERT_NE(finder.worker, nullptr);
+  std::atomic<bool> ended = false;
+  bool joined = false;
+  QObject::connect(finder.worker->QObject::thread(), &QThread::finished, [&ended] {
+    QThread::msleep(100);
+    ended = true;
+  });
+  QObject context;
+  QObject::connect(qApp, &QCoreApplication::aboutToQuit, &context, [&] { joined = ended; });
+  EXPECT_TRUE(RunToTheEnd(&launcher));
+  EXPECT_TRUE(joined);
+}
+
+TEST_F(LauncherTest, DestroysItsWorkerAndTheThread) {
+  WorkerFinder finder;
+  QPointer<QThread> thread;
+  {
+    Launcher launcher;
+    ASSERT_NE(finder.worker, nullptr);
+    thread = finder.worker->QObject::thread();
+    ASSERT_NE(qobject_cast<HandlerThread*>(thread), nullptr);
+  }
+  EXPECT_EQ(finder.worker, nullptr);
+  EXPECT_EQ(thread, nullptr);
+}
+
+#ifdef __GLIBC__
+TEST(WorkerTest, LeavesNoMemoryBehind) {
+  constexpr int kWorkers = 100;
+  constexpr std::size_t kLeast = 10;  // of a leak
+  { Worker const first; }
+  std::size_t const before = mallinfo2().uordblks;
+  for (int i = 0; i < kWorkers; ++i) Worker const worker;
+  EXPECT_LT(mallinfo2().uordblks, before + kWorkers * kLeast);
+}
+#endif
 
 TEST_F(LauncherTest, StartsTheSequenceOnce) {
   Install();

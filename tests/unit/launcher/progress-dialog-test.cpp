@@ -2,7 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <QApplication>
 #include <QCoreApplication>
+#include <QFont>
 #include <QIcon>
 #include <QImage>
 #include <QPixmap>
@@ -20,6 +22,8 @@ class ProgressDialog : public testing::Test {
 };
 
 TEST_F(ProgressDialog, HasItsFixedLook) {
+  QFont const former = QApplication::font();
+  QApplication::setFont(QFont(QStringLiteral("Another")));
   ProcessingProgressDialog const dialog;
   EXPECT_EQ(dialog.parent(), nullptr);
   EXPECT_EQ(dialog.windowTitle(), "Larkmoor Drive");
@@ -36,6 +40,7 @@ TEST_F(ProgressDialog, HasItsFixedLook) {
   EXPECT_EQ(dialog.styleSheet(),
             " QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } ");
   EXPECT_FALSE(dialog.isVisible());
+  QApplication::setFont(former);
 }
 
 TEST_F(ProgressDialog, HasNoCloseButton) {

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
+#include <malloc.h>
 #include <signal.h>
 #include <sys/prctl.h>
 #include <sys/stat.h>
@@ -149,6 +150,16 @@ TEST_F(Bundle, StartsItsProgramWithNoSignalBlocked) {
   ASSERT_TRUE(opened);
   EXPECT_EQ(std::stoull(Await("blocked"), nullptr, 16), 0U);
   wait(nullptr);
+}
+
+TEST_F(Bundle, LeavesNoMemoryBehind) {
+  constexpr int kTimes = 100;
+  constexpr std::size_t kLeast = 10;  // of a leak
+  QString const app = App();
+  platform::OpenBundle(app);
+  std::size_t const before = mallinfo2().uordblks;
+  for (int i = 0; i < kTimes; ++i) platform::OpenBundle(app);
+  EXPECT_LT(mallinfo2().uordblks, before + kTimes * kLeast);
 }
 
 TEST_F(Bundle, PassesItsEnvironmentOn) {
