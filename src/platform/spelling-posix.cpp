@@ -169,16 +169,15 @@ std::string StoredName(std::string const& folder, std::string const& name) {
 
 std::string AsStored(char const* path) {
   if (!MayBeBlindToCase(path)) return path;
-  std::string stored = "/";
-  for (std::string_view rest = path; !rest.empty();) {
+  std::string stored;
+  for (std::string_view rest = path;;) {
     rest.remove_prefix(std::min(rest.find_first_not_of('/'), rest.size()));
+    if (rest.empty()) return stored.empty() ? "/" : stored;
     std::size_t const end = std::min(rest.find('/'), rest.size());
-    if (end == 0) break;
-    if (stored.size() > 1) stored += '/';
+    stored += '/';
     stored += StoredName(stored, std::string(rest.substr(0, end)));
     rest.remove_prefix(end);
   }
-  return stored;
 }
 
 bool FindByNormalForm(char const* path, bool follow_leaf, std::string& found) {

@@ -347,10 +347,12 @@ TEST(VolumePath, SkipsAnUnreadableFolderOfTheOtherNormalForm) {
   });
 }
 
-TEST(VolumePath, OfASymlinkWhoseNameEndsInADotIsItsOwn) {
+TEST(VolumePath, OfASymlinkWithADotInAShortNameOrASingleLetterIsItsOwn) {
   Places const places;
-  fs::create_symlink("real", places / "a.");
-  EXPECT_EQ(Itself(places / "a."), places / "a.");
+  for (char const* const name : {"a", ".a", "a."}) {
+    fs::create_symlink("real", places / name);
+    EXPECT_EQ(Itself(places / name), places / name);
+  }
 }
 
 TEST(VolumePath, IsFoundByListingTheWorkingFolder) {

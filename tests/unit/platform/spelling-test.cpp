@@ -227,6 +227,17 @@ TEST(FSPathMakeRef, TakesAResolvedPathInOneLookup) {
   EXPECT_FALSE(looked_again);
 }
 
+TEST(FSPathMakeRef, FailsIfTheFileDisappears) {
+  test::TempDir folder;
+  test::SystemCalls calls;
+  calls.lstat = [](char const*, struct stat*) { return test::FailWith(ENOENT); };
+  FSRef ref;
+  Boolean is_directory = 7;
+  EXPECT_EQ(
+      FSPathMakeRef(reinterpret_cast<UInt8 const*>(folder.path().c_str()), &ref, &is_directory),
+      fnfErr);
+}
+
 TEST(Lstat, FindsAnotherSpellingOnlyWhereNamesAreToBlame) {
   test::TempDir folder;
   std::string const composed = folder / "\u00FC";
