@@ -1,6 +1,7 @@
 #include "foundation/file-op-internal.h"
 
 #include <sys/stat.h>
+#include <unicode/utf8.h>
 
 #include <algorithm>
 #include <cstring>
@@ -19,8 +20,7 @@ namespace file_op {
 
 bool IsAscii(ustring const& path) {
   char const* const text = path.c_str();
-  return std::all_of(text, text + path.length(),
-                     [](char c) { return static_cast<unsigned char>(c) < 128; });
+  return std::all_of(text, text + path.length(), [](char c) { return U8_IS_SINGLE(c); });
 }
 
 ustring ToNfc(ustring const& path) { return IsAscii(path) ? path : path.normalize(ustring::NFC); }

@@ -142,6 +142,7 @@ TEST(GetFileInfoFault, FailsLikeFSGetRealPathIfTheStoredPathIsTooLong) {
   EXPECT_EQ(GetFileInfo(folder / "file", info), -1);
   ustring path = folder / "file";
   EXPECT_EQ(FSGetRealPath(path), -1);
+  EXPECT_FALSE(IsFileExist(path, false));
   ref_has_no_path = false;
   EXPECT_EQ(refused_size, 4096);
   EXPECT_THAT(log.Lines(), Contains("[ERROR] file-op(#): FSPathMakeRef: -2110"));
@@ -331,6 +332,17 @@ TEST(FSRenameFault, FailsForAnUnreadableFolderAcrossVolumes) {
   });
 }
 
+TEST(FSRenameFault, FailsForAFolderAndAFileAcrossVolumes) {
+  TempDir folder;
+  fs::create_directory(folder / "source");
+  WriteFile(folder / "target", "bytes");
+  SystemCalls calls;
+  MakeRenamesCrossVolumes(calls);
+  EXPECT_EQ(FSRename(folder / "source", folder / "target", false), -3);
+  EXPECT_TRUE(fs::exists(folder / "source"));
+  EXPECT_EQ(ReadFile(folder / "target"), "bytes");
+}
+
 TEST(FSRenameFault, ReportsSuccessForOtherKindsAcrossVolumesWithoutMovingThem) {
   TempDir folder;
   fs::create_symlink("text", folder / "link");
@@ -422,6 +434,31 @@ TEST(FSRemoveFault, PassesOverAnEntryThatVanishes) {
   EXPECT_EQ(FSRemove(folder / "tree", false), 0);
   calls.fstatat = nullptr;
   EXPECT_FALSE(fs::exists(folder / "tree"));
+}
+
+TEST(FSRemoveFault, FailsForAnEntryThatVanishesAfterItsStat) {
+  TempDir folder;
+  WriteFile(folder / "tree/file", "");
+  SystemCalls calls;
+  calls.fstatat = [](int at, char const* name, struct stat* info, int flags) {
+    int const result = test::LibraryFstatat(at, name, info, flags);
+    unlinkat(at, name, 0);
+    return result;
+  };
+  EXPECT_EQ(FSRemove(folder / "tree", false), -3);
+}
+
+TEST(FSRemoveFault, StopsAtTheFirstEntryThatCannotBeStatted) {
+  TempDir folder;
+  for (char const* const name : {"1", "2", "3"}) WriteFile(folder / "tree" + "/" + name, "");
+  SystemCalls calls;
+  int stats = 0;
+  calls.fstatat = [&stats](int, char const*, struct stat*, int) {
+    ++stats;
+    return FailWith(EIO);
+  };
+  EXPECT_EQ(FSRemove(folder / "tree", false), -3);
+  EXPECT_EQ(stats, 1);
 }
 
 TEST(FSRemoveFault, TreatsAReadErrorAsTheEndOfTheListing) {

@@ -72,6 +72,26 @@ TEST_F(LoggerTest, FailedWritesAreNotCounted) {
   LoggerProbe::SetStream(std::fopen(LogPath().c_str(), "r"));
   WriteRecordOf(100);
   EXPECT_EQ(*LoggerProbe::Size(), 100);
+  LogThrough2(3, "%s", "");
+  EXPECT_EQ(*LoggerProbe::Size(), 100);
+}
+
+TEST_F(LoggerTest, RecordsAreNotCountedAfterAReloadThatFails) {
+  ASSERT_EQ(OpenFile(), 0);
+  WriteRecordOf(100);
+  fs::remove_all(folder_.path());
+  ++*LoggerProbe::SharedCount();
+  WriteRecordOf(100);
+  EXPECT_EQ(LoggerProbe::Stream(), nullptr);
+  EXPECT_EQ(*LoggerProbe::Size(), 100);
+}
+
+TEST_F(LoggerTest, RotationRemovesAFolderInTheWay) {
+  ASSERT_EQ(OpenFile(2), 0);
+  fs::create_directory(Generation(0));
+  LogThrough2(3, "%s\n", "old");
+  RotateLocked();
+  EXPECT_EQ(WithoutStamps(ReadFile(Generation(0))), "old\n");
 }
 
 TEST_F(LoggerTest, DepthOf1KeepsOneOldFile) {

@@ -40,6 +40,11 @@ int LibraryLstat(char const* path, struct stat* info) {
   return call(path, info);
 }
 
+int LibraryFstatat(int folder, char const* name, struct stat* info, int flags) {
+  static auto* const call = Library<int(int, char const*, struct stat*, int)>("fstatat");
+  return call(folder, name, info, flags);
+}
+
 int LibraryStatfs(char const* path, struct statfs* info) {
   static auto* const call = Library<int(char const*, struct statfs*)>("statfs");
   return call(path, info);
@@ -89,8 +94,7 @@ int fstatat(int folder, char const* name, struct stat* info, int flags) noexcept
   if (taken_over != nullptr && taken_over->fstatat) {
     return taken_over->fstatat(folder, name, info, flags);
   }
-  static auto* const call = Library<int(int, char const*, struct stat*, int)>("fstatat");
-  return call(folder, name, info, flags);
+  return test::LibraryFstatat(folder, name, info, flags);
 }
 
 int statfs(char const* path, struct statfs* info) noexcept {

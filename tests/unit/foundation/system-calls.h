@@ -43,6 +43,7 @@ int FailWith(int code);
 /// The library's functions.
 int LibraryReadDir(DIR* dir, dirent* buffer, dirent** entry);
 int LibraryLstat(char const* path, struct stat* info);
+int LibraryFstatat(int folder, char const* name, struct stat* info, int flags);
 int LibraryStatfs(char const* path, struct statfs* info);
 ssize_t LibraryRead(int file, void* bytes, std::size_t count);
 ssize_t LibraryWrite(int file, void const* bytes, std::size_t count);
