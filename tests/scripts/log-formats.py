@@ -8,7 +8,7 @@ import re
 import sys
 
 CALL = re.compile(
-    r'LOG_MSG\(\s*LEVEL_(\w+),\s*log_component::(\w+)\(\),\s*((?:"(?:[^"\\]|\\.)*"\s*)+)[,)]'
+    r'LOG_MSG\(\s*LEVEL_(\w+),\s*log_component::(\w+)\(\),\s*(?://.*\s*)?((?:"(?:[^"\\]|\\.)*"\s*)+)[,)]'
 )
 LITERAL = re.compile(r'"((?:[^"\\]|\\.)*)"')
 # Comments show the macro too.
