@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QLatin1String>
+#include <algorithm>
+#include <iterator>
 
 namespace StrTable {
 namespace {
@@ -44,10 +46,10 @@ QString LoadStr(int id) {
 }
 
 int LookupStrID(QString key) {
-  for (int id = 0; id < kRowCount; ++id) {
-    if (qstricmp(key.toLocal8Bit().constData(), ktab[id]) == 0) return id;
-  }
-  return -1;
+  auto const* const found = std::find_if(std::begin(ktab), std::end(ktab), [&](char const* row) {
+    return qstricmp(key.toLocal8Bit().constData(), row) == 0;
+  });
+  return found == std::end(ktab) ? -1 : static_cast<int>(found - ktab);
 }
 
 }  // namespace StrTable
