@@ -286,4 +286,11 @@ TEST_F(SingleInstance, AdmitsAStartThatFindsNoFolder) {
   EXPECT_EQ(output, "first\n");
 }
 
+TEST_F(SingleInstance, AdmitsAStartThatCannotMakeItsLock) {
+  auto const output = LockWithMounts(
+      kFreshFolders + std::string(" && mkdir -p -m 700 /run/user/0 && mount -o remount,ro /run"));
+  if (!output) GTEST_SKIP() << "this system allows no user namespace, or no mount in one";
+  EXPECT_EQ(output, "first\n");
+}
+
 }  // namespace
