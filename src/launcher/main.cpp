@@ -4,7 +4,6 @@
 #include <QTranslator>
 #include <clocale>
 #include <cstdio>
-#include <memory>
 
 #include "foundation/logger.h"
 #include "launcher/launcher.h"
@@ -59,8 +58,10 @@ int main(int argc, char** argv) {
   if (!translator.isEmpty()) QCoreApplication::installTranslator(&translator);
   StrTable::InitStrTable();
 
-  auto const launcher = std::make_unique<Launcher>();
+  auto* launcher = new Launcher;
   launcher->Run();
   launcher->Start();
-  return QApplication::exec();
+  int const status = QApplication::exec();
+  delete launcher;
+  return status;
 }
