@@ -133,7 +133,7 @@ TEST(TmpNameGen, EmptyKeyIsFilledFromRand) {
 }
 
 TEST(TmpNameGen, FillsNoMoreThanTheKey) {
-  for (unsigned char const after : {'a', 'b'}) {
+  for (unsigned char after = 1; after <= 2; ++after) {
     Bytes sbox;
     unsigned char key[257] = {};
     key[256] = after;
