@@ -35,13 +35,15 @@ int RemoveEntries(ustring const& path, Walk walk, bool& is_readable) {
 
 /// FSRemove of an entry: `name` relative to an open folder, `path` in full. Returns 0 on success.
 int RemoveAt(int folder, char const* name, ustring const& path) {
-  struct stat found;
-  if (fstatat(folder, name, &found, AT_SYMLINK_NOFOLLOW) != 0) return errno == ENOENT ? 0 : -1;
-  int const type = file_op::FileTypeOfMode(found.st_mode);
   // Does what GetFileInfo does, without filling a record. GetFileInfo fails on a path that is too
   // long for the system, although the name alone would do.
   bool const is_too_long = path.length() >= PATH_MAX;
-  if (is_too_long || type == FILE_TYPE_NONE || file_op::CheckEntry(path) != 0) return -1;
+  struct stat found;
+  if (!is_too_long && fstatat(folder, name, &found, AT_SYMLINK_NOFOLLOW) != 0) {
+    return errno == ENOENT ? 0 : -1;
+  }
+  int const type = is_too_long ? FILE_TYPE_NONE : file_op::FileTypeOfMode(found.st_mode);
+  if (type == FILE_TYPE_NONE || file_op::CheckEntry(path) != 0) return -1;
   if (type != FILE_TYPE_DIRECTORY) return unlinkat(folder, name, 0);
   bool is_readable = false;
   if (int const result = RemoveEntries(path, Walk::kByFolders, is_readable)) return result;

@@ -92,7 +92,7 @@ int Logger::Initialize(Type type, ustring const& log_file, ustring const& level_
                        int rotate_count) {
   Start();
   DestroySharedData();
-  DestroyLock();  // for a new one
+  DestroyLock();  // InitializeLock keeps a lock that exists
   InitializeLock();
   InitializeFileLock();
   InitializeSharedData();
@@ -164,6 +164,7 @@ void Logger::ReloadLogFile() {
 }
 
 int Logger::Rotate() {
+  Start();
   for (int i = rotate_cnt - 2; i >= 0; --i) {
     std::rename(GenerationName(log_path, i).text, GenerationName(log_path, i + 1).text);
   }
@@ -216,7 +217,7 @@ bool Logger::Start() {
     new (&log_level_room.object) std::map<ustring, int>;
     new (&log_path_room.object) ustring;
     log_fp = stderr;
-    return true;  // that it is made
+    return true;  // for `made`, which only runs this once
   }();
   return made;
 }

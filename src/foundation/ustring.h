@@ -243,12 +243,6 @@ inline bool operator<(ustring const& a, ustring const& b) {
   return std::strcmp(a.c_str(), b.c_str()) < 0;
 }
 inline bool operator==(ustring const& a, ustring const& b) {
-  // Comparing a known number of bytes is faster than finding the ends. operator[] may have written
-  // a NUL before the end, so only strings that still end there take this way.
-  unsigned long const end = a.length();
-  if (end == b.length() && a[end] == '\0' && std::memcmp(a.c_str(), b.c_str(), end + 1) == 0) {
-    return true;
-  }
   return std::strcmp(a.c_str(), b.c_str()) == 0;
 }
 inline bool operator>(ustring const& a, ustring const& b) { return b < a; }

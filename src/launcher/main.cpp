@@ -4,6 +4,7 @@
 #include <QTranslator>
 #include <clocale>
 #include <cstdio>
+#include <memory>
 
 #include "foundation/logger.h"
 #include "launcher/launcher.h"
@@ -58,10 +59,8 @@ int main(int argc, char** argv) {
   if (!translator.isEmpty()) QCoreApplication::installTranslator(&translator);
   StrTable::InitStrTable();
 
-  auto* launcher = new Launcher;
+  auto const launcher = std::make_unique<Launcher>();
   launcher->Run();
   launcher->Start();
-  int const status = QApplication::exec();
-  delete launcher;
-  return status;
+  return QApplication::exec();
 }

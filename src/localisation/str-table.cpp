@@ -19,8 +19,7 @@ constexpr bool EachRowStandsAtItsId() {
 #undef ROW
   return next == kRowCount;
 }
-// An id is frozen: rows are not moved, inserted or removed.
-static_assert(EachRowStandsAtItsId());
+static_assert(EachRowStandsAtItsId(), "an id is frozen: rows are not moved, inserted or removed");
 
 char const* stab[kRowCount];  // the default English texts, UTF-8
 char const* ktab[kRowCount];  // the keys, ASCII

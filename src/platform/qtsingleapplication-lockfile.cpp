@@ -27,7 +27,7 @@ QByteArray LockFolder() {
   if (IsPrivateFolder(runtime)) return runtime;
   for (char const* shared : {"/dev/shm", "/tmp"}) {
     QByteArray own = QByteArray(shared) + "/larkmoor-launcher-" + uid;
-    mkdir(own.constData(), S_IRWXU);  // unless it exists
+    mkdir(own.constData(), S_IRWXU);  // fails if it exists; the check decides
     if (IsPrivateFolder(own)) return own;
   }
   return {};

@@ -43,7 +43,7 @@ ustring GetAppBackupDir(ustring const& path, int index) {
   if (index == 0) return first;
   char postfix[8];
   if (snprintf(postfix, sizeof postfix, "%d", index) < 0) {
-    LOG_MSG(LEVEL_ERROR, log_component::service(),  // on no known system
+    LOG_MSG(LEVEL_ERROR, log_component::service(),  // %d fails on no known system
             "[ERROR] larkmoor-service(%d): snprintf failed (continuing without postfix)");
     postfix[0] = '\0';
   }

@@ -164,6 +164,17 @@ TEST_F(Install, DerivesThePluginPathFromABareName) {
   EXPECT_EQ(run.out, "lib path = '../Frameworks/plugins'\n");
 }
 
+TEST_F(Install, DerivesThePluginPathFromADot) {
+  box.Carry(100);
+  test::Process::Options start = box.Start();
+  start.program = start.arguments[0];
+  start.arguments = {"."};
+  start.folder = box.Bundle() + "/Contents/Resources/package";
+  test::Outcome const run = test::Run(start);
+  EXPECT_EQ(run.status, 0);
+  EXPECT_EQ(run.out, "lib path = '../../Frameworks/plugins'\n");
+}
+
 TEST_F(Install, WritesNothingOutsideTheUsersRoot) {
   box.Carry(100);
   test::Tree const bundle = ReadTree(box.Bundle());

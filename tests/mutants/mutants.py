@@ -350,7 +350,7 @@ def main():
     print(f"== Testing {len(mutants)} mutants, seed {seed}", flush=True)
     kills = collections.Counter()
     waiting, results, lock = queue.SimpleQueue(), collections.defaultdict(list), threading.Lock()
-    for mutant in sorted(mutants):  # the next of a file rebuilds what restoring it would
+    for mutant in sorted(mutants):  # the next build of a file also undoes the last mistake
         waiting.put(mutant)
 
     def work(box):

@@ -11,6 +11,10 @@ void OpenLog() {
   }
 }
 
+void RotateLog() {
+  if (Logger::Rotate() != -1) std::abort();
+}
+
 void Log(char const* text) {
   Logger::LogMsg(Logger::LEVEL_ERROR, log_component::service(), "E %s\n", text);
   Logger::LogMsg(Logger::LEVEL_DEBUG, log_component::service(), "D %s\n", text);

@@ -8,6 +8,7 @@
 namespace {
 
 [[gnu::constructor(101)]] void Begin() {
+  if (std::getenv("LARKMOOR_TEST_ROTATE_FIRST") != nullptr) RotateLog();
   if (std::getenv("LARKMOOR_TEST_LOG_FROM_THE_BEGINNING") != nullptr) OpenLog();
   Log("first constructor");
 }

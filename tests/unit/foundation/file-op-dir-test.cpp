@@ -37,6 +37,16 @@ std::map<std::string, DIR_ENTRY> ReadAll(std::string const& path, int flags) {
 
 }  // namespace
 
+TEST(DirHandle, IsEmptyAtFirstLikeAnEntry) {
+  DIR_HANDLE const handle;
+  EXPECT_EQ(handle.dir, nullptr);
+  EXPECT_EQ(handle.flags, 0);
+  DIR_ENTRY const entry;
+  EXPECT_EQ(entry.type, 0);
+  EXPECT_EQ(entry.mtime, 0);
+  EXPECT_EQ(entry.size, 0);
+}
+
 TEST(FSOpenDir, LogsAFailureAndLeavesTheHandleUnchanged) {
   TempDir folder;
   FileOpLog const log;

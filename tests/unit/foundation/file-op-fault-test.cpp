@@ -86,6 +86,14 @@ OSStatus __wrap__Z13FSRefMakePathPK5FSRefPhj(FSRef const* ref, UInt8* path, UInt
 }
 }
 
+TEST(FSReadSymbolicLinkFault, AcceptsAnEmptyTarget) {
+  SystemCalls calls;
+  calls.readlink = [](char const*, char*, std::size_t) { return ssize_t{0}; };
+  ustring target = "before";
+  EXPECT_EQ(FSReadSymbolicLink("/any", target), 0);
+  EXPECT_TRUE(target.empty());
+}
+
 TEST(FSUTimeFault, SetsWholeSeconds) {
   SystemCalls calls;
   calls.lutimes = [](char const*, timeval const* times) {
@@ -267,8 +275,9 @@ TEST(IsMountPointFault, IsTrueOnlyForNetworkVolumes) {
 TEST(IsMountPointFault, IsTrueForAFileServerOfAMac) {
   volume_type = "afpfs";
   EXPECT_TRUE(isMountPoint("/"));
-  volume_type = nullptr;
+  volume_type = "apfs";
   EXPECT_FALSE(isMountPoint("/"));
+  volume_type = nullptr;
 }
 
 TEST(IsMountPointFault, IsFalseForALocalMountPoint) { EXPECT_FALSE(isMountPoint("/proc")); }

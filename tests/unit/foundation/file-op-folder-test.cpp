@@ -209,9 +209,9 @@ TEST(FSMKDir, AppliesTheUmask) {
     Umask const set(mask);
     std::string const path = folder / std::to_string(mask);
     EXPECT_EQ(FSMKDir(path, false), 0);
-    EXPECT_EQ(ModeOf(path), 0777U & ~mask);
+    EXPECT_EQ(ModeOf(path), 0777U & ~unsigned{mask});
     EXPECT_EQ(FSMKDir(path + "-above/inside", true), 0);
-    EXPECT_EQ(ModeOf(path + "-above/inside"), 0777U & ~mask);
+    EXPECT_EQ(ModeOf(path + "-above/inside"), 0777U & ~unsigned{mask});
   }
 }
 

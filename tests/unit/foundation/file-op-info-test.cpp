@@ -249,6 +249,15 @@ TEST(GetFileInfo, UsesTheUtf8WhateverTheUtf16Copy) {
   EXPECT_FALSE(fs::exists(folder / "\xC3\xA4y"));
 }
 
+TEST(IsFileExist, UsesTheAsciiWhateverTheUtf16Copy) {
+  TempDir folder;
+  WriteFile(folder / "y", "");
+  ustring path((folder / "#").c_str());
+  path.c_str_utf16();
+  path.replace('#', 'y');
+  EXPECT_TRUE(IsFileExist(path, false));
+}
+
 TEST(GetFileInfo, FailsBelowARegularFile) {
   TempDir folder;
   WriteFile(folder / "file", "");

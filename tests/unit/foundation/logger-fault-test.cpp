@@ -9,7 +9,7 @@
 #include "support/logger-probe.h"
 #include "system-calls.h"
 
-TEST(LoggerFault, InitializeFailsWithoutMemoryAndNothingIsLoggedThen) {
+TEST(LoggerFault, InitializeFailsWithoutMemoryAndARecordDoesNothing) {
   test::TempDir folder;
   ustring const path = folder / "log";
   LoggerProbe::Restart();

@@ -109,6 +109,13 @@ TEST_F(LoggerTest, HasItsInitialValuesBeforeMain) {
   EXPECT_EQ(at_process_start.private_count, 0U);
 }
 
+TEST_F(LoggerTest, TypesHaveTheirNumbers) {
+  EXPECT_EQ(Logger::TYPE_SYSLOG, 1);
+  EXPECT_EQ(Logger::TYPE_STDOUT, 2);
+  EXPECT_EQ(Logger::TYPE_STDERR, 3);
+  EXPECT_EQ(Logger::TYPE_FILE, 4);
+}
+
 TEST_F(LoggerTest, WritesARecordBeforeMain) {
   EXPECT_THAT(at_process_start.record,
               MatchesRegex("[A-Z][a-z]+ [0-9]+ [0-9:]+ .ERROR. start.[0-9]+.: before main\n"));
@@ -145,6 +152,13 @@ TEST_F(LogOutsideMain, DestructorsLogWithLevelsAndPath) {
             "E main\nD main\nE object destroyed\nD object destroyed\n"
             "E last destructor\nD last destructor\n");
   EXPECT_EQ(WithoutStamps(Text()), "E after the rotation\nD after the rotation\n");
+}
+
+TEST_F(LogOutsideMain, RotationByTheFirstConstructorSilencesTheLogUntilInitialize) {
+  EXPECT_EQ(ErrorOutput({{"LARKMOOR_TEST_ROTATE_FIRST", "1"}}), "");
+  EXPECT_EQ(Rotated(),
+            "E main\nD main\nE object destroyed\nD object destroyed\n"
+            "E last destructor\nD last destructor\n");
 }
 
 TEST_F(LogOutsideMain, LogOpenedByTheFirstConstructorStaysOpen) {

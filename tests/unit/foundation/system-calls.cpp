@@ -84,6 +84,13 @@ int lstat(char const* path, struct stat* info) noexcept {
   return test::LibraryLstat(path, info);
 }
 
+ssize_t readlink(char const* path, char* target, std::size_t size) noexcept {
+  if (taken_over != nullptr && taken_over->readlink)
+    return taken_over->readlink(path, target, size);
+  static auto* const call = Library<ssize_t(char const*, char*, std::size_t)>("readlink");
+  return call(path, target, size);
+}
+
 int lutimes(char const* path, timeval const* times) noexcept {
   if (taken_over != nullptr && taken_over->lutimes) return taken_over->lutimes(path, times);
   static auto* const call = Library<int(char const*, timeval const*)>("lutimes");

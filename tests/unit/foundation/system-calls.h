@@ -27,6 +27,7 @@ struct SystemCalls {
   std::function<int(char const* path, struct statfs* info)> statfs;
   std::function<ssize_t(int file, void* bytes, std::size_t count)> read;
   std::function<ssize_t(int file, void const* bytes, std::size_t count)> write;
+  std::function<ssize_t(char const* path, char* target, std::size_t size)> readlink;
   std::function<int(int file)> fsync;
   // As called from this program.
   std::function<void*(std::size_t size)> malloc;

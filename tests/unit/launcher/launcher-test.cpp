@@ -425,7 +425,7 @@ TEST_F(LauncherTest, DestroysItsWorkerAndTheThread) {
 #ifdef __GLIBC__
 TEST(WorkerTest, LeavesNoMemoryBehind) {
   constexpr int kWorkers = 100;
-  constexpr std::size_t kLeast = 50;  // of a leak
+  constexpr std::size_t kLeast = 50;  // bytes that one leak takes at least
   { Worker const first; }
   std::size_t const before = mallinfo2().uordblks;
   for (int i = 0; i < kWorkers; ++i) Worker const worker;
