@@ -184,6 +184,7 @@ TEST(Ustring, ClearsEachBufferSeparately) {
 TEST(Ustring, RejectsImpossibleLengths) {
   ustring s("abc");
   EXPECT_THROW(s.append('x', ustring::npos), std::bad_alloc);
+  EXPECT_THROW(s.append('x', ustring::npos - 3), std::bad_alloc);
   EXPECT_THROW(s.append('x', ustring::npos - 4), std::bad_alloc);
   EXPECT_THROW(s.append(static_cast<unsigned short>('x'), ustring::npos / 2), std::bad_alloc);
   EXPECT_EQ(s, "abc");
