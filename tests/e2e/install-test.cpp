@@ -153,26 +153,23 @@ TEST_F(Install, RunsInEnglishWhenTheCataloguesAreMissing) {
   EXPECT_EQ(ReadTree(without.App()), ClientTree(100));
 }
 
-TEST_F(Install, DerivesThePluginPathFromABareName) {
+TEST_F(Install, DerivesThePluginPathFromARelativeName) {
   box.Carry(100);
   test::Process::Options start = box.Start();
   start.program = start.arguments[0];
-  start.arguments = {"launcher"};
-  start.folder = box.Bundle() + "/Contents/MacOS";
-  test::Outcome const run = test::Run(start);
-  EXPECT_EQ(run.status, 0);
-  EXPECT_EQ(run.out, "lib path = '../Frameworks/plugins'\n");
-}
-
-TEST_F(Install, DerivesThePluginPathFromADot) {
-  box.Carry(100);
-  test::Process::Options start = box.Start();
-  start.program = start.arguments[0];
-  start.arguments = {"."};
-  start.folder = box.Bundle() + "/Contents/Resources/package";
-  test::Outcome const run = test::Run(start);
-  EXPECT_EQ(run.status, 0);
-  EXPECT_EQ(run.out, "lib path = '../../Frameworks/plugins'\n");
+  struct {
+    char const* name;
+    char const* folder;
+    char const* path;
+  } const cases[] = {{"launcher", "/Contents/MacOS", "../Frameworks/plugins"},
+                     {".", "/Contents/Resources/package", "../../Frameworks/plugins"}};
+  for (auto const& [name, folder, path] : cases) {
+    start.arguments = {name};
+    start.folder = box.Bundle() + folder;
+    test::Outcome const run = test::Run(start);
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "lib path = '" + std::string(path) + "'\n");
+  }
 }
 
 TEST_F(Install, WritesNothingOutsideTheUsersRoot) {
