@@ -284,6 +284,11 @@ TEST(VolumePath, ReportsWhetherTheFileIsAFolder) {
   EXPECT_EQ(is_folder("link", kFSPathMakeRefDoNotFollowLeafSymlink), 0);
 }
 
+TEST(VolumePath, ReturnsZeroForAFolderThatExists) {
+  FSRef ref;
+  EXPECT_EQ(FSPathMakeRef(reinterpret_cast<UInt8 const*>("/"), &ref, nullptr), 0);
+}
+
 TEST(VolumePath, DoesNotFitIntoABufferThatIsTooSmall) {
   Places const places;
   std::string const path = places / "real/file";
